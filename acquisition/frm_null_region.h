@@ -1,0 +1,24 @@
+// The dialog for the null regions of a collect method.
+#pragma once
+
+#include "platform/controls.h"
+#include "platform/form.h"
+
+namespace veritane::acquisition {
+
+class FrmNullRegion : public platform::Form {
+ public:
+  explicit FrmNullRegion(platform::Desktop& desktop);
+
+  platform::Frame fraAddNullRegion{*this, "fraAddNullRegion"};
+  platform::Label lblNullStart{*this, "lblNullStart"};
+  platform::TextBox txtNullStart{*this, "txtNullStart"};
+  platform::Label lblNullEnd{*this, "lblNullEnd"};
+  platform::TextBox txtNullEnd{*this, "txtNullEnd"};
+  platform::Button cmdAddNullRegion{*this, "cmdAddNullRegion"};
+  platform::ListBox lstNulls{*this, "lstNulls"};
+  platform::Button cmdDeleteNullRegion{*this, "cmdDeleteNullRegion"};
+  platform::Button cmdDone{*this, "cmdDone"};
+};
+
+}  // namespace veritane::acquisition

@@ -1,0 +1,41 @@
+# veritane_room(NAME <target> FOLDER <folder> [MAY_INCLUDE <folder>...] [LINK <library>...])
+#
+# Makes one room of the program a static library of all sources directly in its folder. A room sees only
+# itself, the rooms it names, and what those rooms name; including anything else fails the build.
+set_property(GLOBAL PROPERTY veritane_rooms "")
+
+function(veritane_room)
+  cmake_parse_arguments(ROOM "" "NAME;FOLDER" "MAY_INCLUDE;LINK" ${ARGN})
+  set(folder ${CMAKE_SOURCE_DIR}/${ROOM_FOLDER})
+  file(GLOB sources CONFIGURE_DEPENDS ${folder}/*.cpp)
+  file(GLOB headers CONFIGURE_DEPENDS ${folder}/*.h)
+  if(NOT sources)
+    file(WRITE ${CMAKE_CURRENT_BINARY_DIR}/${ROOM_NAME}_empty.cpp "")
+    set(sources ${CMAKE_CURRENT_BINARY_DIR}/${ROOM_NAME}_empty.cpp)
+  endif()
+  add_library(${ROOM_NAME} STATIC ${sources} ${headers})
+  set_target_properties(${ROOM_NAME} PROPERTIES LINKER_LANGUAGE CXX)
+  target_include_directories(${ROOM_NAME} PUBLIC ${CMAKE_SOURCE_DIR})
+
+  set(allowed ${ROOM_FOLDER})
+  foreach(neighbour IN LISTS ROOM_MAY_INCLUDE)
+    get_property(reached GLOBAL PROPERTY veritane_reach_${neighbour})
+    list(APPEND allowed ${neighbour} ${reached})
+    get_property(neighbour_target GLOBAL PROPERTY veritane_target_${neighbour})
+    target_link_libraries(${ROOM_NAME} PUBLIC ${neighbour_target})
+  endforeach()
+  list(REMOVE_DUPLICATES allowed)
+  set_property(GLOBAL PROPERTY veritane_reach_${ROOM_FOLDER} ${allowed})
+  set_property(GLOBAL PROPERTY veritane_target_${ROOM_FOLDER} ${ROOM_NAME})
+  target_link_libraries(${ROOM_NAME} PUBLIC ${ROOM_LINK} PRIVATE veritane_warnings)
+
+  set(stamp ${CMAKE_CURRENT_BINARY_DIR}/${ROOM_NAME}_arrows.stamp)
+  add_custom_command(
+    OUTPUT ${stamp}
+    COMMAND ${CMAKE_COMMAND} "-DALLOWED=${allowed}" "-DFOLDER=${folder}" -DSTAMP=${stamp}
+            -P ${CMAKE_SOURCE_DIR}/cmake/check_arrows.cmake
+    DEPENDS ${sources} ${headers} ${CMAKE_SOURCE_DIR}/cmake/check_arrows.cmake
+    VERBATIM)
+  add_custom_target(${ROOM_NAME}_arrows DEPENDS ${stamp})
+  add_dependencies(${ROOM_NAME} ${ROOM_NAME}_arrows)
+endfunction()

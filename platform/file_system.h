@@ -1,0 +1,48 @@
+// Files and folders by Windows path. Every path is "C:\…", "Z:\…" or relative to the current directory, with
+// "\" between names; names are looked up without regard to case on every system.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/date_time.h"
+
+namespace veritane::platform {
+
+// A file that stays open for appending. Each call is one write, so a failure leaves no half line.
+class AppendingFile {
+ public:
+  virtual ~AppendingFile() = default;
+  // Appends the bytes and hands them to the system. Errors 61, 71, 75.
+  virtual void Append(std::string_view bytes) = 0;
+};
+
+// All operations raise RunTimeError 52 for a path that names nothing, 53 for a missing file, 76 for a missing
+// folder, 70 or 75 where access is refused, 61 for a full disk, 57 for a device fault.
+class FileSystem {
+ public:
+  virtual ~FileSystem() = default;
+
+  virtual bool FileExists(const std::string& path) const = 0;
+  virtual bool FolderExists(const std::string& path) const = 0;
+  // Creates one folder below an existing one; error 75 when it is there already.
+  virtual void CreateFolder(const std::string& path) = 0;
+
+  virtual std::string ReadBytes(const std::string& path) const = 0;
+  // Replaces or creates the file whole: after a crash the old bytes or the new ones are there, never a mixture.
+  virtual void WriteBytes(const std::string& path, std::string_view bytes) = 0;
+  // Opens for appending, creating the file when it is missing.
+  virtual std::unique_ptr<AppendingFile> OpenForAppending(const std::string& path) = 0;
+
+  virtual void DeleteFile(const std::string& path) = 0;
+  // Renames within a volume; error 58 when `to` exists.
+  virtual void MoveFile(const std::string& from, const std::string& to) = 0;
+
+  virtual DateTime LastModified(const std::string& path) const = 0;
+  // Names of the files directly in the folder, sorted.
+  virtual std::vector<std::string> ListFiles(const std::string& folder) const = 0;
+};
+
+}  // namespace veritane::platform

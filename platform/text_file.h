@@ -1,0 +1,41 @@
+// Small text files: lines end CR LF, UTF-8 (Windows-1252 where the bytes are not UTF-8).
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace veritane::platform {
+
+inline constexpr std::string_view kLineEnd = "\r\n";
+
+// The bytes as UTF-8 text: as they are when they are valid UTF-8 (a byte-order mark is dropped), else read as
+// Windows-1252.
+std::string DecodeText(std::string_view bytes);
+
+// Reads a text front to back, as fields (cut at a comma or line end) or as whole lines. Lines may end CR LF, LF
+// or CR; a missing last line end does not matter.
+class TextReader {
+ public:
+  // Keeps a copy of the text. `bytes` as they come from the file.
+  explicit TextReader(std::string_view bytes);
+
+  bool AtEnd() const { return position_ >= text_.size(); }
+
+  // The next line without its end. Error 62 at the end of the file.
+  std::string ReadLine();
+  // The next field, blanks around it dropped, a double-quoted one whole. Error 62 at the end of the file.
+  std::string ReadField();
+  // The next field as a number: rounded half to even for integers. Error 13 when the field is no number, 6 when
+  // it does not fit.
+  std::int16_t ReadInt16();
+  double ReadDouble();
+
+ private:
+  void SkipLineEnd();
+
+  std::string text_;
+  std::size_t position_ = 0;
+};
+
+}  // namespace veritane::platform
