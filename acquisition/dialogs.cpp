@@ -20,7 +20,9 @@ FrmSelectMethod::FrmSelectMethod(platform::Desktop& desktop) : Form(desktop, "fr
   cmdSelectMethodCancel.isCancel = true;
 }
 
-FrmPrompts::FrmPrompts(platform::Desktop& desktop) : Form(desktop, "frmPrompts") { cmdOK.isDefault = true; }
+FrmPrompts::FrmPrompts(platform::Desktop& desktop) : Form(desktop, "frmPrompts") {
+  cmdOK.isDefault = true;
+}
 
 FrmNullRegion::FrmNullRegion(platform::Desktop& desktop) : Form(desktop, "frmNullRegion") {
   for (platform::Control* inside : std::initializer_list<platform::Control*>{

@@ -7,7 +7,7 @@
 namespace veritane::acquisition {
 
 class FrmCollectStd : public platform::Form {
- public:
+public:
   explicit FrmCollectStd(platform::Desktop& desktop);
 
   platform::Label lblProductID{*this, "lblProductID"};

@@ -7,7 +7,7 @@
 namespace veritane::acquisition {
 
 class FrmNullRegion : public platform::Form {
- public:
+public:
   explicit FrmNullRegion(platform::Desktop& desktop);
 
   platform::Frame fraAddNullRegion{*this, "fraAddNullRegion"};

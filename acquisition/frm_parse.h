@@ -7,7 +7,7 @@
 namespace veritane::acquisition {
 
 class FrmParse : public platform::Form {
- public:
+public:
   explicit FrmParse(platform::Desktop& desktop);
 
   platform::Label lblInstruction{*this, "lblInstruction"};

@@ -7,7 +7,7 @@
 namespace veritane::acquisition {
 
 class FrmPrompts : public platform::Form {
- public:
+public:
   explicit FrmPrompts(platform::Desktop& desktop);
 
   platform::Label lblBackgroundPrompt{*this, "lblBackgroundPrompt"};

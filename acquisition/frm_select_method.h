@@ -7,7 +7,7 @@
 namespace veritane::acquisition {
 
 class FrmSelectMethod : public platform::Form {
- public:
+public:
   explicit FrmSelectMethod(platform::Desktop& desktop);
 
   platform::Label lblSelectMethod{*this, "lblSelectMethod"};

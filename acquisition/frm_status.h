@@ -7,12 +7,12 @@
 namespace veritane::acquisition {
 
 class FrmStatus : public platform::Form {
- public:
+public:
   explicit FrmStatus(platform::Desktop& desktop) : Form(desktop, "frmStatus") {}
 
   platform::Label lblStatus{*this, "lblStatus"};
 
- protected:
+protected:
   // It closes when the work is done, not by hand.
   void Form_QueryUnload() override {}
 };

@@ -1,9 +1,9 @@
-// The whole contract with the Spectrometer application, the instrument's control program. The program measures,
-// reads and writes spectra, transforms and prints through these objects alone.
+// The whole contract with the Spectrometer application, the instrument's control program. The program
+// measures, reads and writes spectra, transforms and prints through these objects alone.
 //
-// All paths are Windows paths. Every call blocks until it is done. Failures of a call (a missing or damaged file, a
-// full disk, a server that is gone) are RunTimeError; failures of the instrument are numbers that AutoAlign and
-// CollectInto return.
+// All paths are Windows paths. Every call blocks until it is done. Failures of a call (a missing or damaged
+// file, a full disk, a server that is gone) are RunTimeError; failures of the instrument are numbers that
+// AutoAlign and CollectInto return.
 #pragma once
 
 #include <cstdint>
@@ -28,14 +28,14 @@ using ParameterValue = std::variant<std::string, double>;
 
 // A named value attached to a spectrum.
 class Parameter {
- public:
+public:
   virtual ~Parameter() = default;
   virtual ParameterValue Value() const = 0;
   virtual void SetValue(const ParameterValue& value) = 0;
 };
 
 class ParameterList {
- public:
+public:
   virtual ~ParameterList() = default;
   // Adds an empty parameter of this name, or does nothing when there is one. `kind` is always 1.
   virtual void AddParameter(const std::string& name, std::int32_t kind) = 0;
@@ -43,7 +43,7 @@ class ParameterList {
 
 // The points of a spectrum. Element i of Values() lies at i × Spacing() cm⁻¹.
 class SpectrumData {
- public:
+public:
   virtual ~SpectrumData() = default;
   virtual double Spacing() const = 0;
   virtual std::int32_t NumberOfPoints() const = 0;
@@ -52,7 +52,7 @@ class SpectrumData {
 
 // A marker on a spectrum, drawn when it is printed.
 class Marker {
- public:
+public:
   virtual ~Marker() = default;
   virtual void SetKind(std::int32_t kind) = 0;
   virtual void SetStyle(std::int32_t style) = 0;
@@ -61,7 +61,7 @@ class Marker {
 };
 
 class MarkerList {
- public:
+public:
   virtual ~MarkerList() = default;
   virtual std::shared_ptr<Marker> AddMarker(double x) = 0;
   virtual void ClearMarkers() = 0;
@@ -69,7 +69,7 @@ class MarkerList {
 
 // One spectrum inside a document. Stays readable as long as somebody holds it.
 class Spectrum {
- public:
+public:
   virtual ~Spectrum() = default;
   virtual std::shared_ptr<acquisition::SpectrumData> SpectrumData() = 0;
   // "SpectName" and "Time" exist on every spectrum; error 5 for a name that was never added.
@@ -80,7 +80,7 @@ class Spectrum {
 
 // How to measure, read from a ".clm" file.
 class CollectMethod {
- public:
+public:
   virtual ~CollectMethod() = default;
   // Always "NI".
   virtual void SetCollectOption(const std::string& option) = 0;
@@ -93,13 +93,13 @@ class CollectMethod {
 
 // A processing step; `Operation` chooses which.
 class Operation {
- public:
+public:
   virtual ~Operation() = default;
   virtual void SetOperation(std::int16_t operation) = 0;
 };
 
 class PrintObject {
- public:
+public:
   virtual ~PrintObject() = default;
   virtual void PrintDoc() = 0;
   virtual void CloseDoc() = 0;
@@ -107,12 +107,13 @@ class PrintObject {
 
 // A spectrum file that the application has open: a list of spectra numbered from 1, of which one is current.
 class Document {
- public:
+public:
   virtual ~Document() = default;
 
   // Runs the instrument's automatic alignment; 0 or the instrument's error number.
   virtual std::int32_t AutoAlign(CollectMethod& method) = 0;
-  // Measures one spectrum and appends it to the document as the current one; 0 or the instrument's error number.
+  // Measures one spectrum and appends it to the document as the current one; 0 or the instrument's error
+  // number.
   virtual std::int32_t CollectInto(CollectMethod& method) = 0;
   // Ends the document's use. With `save` it is first written to its path.
   virtual void CloseDocument(bool save) = 0;
@@ -146,7 +147,7 @@ struct AutomationWaiting {
 };
 
 class SpectrometerApp {
- public:
+public:
   virtual ~SpectrometerApp() = default;
 
   virtual void SetWaiting(const AutomationWaiting& waiting) = 0;

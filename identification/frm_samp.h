@@ -11,9 +11,9 @@
 namespace veritane::identification {
 
 class FrmSamp : public platform::Form {
- public:
-  // `product_ids` gives the products to choose from and `operator_name` the operator's name to begin with; both are
-  // asked each time the dialog is shown.
+public:
+  // `product_ids` gives the products to choose from and `operator_name` the operator's name to begin with;
+  // both are asked each time the dialog is shown.
   FrmSamp(platform::Desktop& desktop, std::function<std::vector<std::string>()> product_ids,
           std::function<std::string()> operator_name);
 
@@ -28,6 +28,8 @@ class FrmSamp : public platform::Form {
 
   // Whether the dialog was left without confirming.
   bool cancelled = false;
+  // The product to select while it is still in the table: the one of the run before.
+  std::string previousProduct;
 
   bool cmbStandards_KeyPress(int key);
   bool txtSampName_KeyPress(int key);
@@ -35,11 +37,11 @@ class FrmSamp : public platform::Form {
   void cmdProductIDOkay_Click();
   void cmdSampleCancelled_Click();
 
- protected:
+protected:
   void Form_Activate() override;
   void Form_QueryUnload() override { cmdSampleCancelled_Click(); }
 
- private:
+private:
   std::function<std::vector<std::string>()> product_ids_;
   std::function<std::string()> operator_name_;
 };

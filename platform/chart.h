@@ -1,5 +1,5 @@
-// A two-dimensional chart: series over an x axis and two y axes, text labels, header and footer lines, markers
-// and marked bands. It holds what is to be seen; chart_drawing.h draws it.
+// A two-dimensional chart: series over an x axis and two y axes, text labels, header and footer lines,
+// markers and marked bands. It holds what is to be seen; chart_drawing.h draws it.
 #pragma once
 
 #include <array>
@@ -50,7 +50,7 @@ struct PlotArea {
 };
 
 class Chart : public Control {
- public:
+public:
   static constexpr int kLabelCount = 4;
   // Labels are counted from 1 for people; the fourth carries the verdict.
   static constexpr int kVerdictLabel = 3;
@@ -93,7 +93,8 @@ class Chart : public Control {
   void BeginBatch() { ++batches_; }
   void EndBatch();
 
-  // The part of the axes that is in view; the same as the limits until the user zooms. Setting limits ends a zoom.
+  // The part of the axes that is in view; the same as the limits until the user zooms. Setting limits ends a
+  // zoom.
   const AxisLimits& ViewX() const { return view_x_; }
   const AxisLimits& ViewY() const { return view_y_; }
   void Zoom(AxisLimits x, AxisLimits y);
@@ -102,7 +103,8 @@ class Chart : public Control {
   // Set by whoever draws the chart, so that a place in pixels can be read as data.
   void SetPlotArea(PlotArea area) { plot_area_ = area; }
   const PlotArea& Area() const { return plot_area_; }
-  // Data coordinates of a pixel. Wavenumbers fall from left to right; left of the plot x exceeds the view's maximum.
+  // Data coordinates of a pixel. Wavenumbers fall from left to right; left of the plot x exceeds the view's
+  // maximum.
   struct DataPoint {
     double x = 0;
     double y = 0;
@@ -111,7 +113,7 @@ class Chart : public Control {
 
   void MouseMove(double pixel_x, double pixel_y) const;
 
- private:
+private:
   void ChartChanged();
 
   std::vector<ChartSeries> series_;
@@ -134,13 +136,13 @@ class Chart : public Control {
 
 // Batches changes for as long as it lives.
 class ChartBatch {
- public:
+public:
   explicit ChartBatch(Chart& chart) : chart_(chart) { chart_.BeginBatch(); }
   ~ChartBatch() { chart_.EndBatch(); }
   ChartBatch(const ChartBatch&) = delete;
   ChartBatch& operator=(const ChartBatch&) = delete;
 
- private:
+private:
   Chart& chart_;
 };
 

@@ -59,9 +59,13 @@ void Control::SetFocus() {
   Changed(Property::kFocus);
 }
 
-bool Control::HasFocus() const { return form_.Focused() == this; }
+bool Control::HasFocus() const {
+  return form_.Focused() == this;
+}
 
-void Control::Watch(std::function<void(Property)> watcher) { watchers_.push_back(std::move(watcher)); }
+void Control::Watch(std::function<void(Property)> watcher) {
+  watchers_.push_back(std::move(watcher));
+}
 
 void Control::Changed(Property property) {
   for (const auto& watcher : watchers_) watcher(property);

@@ -1,4 +1,5 @@
-// What every control of a form has in common. A control is a value with events; it knows nothing of a toolkit.
+// What every control of a form has in common. A control is a value with events; it knows nothing of a
+// toolkit.
 #pragma once
 
 #include <functional>
@@ -11,7 +12,19 @@ class Form;
 class Frame;
 class TabControl;
 
-enum class ControlKind { kLabel, kButton, kOption, kCheckBox, kTextBox, kComboBox, kListBox, kFrame, kTabs, kGrid, kChart };
+enum class ControlKind {
+  kLabel,
+  kButton,
+  kOption,
+  kCheckBox,
+  kTextBox,
+  kComboBox,
+  kListBox,
+  kFrame,
+  kTabs,
+  kGrid,
+  kChart
+};
 
 // What changed on a control; the drawn view and the console watch for it.
 enum class Property {
@@ -30,10 +43,10 @@ enum class Property {
   kChart,
 };
 
-// Setting a property in code raises the same event as the user's hand does. The setters here change nothing and
-// raise nothing when the value is already there.
+// Setting a property in code raises the same event as the user's hand does. The setters here change nothing
+// and raise nothing when the value is already there.
 class Control {
- public:
+public:
   // Registers the control with its form under `name`.
   Control(Form& form, std::string name, ControlKind kind);
   virtual ~Control() = default;
@@ -53,12 +66,14 @@ class Control {
   bool Visible() const { return visible_; }
   void SetVisible(bool visible);
 
-  // Puts the control into a frame, or onto one page of a tab control. A control in neither lies on the form itself.
+  // Puts the control into a frame, or onto one page of a tab control. A control in neither lies on the form
+  // itself.
   void PlaceIn(Frame& frame);
   void PlaceIn(TabControl& tabs, int page);
   const Frame* EnclosingFrame() const { return frame_; }
 
-  // Whether the user could see it: visible, as is everything around it, on the tab in front, on a form that shows.
+  // Whether the user could see it: visible, as is everything around it, on the tab in front, on a form that
+  // shows.
   bool IsShown() const;
   // Whether the user could use it: shown, and enabled as is everything around it.
   bool IsUsable() const;
@@ -70,13 +85,16 @@ class Control {
   const std::string& ToolTip() const { return tool_tip_; }
   void SetToolTip(const std::string& text) { tool_tip_ = text; }
 
+  // Raised when the pointer moves over the control. The chart has a richer event of its own.
+  std::function<void()> OnPointerMove;
+
   // Calls `watcher` after each change from now on, before the control's own event. Watchers stay for good.
   void Watch(std::function<void(Property)> watcher);
 
- protected:
+protected:
   void Changed(Property property);
 
- private:
+private:
   Form& form_;
   const std::string name_;
   const ControlKind kind_;

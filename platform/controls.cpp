@@ -20,7 +20,9 @@ void CheckIndex(int index, int count) {
 
 }  // namespace
 
-void Button::Click() const { Raise(OnClick); }
+void Button::Click() const {
+  Raise(OnClick);
+}
 
 void OptionButton::Group(const std::vector<OptionButton*>& members) {
   for (OptionButton* member : members) {
@@ -63,7 +65,9 @@ void TextBox::ReplaceText(const std::string& text) {
   Raise(OnChange);
 }
 
-bool TextBox::KeyPress(int key) const { return OnKeyPress ? OnKeyPress(key) : true; }
+bool TextBox::KeyPress(int key) const {
+  return OnKeyPress ? OnKeyPress(key) : true;
+}
 
 void TextBox::Highlight(int start, int length) {
   const auto characters = static_cast<int>(CharacterCount(text_));
@@ -73,7 +77,8 @@ void TextBox::Highlight(int start, int length) {
 }
 
 std::string TextBox::HighlightedText() const {
-  return Characters(text_, static_cast<std::size_t>(highlight_start_), static_cast<std::size_t>(highlight_length_));
+  return Characters(text_, static_cast<std::size_t>(highlight_start_),
+                    static_cast<std::size_t>(highlight_length_));
 }
 
 std::string ItemList::SelectedItem() const {
@@ -86,7 +91,9 @@ void ListBox::Clear() {
   Changed(Property::kItems);
 }
 
-void ListBox::Add(const std::string& item) { AddAll({item}); }
+void ListBox::Add(const std::string& item) {
+  AddAll({item});
+}
 
 void ListBox::AddAll(const std::vector<std::string>& items) {
   items_.insert(items_.end(), items.begin(), items.end());
@@ -119,7 +126,9 @@ void ComboBox::Clear() {
   TextBox::SetText("");
 }
 
-void ComboBox::Add(const std::string& item) { AddAll({item}); }
+void ComboBox::Add(const std::string& item) {
+  AddAll({item});
+}
 
 void ComboBox::AddAll(const std::vector<std::string>& items) {
   items_.insert(items_.end(), items.begin(), items.end());

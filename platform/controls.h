@@ -18,18 +18,18 @@ inline constexpr int kEnterKey = 13;
 inline constexpr int kEscapeKey = 27;
 
 class Label : public Control {
- public:
+public:
   Label(Form& form, std::string name) : Control(form, std::move(name), ControlKind::kLabel) {}
 };
 
 // A frame with a caption around other controls. A frame in no other frame is a panel of its form.
 class Frame : public Control {
- public:
+public:
   Frame(Form& form, std::string name) : Control(form, std::move(name), ControlKind::kFrame) {}
 };
 
 class Button : public Control {
- public:
+public:
   Button(Form& form, std::string name) : Control(form, std::move(name), ControlKind::kButton) {}
 
   Handler OnClick;
@@ -42,7 +42,7 @@ class Button : public Control {
 
 // One of several choices; checking it unchecks the others of its group and raises Click.
 class OptionButton : public Control {
- public:
+public:
   OptionButton(Form& form, std::string name) : Control(form, std::move(name), ControlKind::kOption) {}
 
   Handler OnClick;
@@ -52,7 +52,7 @@ class OptionButton : public Control {
   // Makes the options one group. Call once for each group, with all its members.
   static void Group(const std::vector<OptionButton*>& members);
 
- private:
+private:
   void Uncheck();
 
   bool checked_ = false;
@@ -61,7 +61,7 @@ class OptionButton : public Control {
 
 // On or off; a change raises Click.
 class CheckBox : public Control {
- public:
+public:
   CheckBox(Form& form, std::string name) : Control(form, std::move(name), ControlKind::kCheckBox) {}
 
   Handler OnClick;
@@ -70,13 +70,13 @@ class CheckBox : public Control {
   int Value() const { return checked_ ? 1 : 0; }
   void SetChecked(bool checked);
 
- private:
+private:
   bool checked_ = false;
 };
 
 // A line (or several) of text to type in, UTF-8.
 class TextBox : public Control {
- public:
+public:
   TextBox(Form& form, std::string name) : TextBox(form, std::move(name), ControlKind::kTextBox) {}
 
   // Raised after each change of the text.
@@ -101,12 +101,12 @@ class TextBox : public Control {
   bool isMultiLine = false;
   bool isReadOnly = false;
 
- protected:
+protected:
   TextBox(Form& form, std::string name, ControlKind kind) : Control(form, std::move(name), kind) {}
   // Changes the text without the rest of SetText's work; raises Change when it differs.
   void ReplaceText(const std::string& text);
 
- private:
+private:
   std::string text_;
   int highlight_start_ = 0;
   int highlight_length_ = 0;
@@ -114,7 +114,7 @@ class TextBox : public Control {
 
 // The entries of a list, of which one or none is selected.
 class ItemList {
- public:
+public:
   const std::vector<std::string>& Items() const { return items_; }
   int Count() const { return static_cast<int>(items_.size()); }
   // -1 for none.
@@ -122,13 +122,13 @@ class ItemList {
   // The selected entry's text, "" for none.
   std::string SelectedItem() const;
 
- protected:
+protected:
   std::vector<std::string> items_;
   int selected_ = -1;
 };
 
 class ListBox : public Control, public ItemList {
- public:
+public:
   ListBox(Form& form, std::string name) : Control(form, std::move(name), ControlKind::kListBox) {}
 
   Handler OnClick;
@@ -137,13 +137,14 @@ class ListBox : public Control, public ItemList {
   void AddAll(const std::vector<std::string>& items);
   // Removes the entry; a selection of it is lost, one behind it moves up. Raises nothing.
   void Remove(int index);
-  // Selects an entry (-1 for none) and raises Click, also when it was selected already. Error 5 outside the list.
+  // Selects an entry (-1 for none) and raises Click, also when it was selected already. Error 5 outside the
+  // list.
   void Select(int index);
 };
 
 // A list that drops down from a text. An editable one takes any text; the other only its entries.
 class ComboBox : public TextBox, public ItemList {
- public:
+public:
   ComboBox(Form& form, std::string name) : TextBox(form, std::move(name), ControlKind::kComboBox) {}
 
   // Raised when an entry is selected.
@@ -156,14 +157,15 @@ class ComboBox : public TextBox, public ItemList {
   void AddAll(const std::vector<std::string>& items);
   // Selects an entry (-1 for none), shows it as the text, raises Click. Error 5 outside the list.
   void Select(int index);
-  // Types into an editable box; the entry of just this text becomes the selected one, else none is. In a box that is
-  // not editable only an entry's text is taken, and selecting it raises Click (error 5 for any other text).
+  // Types into an editable box; the entry of just this text becomes the selected one, else none is. In a box
+  // that is not editable only an entry's text is taken, and selecting it raises Click (error 5 for any other
+  // text).
   void SetText(const std::string& text);
 };
 
 // Pages of which one is in front.
 class TabControl : public Control {
- public:
+public:
   TabControl(Form& form, std::string name) : Control(form, std::move(name), ControlKind::kTabs) {}
 
   // Raised after another page came to the front, with the index of the page that was left.
@@ -177,7 +179,7 @@ class TabControl : public Control {
   int Tab() const { return tab_; }
   void SetTab(int page);
 
- private:
+private:
   std::vector<std::string> captions_;
   int tab_ = 0;
 };

@@ -51,18 +51,19 @@ std::optional<DateTime> ParseIsoDateTime(std::string_view text) {
   DateTime moment;
   int used = 0;
   const std::string copy(text);
-  const int fields = std::sscanf(copy.c_str(), "%4d-%2d-%2dT%2d:%2d%n", &moment.year, &moment.month, &moment.day,
-                                 &moment.hour, &moment.minute, &used);
+  const int fields = std::sscanf(copy.c_str(), "%4d-%2d-%2dT%2d:%2d%n", &moment.year, &moment.month,
+                                 &moment.day, &moment.hour, &moment.minute, &used);
   if (fields != 5) return std::nullopt;
   std::string_view rest = text.substr(static_cast<std::size_t>(used));
   if (!rest.empty()) {
-    if (rest.size() != 3 || std::sscanf(copy.c_str() + used, ":%2d", &moment.second) != 1) return std::nullopt;
+    if (rest.size() != 3 || std::sscanf(copy.c_str() + used, ":%2d", &moment.second) != 1)
+      return std::nullopt;
   }
   const std::chrono::year_month_day date(std::chrono::year(moment.year),
                                          std::chrono::month(static_cast<unsigned>(moment.month)),
                                          std::chrono::day(static_cast<unsigned>(moment.day)));
-  const bool time_is_real = moment.hour >= 0 && moment.hour < 24 && moment.minute >= 0 && moment.minute < 60 &&
-                            moment.second >= 0 && moment.second < 60;
+  const bool time_is_real = moment.hour >= 0 && moment.hour < 24 && moment.minute >= 0 &&
+                            moment.minute < 60 && moment.second >= 0 && moment.second < 60;
   if (!date.ok() || !time_is_real) return std::nullopt;
   return moment;
 }

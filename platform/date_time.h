@@ -39,7 +39,7 @@ std::optional<DateTime> ParseIsoDateTime(std::string_view text);
 
 // The program's only source of time.
 class Clock {
- public:
+public:
   virtual ~Clock() = default;
   // The present moment as the system counts it.
   virtual std::chrono::system_clock::time_point Now() const = 0;

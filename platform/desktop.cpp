@@ -22,7 +22,9 @@ void Desktop::Perform(const std::function<void()>& action) {
   }
 }
 
-MessageAnswer Desktop::ShowMessage(const Message& message) { return user_interface_.ShowMessage(message); }
+MessageAnswer Desktop::ShowMessage(const Message& message) {
+  return user_interface_.ShowMessage(message);
+}
 
 std::optional<std::string> Desktop::ChooseFile(const FileChoice& choice) {
   return user_interface_.ChooseFile(choice);
@@ -52,6 +54,8 @@ Form* Desktop::Find(const std::string& form_name) const {
   return nullptr;
 }
 
-bool Desktop::IsBlocked(const Form& form) const { return !modal_forms_.empty() && modal_forms_.back() != &form; }
+bool Desktop::IsBlocked(const Form& form) const {
+  return !modal_forms_.empty() && modal_forms_.back() != &form;
+}
 
 }  // namespace veritane::platform

@@ -35,7 +35,7 @@ enum class Pointer { kDefault, kHourglass, kCrosshair };
 
 // Draws forms, or plays them. All calls come from the one user-interface thread.
 class UserInterface {
- public:
+public:
   virtual ~UserInterface() = default;
 
   // A form and its controls exist from now on, hidden; called once the form's constructor is done.
@@ -56,11 +56,11 @@ class UserInterface {
 };
 
 class Desktop {
- public:
+public:
   explicit Desktop(UserInterface& user_interface) : user_interface_(user_interface) {}
 
-  // Runs something the user did. A RunTimeError that it does not handle is shown in one message box, after the
-  // recovery set with OnError has put the screen back in order. Nothing runs once the program has ended.
+  // Runs something the user did. A RunTimeError that it does not handle is shown in one message box, after
+  // the recovery set with OnError has put the screen back in order. Nothing runs once the program has ended.
   void Perform(const std::function<void()>& action);
 
   // `snapshot` is called before each action and gives what restores the screen should the action fail.
@@ -88,7 +88,7 @@ class Desktop {
   // Whether a modal form lies over `form`.
   bool IsBlocked(const Form& form) const;
 
- private:
+private:
   friend class Form;
 
   UserInterface& user_interface_;

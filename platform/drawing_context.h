@@ -28,7 +28,7 @@ enum class TextWeight { kNormal, kBold };
 
 // Coordinates are in the surface's own units from its top left corner, y downwards.
 class DrawingContext {
- public:
+public:
   virtual ~DrawingContext() = default;
 
   virtual double Width() const = 0;

@@ -13,7 +13,7 @@ namespace veritane::platform {
 
 // A file that stays open for appending. Each call is one write, so a failure leaves no half line.
 class AppendingFile {
- public:
+public:
   virtual ~AppendingFile() = default;
   // Appends the bytes and hands them to the system. Errors 61, 71, 75.
   virtual void Append(std::string_view bytes) = 0;
@@ -22,7 +22,7 @@ class AppendingFile {
 // All operations raise RunTimeError 52 for a path that names nothing, 53 for a missing file, 76 for a missing
 // folder, 70 or 75 where access is refused, 61 for a full disk, 57 for a device fault.
 class FileSystem {
- public:
+public:
   virtual ~FileSystem() = default;
 
   virtual bool FileExists(const std::string& path) const = 0;
@@ -31,7 +31,8 @@ class FileSystem {
   virtual void CreateFolder(const std::string& path) = 0;
 
   virtual std::string ReadBytes(const std::string& path) const = 0;
-  // Replaces or creates the file whole: after a crash the old bytes or the new ones are there, never a mixture.
+  // Replaces or creates the file whole: after a crash the old bytes or the new ones are there, never a
+  // mixture.
   virtual void WriteBytes(const std::string& path, std::string_view bytes) = 0;
   // Opens for appending, creating the file when it is missing.
   virtual std::unique_ptr<AppendingFile> OpenForAppending(const std::string& path) = 0;

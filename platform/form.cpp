@@ -11,7 +11,9 @@ Form::Form(Desktop& desktop, std::string name) : desktop_(desktop), name_(std::m
   desktop_.forms_.push_back(this);
 }
 
-Form::~Form() { std::erase(desktop_.forms_, this); }
+Form::~Form() {
+  std::erase(desktop_.forms_, this);
+}
 
 void Form::SetCaption(const std::string& caption) {
   if (caption == caption_) return;
@@ -62,7 +64,9 @@ Control* Form::Find(const std::string& control_name) const {
   return nullptr;
 }
 
-void Form::Watch(std::function<void(Change)> watcher) { watchers_.push_back(std::move(watcher)); }
+void Form::Watch(std::function<void(Change)> watcher) {
+  watchers_.push_back(std::move(watcher));
+}
 
 void Form::Notify(Change change) {
   for (const auto& watcher : watchers_) watcher(change);

@@ -11,7 +11,7 @@ class Control;
 class Desktop;
 
 class Form {
- public:
+public:
   // Makes the form known to the desktop, hidden.
   Form(Desktop& desktop, std::string name);
   virtual ~Form();
@@ -46,13 +46,13 @@ class Form {
   enum class Change { kShown, kHidden, kCaption };
   void Watch(std::function<void(Change)> watcher);
 
- protected:
+protected:
   // Runs each time the form is shown, after it became visible.
   virtual void Form_Activate() {}
   // Runs when the user closes the form by its system menu. A dialog hides unless it says otherwise.
   virtual void Form_QueryUnload() { Hide(); }
 
- private:
+private:
   friend class Control;
   void BecomeVisible(bool modal);
   void Notify(Change change);

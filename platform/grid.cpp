@@ -7,7 +7,9 @@
 
 namespace veritane::platform {
 
-Grid::Grid(Form& form, std::string name) : Control(form, std::move(name), ControlKind::kGrid) { Resize(2, 2); }
+Grid::Grid(Form& form, std::string name) : Control(form, std::move(name), ControlKind::kGrid) {
+  Resize(2, 2);
+}
 
 void Grid::CheckInside(int row, int column) const {
   if (row < 0 || row >= RowCount() || column < 0 || column >= column_count_) {

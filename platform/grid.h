@@ -13,7 +13,7 @@ enum class GridAlignment { kLeft, kRight, kCentre };
 
 // Rows and columns count from 0; the first FixedRows() rows and FixedColumns() columns are headings.
 class Grid : public Control {
- public:
+public:
   Grid(Form& form, std::string name);
 
   // Raised when another row or column became the current one.
@@ -36,8 +36,8 @@ class Grid : public Control {
   void SetBody(std::vector<std::vector<std::string>> rows);
   void RemoveRow(int row);
 
-  // Sets header texts and alignments from columns joined by "|": each begins with "<", ">" or "^" for the alignment,
-  // blanks around the text only widen the column. Adds columns where there are fewer.
+  // Sets header texts and alignments from columns joined by "|": each begins with "<", ">" or "^" for the
+  // alignment, blanks around the text only widen the column. Adds columns where there are fewer.
   void SetFormat(const std::string& format);
   GridAlignment Alignment(int column) const { return alignments_.at(static_cast<std::size_t>(column)); }
 
@@ -46,7 +46,7 @@ class Grid : public Control {
   void SetCurrentCell(int row, int column);
   void SetRow(int row) { SetCurrentCell(row, column_); }
 
- private:
+private:
   void CheckInside(int row, int column) const;
 
   std::vector<std::vector<std::string>> cells_;

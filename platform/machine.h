@@ -13,7 +13,7 @@ namespace veritane::platform {
 
 // Values under HKEY_LOCAL_MACHINE.
 class Registry {
- public:
+public:
   virtual ~Registry() = default;
   // The value's 32 bits when key and value exist and the type is REG_DWORD, else nothing.
   virtual std::optional<std::uint32_t> ReadDword(const std::string& key, const std::string& value) const = 0;
@@ -21,9 +21,10 @@ class Registry {
 
 // Folders that the system names. Windows paths without a trailing "\".
 class ShellFolders {
- public:
+public:
   virtual ~ShellFolders() = default;
-  // The common application data folder, or "" when the system has none. With `create` it is made when missing.
+  // The common application data folder, or "" when the system has none. With `create` it is made when
+  // missing.
   virtual std::string CommonApplicationData(bool create) const = 0;
   // The folder of the running program.
   virtual std::string ProgramFolder() const = 0;
@@ -31,7 +32,7 @@ class ShellFolders {
 
 // Who sits at the machine. An answer may hold a NUL and anything behind it; nothing when the call failed.
 class UserAccount {
- public:
+public:
   virtual ~UserAccount() = default;
   virtual std::optional<std::string> LoggedOnUser() const = 0;
   virtual std::optional<std::string> ComputerName() const = 0;
@@ -39,7 +40,7 @@ class UserAccount {
 
 // Dates and times as the system's locale writes them.
 class RegionalFormat {
- public:
+public:
   virtual ~RegionalFormat() = default;
   virtual std::string ShortDate(const DateTime& moment) const = 0;
   virtual std::string ShortTime(const DateTime& moment) const = 0;

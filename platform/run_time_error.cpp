@@ -8,23 +8,40 @@ namespace veritane::platform {
 
 std::string ErrorText(ErrorNumber number) {
   switch (number) {
-    case ErrorNumber::kInvalidCall: return "Invalid procedure call or argument";
-    case ErrorNumber::kOverflow: return "Overflow";
-    case ErrorNumber::kSubscript: return "Subscript out of range";
-    case ErrorNumber::kDivisionByZero: return "Division by zero";
-    case ErrorNumber::kTypeMismatch: return "Type mismatch";
-    case ErrorNumber::kBadFileNumber: return "Bad file name or number";
-    case ErrorNumber::kFileNotFound: return "File not found";
-    case ErrorNumber::kFileAlreadyOpen: return "File already open";
-    case ErrorNumber::kDeviceError: return "Device I/O error";
-    case ErrorNumber::kFileExists: return "File already exists";
-    case ErrorNumber::kDiskFull: return "Disk full";
-    case ErrorNumber::kPastEndOfFile: return "Input past end of file";
-    case ErrorNumber::kPermissionDenied: return "Permission denied";
-    case ErrorNumber::kDiskNotReady: return "Disk not ready";
-    case ErrorNumber::kPathFileAccess: return "Path/File access error";
-    case ErrorNumber::kPathNotFound: return "Path not found";
-    case ErrorNumber::kCannotCreateObject: return "Cannot create the automation object";
+    case ErrorNumber::kInvalidCall:
+      return "Invalid procedure call or argument";
+    case ErrorNumber::kOverflow:
+      return "Overflow";
+    case ErrorNumber::kSubscript:
+      return "Subscript out of range";
+    case ErrorNumber::kDivisionByZero:
+      return "Division by zero";
+    case ErrorNumber::kTypeMismatch:
+      return "Type mismatch";
+    case ErrorNumber::kBadFileNumber:
+      return "Bad file name or number";
+    case ErrorNumber::kFileNotFound:
+      return "File not found";
+    case ErrorNumber::kFileAlreadyOpen:
+      return "File already open";
+    case ErrorNumber::kDeviceError:
+      return "Device I/O error";
+    case ErrorNumber::kFileExists:
+      return "File already exists";
+    case ErrorNumber::kDiskFull:
+      return "Disk full";
+    case ErrorNumber::kPastEndOfFile:
+      return "Input past end of file";
+    case ErrorNumber::kPermissionDenied:
+      return "Permission denied";
+    case ErrorNumber::kDiskNotReady:
+      return "Disk not ready";
+    case ErrorNumber::kPathFileAccess:
+      return "Path/File access error";
+    case ErrorNumber::kPathNotFound:
+      return "Path not found";
+    case ErrorNumber::kCannotCreateObject:
+      return "Cannot create the automation object";
   }
   return "Application-defined or object-defined error";
 }
@@ -49,7 +66,11 @@ Integer ToInteger(double value) {
 
 }  // namespace
 
-std::int16_t ToInt16(double value) { return ToInteger<std::int16_t>(value); }
-std::int32_t ToInt32(double value) { return ToInteger<std::int32_t>(value); }
+std::int16_t ToInt16(double value) {
+  return ToInteger<std::int16_t>(value);
+}
+std::int32_t ToInt32(double value) {
+  return ToInteger<std::int32_t>(value);
+}
 
 }  // namespace veritane::platform

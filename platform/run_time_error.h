@@ -34,7 +34,7 @@ std::string ErrorText(ErrorNumber number);
 // A fault with its number and a text for the user. The dispatcher of form events shows it in one message box;
 // during start-up it ends the program.
 class RunTimeError : public std::runtime_error {
- public:
+public:
   // The text becomes the number's short text, followed by ": " and `detail` where there is one.
   explicit RunTimeError(ErrorNumber number, const std::string& detail = "");
   // For numbers outside ErrorNumber (an automation object's own).
@@ -42,7 +42,7 @@ class RunTimeError : public std::runtime_error {
 
   int Number() const { return number_; }
 
- private:
+private:
   int number_;
 };
 

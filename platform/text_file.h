@@ -13,10 +13,10 @@ inline constexpr std::string_view kLineEnd = "\r\n";
 // Windows-1252.
 std::string DecodeText(std::string_view bytes);
 
-// Reads a text front to back, as fields (cut at a comma or line end) or as whole lines. Lines may end CR LF, LF
-// or CR; a missing last line end does not matter.
+// Reads a text front to back, as fields (cut at a comma or line end) or as whole lines. Lines may end CR LF,
+// LF or CR; a missing last line end does not matter.
 class TextReader {
- public:
+public:
   // Keeps a copy of the text. `bytes` as they come from the file.
   explicit TextReader(std::string_view bytes);
 
@@ -26,12 +26,12 @@ class TextReader {
   std::string ReadLine();
   // The next field, blanks around it dropped, a double-quoted one whole. Error 62 at the end of the file.
   std::string ReadField();
-  // The next field as a number: rounded half to even for integers. Error 13 when the field is no number, 6 when
-  // it does not fit.
+  // The next field as a number: rounded half to even for integers. Error 13 when the field is no number, 6
+  // when it does not fit.
   std::int16_t ReadInt16();
   double ReadDouble();
 
- private:
+private:
   void SkipLineEnd();
 
   std::string text_;

@@ -19,7 +19,8 @@ std::string FolderOf(std::string_view path) {
 }
 
 std::string UpperCase(std::string_view text) {
-  const bool is_ascii = std::all_of(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+  const bool is_ascii =
+      std::all_of(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; });
   std::string upper;
   if (is_ascii) {
     upper = text;
@@ -51,7 +52,8 @@ bool IsReservedDevice(std::string_view name) {
   const std::string stem = UpperCase(name.substr(0, name.find('.')));
   static constexpr std::array<std::string_view, 4> kDevices{"CON", "PRN", "AUX", "NUL"};
   if (std::find(kDevices.begin(), kDevices.end(), stem) != kDevices.end()) return true;
-  return stem.size() == 4 && (stem.starts_with("COM") || stem.starts_with("LPT")) && stem[3] >= '1' && stem[3] <= '9';
+  return stem.size() == 4 && (stem.starts_with("COM") || stem.starts_with("LPT")) && stem[3] >= '1' &&
+         stem[3] <= '9';
 }
 
 }  // namespace

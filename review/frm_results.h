@@ -7,7 +7,7 @@
 namespace veritane::review {
 
 class FrmResults : public platform::Form {
- public:
+public:
   explicit FrmResults(platform::Desktop& desktop) : Form(desktop, "frmResults") {
     SetCaption("Results");
     txtResults.isMultiLine = true;

@@ -7,7 +7,7 @@
 namespace veritane::review {
 
 class FrmSelectSpectrum : public platform::Form {
- public:
+public:
   explicit FrmSelectSpectrum(platform::Desktop& desktop) : Form(desktop, "frmSelectSpectrum") {}
 
   platform::ListBox lstSpectrum{*this, "lstSpectrum"};

@@ -7,7 +7,7 @@
 namespace veritane::shell {
 
 class FrmPassword : public platform::Form {
- public:
+public:
   explicit FrmPassword(platform::Desktop& desktop);
 
   platform::Label lblPassword{*this, "lblPassword"};
@@ -17,7 +17,7 @@ class FrmPassword : public platform::Form {
   bool txtPassword_KeyPress(int key);
   void cmdPasswordOK_Click();
 
- protected:
+protected:
   void Form_Activate() override;
   // Closing the dialog by its system menu enters nothing.
   void Form_QueryUnload() override;

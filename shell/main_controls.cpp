@@ -43,23 +43,25 @@ MainControls::MainControls(platform::Desktop& desktop) : Form(desktop, "frmVerit
 void MainControls::PlaceControls() {
   Place(fraMainMenu, {&Label8, &cmdSample, &cmdSupervisor, &cmdExit});
   Place(fraSupervisorMode, {&SSTab1, &cmdMainMenu});
-  Place(fraSpectrum, {&chart, &lblReadout, &lblResult, &cmdNextSample, &cmdResetLimits, &cmdPrint, &cmdScreenCopy,
-                      &cmdBacktoMainMenu});
+  Place(fraSpectrum, {&chart, &lblReadout, &lblResult, &cmdNextSample, &cmdResetLimits, &cmdPrint,
+                      &cmdScreenCopy, &cmdBacktoMainMenu});
 
   SSTab1.SetPages(kTabCount);
   Place(SSTab1, kSecurityTab, {&fraPassword});
   Place(fraPassword, {&optNoPassword, &optPassword});
   Place(SSTab1, kBackgroundTab, {&fraBackground, &cmdBack});
-  Place(fraBackground, {&optManualBackground, &optBackInterval, &txtbackInterval, &lblHours, &optBackBeforeSample});
+  Place(fraBackground,
+        {&optManualBackground, &optBackInterval, &txtbackInterval, &lblHours, &optBackBeforeSample});
   Place(SSTab1, kMethodsTab, {&fraMethods, &cmdAddMeth, &cmdDeleteMethod, &cmdNullRegions});
   Place(fraMethods, {&lblMethods, &lstMeths, &lblNull, &lstNullRegions});
   Place(SSTab1, kStandardsTab, {&grid, &fraCurrentSelection, &cmdCollectStdNow});
-  Place(fraCurrentSelection, {&lblProductID, &lblCurrentProductID, &lblCollectMethod, &cmbCollectMethod, &lblAlgorithm,
-                              &cmbAlgorithm, &cmdChooseCalFile, &cmdDel});
+  Place(fraCurrentSelection, {&lblProductID, &lblCurrentProductID, &lblCollectMethod, &cmbCollectMethod,
+                              &lblAlgorithm, &cmbAlgorithm, &cmdChooseCalFile, &cmdDel});
   Place(SSTab1, kOptionsTab, {&lblThreshold, &txtThreshold, &cmdParse, &fraPrint, &chkPrintPassFail});
   Place(fraPrint, {&optDefaultPrint, &optPrintTemplate, &lblPrintTemplate, &cmdSelTemplate});
   Place(SSTab1, kReprocessTab, {&fraReprocess});
-  Place(fraReprocess, {&cmdStandard, &lblStdName, &cmdSamp, &lblSampleName, &lblReprocessAlgorithm, &cmbAlg, &cmdNow});
+  Place(fraReprocess,
+        {&cmdStandard, &lblStdName, &cmdSamp, &lblSampleName, &lblReprocessAlgorithm, &cmbAlg, &cmdNow});
   Place(SSTab1, kExpertTab, {&cmdExpertMode});
 }
 

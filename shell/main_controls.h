@@ -21,7 +21,7 @@ enum TabPage : int {
 };
 
 class MainControls : public platform::Form {
- public:
+public:
   explicit MainControls(platform::Desktop& desktop);
 
   // Operator panel.
@@ -101,7 +101,7 @@ class MainControls : public platform::Form {
   platform::Button cmdScreenCopy{*this, "cmdScreenCopy"};
   platform::Button cmdBacktoMainMenu{*this, "cmdBacktoMainMenu"};
 
- private:
+private:
   void PlaceControls();
 };
 

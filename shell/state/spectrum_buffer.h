@@ -6,8 +6,8 @@
 
 namespace veritane::state {
 
-// An array of doubles with a lower bound of its own. Element i of a spectrum lies at i × spacing on the x axis
-// (wavenumber, cm⁻¹), so the lower bound is the first point's index, generally neither 0 nor 1.
+// An array of doubles with a lower bound of its own. Element i of a spectrum lies at i × spacing on the x
+// axis (wavenumber, cm⁻¹), so the lower bound is the first point's index, generally neither 0 nor 1.
 struct Ordinates {
   std::int32_t lower = 0;
   std::vector<double> values;
@@ -17,8 +17,8 @@ struct Ordinates {
   bool Empty() const { return values.empty(); }
 };
 
-// Ordinates with the spacing of the points (cm⁻¹; the program calls it the resolution) and their number, as the
-// Spectrometer application reported them.
+// Ordinates with the spacing of the points (cm⁻¹; the program calls it the resolution) and their number, as
+// the Spectrometer application reported them.
 struct SpectrumBuffer {
   Ordinates Data;
   double Res = 0;

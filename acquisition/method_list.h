@@ -1,0 +1,37 @@
+// The methods list: the ".clm" files that may be used, and their short names.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/controls.h"
+#include "platform/file_system.h"
+#include "shell/state/program_state.h"
+
+namespace veritane::acquisition {
+
+// The full paths of the list's text. Errors 62 and 13 as for every table.
+std::vector<std::string> ReadMethodList(std::string_view bytes);
+
+// The list's text: the count, then a path a line.
+std::string MethodListText(const std::vector<std::string>& paths);
+
+// The text behind the last "\" without its last four characters. A path without "\" keeps the name that came
+// before it.
+std::string MethodShortName(const std::string& path, const std::string& previous);
+
+// Where the list shows: full paths in the list box, short names in the combo boxes.
+struct MethodListControls {
+  platform::ListBox& lstMeths;
+  std::vector<platform::ComboBox*> shortNames;
+};
+
+// Reads the list into the state's arrays and all its controls.
+void LoadMethodList(const platform::FileSystem& files, const std::string& path, state::ProgramState& state,
+                    const MethodListControls& controls);
+
+// Writes the list from the state's array.
+void SaveMethodList(platform::FileSystem& files, const std::string& path, const state::ProgramState& state);
+
+}  // namespace veritane::acquisition

@@ -1,0 +1,34 @@
+// Reading null-region files.
+#include "acquisition/null_regions.h"
+
+#include "platform/number_text.h"
+#include "platform/run_time_error.h"
+#include "platform/text_file.h"
+
+namespace veritane::acquisition {
+
+std::string NullRegionPath(const state::DataFolders& folders, const std::string& short_name) {
+  return folders.appDir + short_name + ".nul";
+}
+
+void LoadNullRegions(const platform::FileSystem& files, state::ProgramState& state) {
+  state.nullRegions.clear();
+  const std::string path = NullRegionPath(state.folders, state.clmName);
+  if (!files.FileExists(path)) return;
+  platform::TextReader reader(files.ReadBytes(path));
+  const int count = reader.ReadInt16();
+  for (int region = 0; region < count; ++region) {
+    // "2400 - 2300": the start before the first hyphen, the end behind it.
+    const std::string line = reader.ReadLine();
+    const std::size_t hyphen = line.find('-');
+    if (hyphen == std::string::npos) {
+      throw platform::RunTimeError(platform::ErrorNumber::kTypeMismatch,
+                                   path + ": \"" + line + "\" is no region");
+    }
+    const std::string_view text(line);
+    state.nullRegions.push_back({.start = platform::LeadingNumber(text.substr(0, hyphen)),
+                                 .end = platform::LeadingNumber(text.substr(hyphen + 1))});
+  }
+}
+
+}  // namespace veritane::acquisition

@@ -1,0 +1,75 @@
+// Reading, searching, writing and showing the product table.
+#include "acquisition/product_table.h"
+
+#include "platform/number_text.h"
+#include "platform/text_file.h"
+#include "platform/windows_path.h"
+#include "shell/state/string_table.h"
+
+namespace veritane::acquisition {
+
+namespace {
+
+using platform::TextReader;
+using state::Text;
+using state::TextId;
+
+constexpr int kColumns = 4;
+
+Product ReadRow(TextReader& reader) {
+  Product product;
+  product.productId = reader.ReadField();
+  product.collectMethod = reader.ReadField();
+  product.algorithm = reader.ReadField();
+  // A last line without its line end may have nothing behind its last comma.
+  product.additionalFile = reader.AtEnd() ? "" : reader.ReadField();
+  return product;
+}
+
+}  // namespace
+
+std::vector<Product> ReadProductTable(std::string_view bytes) {
+  TextReader reader(bytes);
+  const int count = reader.ReadInt16();
+  std::vector<Product> products;
+  for (int row = 0; row < count; ++row) products.push_back(ReadRow(reader));
+  return products;
+}
+
+std::optional<Product> FindProduct(std::string_view bytes, const std::string& key) {
+  const std::string wanted = platform::UpperCase(key);
+  TextReader reader(bytes);
+  const int count = reader.ReadInt16();
+  for (int row = 0; row < count; ++row) {
+    Product product = ReadRow(reader);
+    if (platform::UpperCase(product.productId) == wanted) return product;
+  }
+  return std::nullopt;
+}
+
+std::string ProductTableText(const std::vector<Product>& products) {
+  std::string text = platform::CountText(static_cast<long long>(products.size())).append(platform::kLineEnd);
+  for (const Product& product : products) {
+    text.append(product.productId + "," + product.collectMethod + "," + product.algorithm + "," +
+                product.additionalFile)
+        .append(platform::kLineEnd);
+  }
+  return text;
+}
+
+void LoadProductTable(const platform::FileSystem& files, const std::string& path, platform::Grid& grid) {
+  std::vector<std::vector<std::string>> rows;
+  for (Product& product : ReadProductTable(files.ReadBytes(path))) {
+    rows.push_back({std::move(product.productId), std::move(product.collectMethod),
+                    std::move(product.algorithm), std::move(product.additionalFile)});
+  }
+  grid.Resize(1, kColumns);
+  grid.SetFormat("<" + Text(TextId::kProductIdHeader) + "  |<" + Text(TextId::kCollectMethodHeader) + "  |<" +
+                 Text(TextId::kAlgorithmHeader) + " |<File Name");
+  grid.SetBody(std::move(rows));
+  if (grid.RowCount() < 2) return;
+  grid.SetCurrentCell(1, 0);
+  if (grid.OnRowColChange) grid.OnRowColChange();
+}
+
+}  // namespace veritane::acquisition

@@ -1,0 +1,36 @@
+// The product table: one row a product, with its collect method, algorithm and additional file.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/file_system.h"
+#include "platform/grid.h"
+
+namespace veritane::acquisition {
+
+struct Product {
+  std::string productId;
+  std::string collectMethod;  // short name
+  std::string algorithm;
+  std::string additionalFile;  // calibration or peak file, else ""
+  bool operator==(const Product&) const = default;
+};
+
+// All rows of the table's text. Error 62 when the text ends before the counted rows, 13 when the count is no
+// number.
+std::vector<Product> ReadProductTable(std::string_view bytes);
+
+// The first row whose Product ID is `key`, without regard to case. Rows behind it are not read.
+std::optional<Product> FindProduct(std::string_view bytes, const std::string& key);
+
+// The table's text: the count, then a line a product.
+std::string ProductTableText(const std::vector<Product>& products);
+
+// Shows the table in the grid: header, one row a product, the first product current (its row-selection event
+// follows).
+void LoadProductTable(const platform::FileSystem& files, const std::string& path, platform::Grid& grid);
+
+}  // namespace veritane::acquisition

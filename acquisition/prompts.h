@@ -1,0 +1,20 @@
+// What the operator is told before a background and before a sample, per collect method.
+#pragma once
+
+#include <string>
+
+#include "platform/file_system.h"
+#include "shell/state/data_folders.h"
+
+namespace veritane::acquisition {
+
+struct Prompts {
+  std::string background;
+  std::string sample;
+};
+
+// The prompts of a method's ".pro" file, or the general ones when it has no such file.
+Prompts LoadPrompts(const platform::FileSystem& files, const state::DataFolders& folders,
+                    const std::string& short_name);
+
+}  // namespace veritane::acquisition

@@ -1,0 +1,74 @@
+// Baseline preparation: the straight line that fits a spectrum best is taken away from it.
+#include "identification/baseline.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <cstddef>
+#include <cstdint>
+#include <span>
+
+#include "identification/correlation_bounds.h"
+#include "identification/correlation_sums.h"
+#include "platform/run_time_error.h"
+
+namespace veritane::identification {
+
+using platform::ErrorNumber;
+using platform::RunTimeError;
+
+namespace {
+
+// What remains of a straight line after the subtraction is below this share of the line's height, on the
+// average point; what remains of a measured spectrum is far above it (an instrument that resolves 24 bits:
+// 6e-8).
+constexpr double kShareOfRounding = 1e-12;
+
+}  // namespace
+
+BaselineFit FitBaseline(const state::Ordinates& ordinates, double point_count) {
+  RequireSixteenBitPointNumbers(ordinates);
+  const std::int16_t count = platform::ToInt16(point_count);
+  if (count > static_cast<std::int64_t>(ordinates.Size())) {
+    throw RunTimeError(ErrorNumber::kSubscript, "a baseline over more points than the spectrum has");
+  }
+  if (count <= 1) throw RunTimeError(ErrorNumber::kDivisionByZero, "a baseline through a single point");
+
+  // With x counted from the middle of the points their sum is 0, so the normal equations fall apart into a
+  // mean and a slope, and their sum of squares has a closed form: n (n² - 1) / 12. Both are exact in a
+  // double.
+  const double n = count;
+  const double middle = (n - 1) / 2;
+  const std::span<const double> values = ordinates.values;
+  const auto [sum_y, sum_xy] = SumsOverPoints<2>(static_cast<std::size_t>(count), [&](auto position) {
+    const auto y = position.Of(values);
+    return std::array{y, (position.number - middle) * y};
+  });
+  const BaselineFit fit{
+      .centre = ordinates.lower + middle, .level = sum_y / n, .slope = sum_xy / (n * (n * n - 1) / 12)};
+  if (!std::isfinite(fit.level) || !std::isfinite(fit.slope)) {
+    throw RunTimeError(ErrorNumber::kOverflow, "an ordinate is infinite or not a number");
+  }
+  return fit;
+}
+
+void SubtractBaseline(state::Ordinates& ordinates, double point_count) {
+  const BaselineFit fit = FitBaseline(ordinates, point_count);
+  const std::span<double> values = ordinates.values;
+  const double from_first_to_centre = fit.centre - ordinates.lower;
+  const auto [remaining] = SumsOverPoints<1>(values.size(), [&](auto position) {
+    const auto line = fit.level + fit.slope * (position.number - from_first_to_centre);
+    const auto rest = position.Of(values) - line;
+    position.Put(values, rest);
+    return std::array{Larger(rest, -rest)};
+  });
+  if (!std::isfinite(remaining)) {
+    throw RunTimeError(ErrorNumber::kOverflow, "an ordinate is infinite or not a number");
+  }
+  const double height = std::max(std::abs(fit.At(ordinates.lower)), std::abs(fit.At(ordinates.Upper())));
+  if (remaining <= kShareOfRounding * height * static_cast<double>(values.size())) {
+    std::ranges::fill(values, 0.0);
+  }
+}
+
+}  // namespace veritane::identification

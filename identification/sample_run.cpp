@@ -1,0 +1,283 @@
+// The sample run step by step.
+#include "identification/sample_run.h"
+
+#include "acquisition/collection.h"
+#include "acquisition/product_key.h"
+#include "acquisition/product_table.h"
+#include "acquisition/prompts.h"
+#include "identification/result_records.h"
+#include "identification/spectrum_preparation.h"
+#include "platform/number_text.h"
+#include "platform/run_time_error.h"
+#include "platform/windows_path.h"
+#include "shell/state/messages.h"
+
+namespace veritane::identification {
+
+using acquisition::CollectOutcome;
+using acquisition::StatusShown;
+using platform::MessageIcon;
+using state::Text;
+using state::TextId;
+
+namespace {
+
+// The application is the program's from here on, and the user's again when the run ends, however it ends.
+class DrivenApplication {
+public:
+  explicit DrivenApplication(acquisition::Bench& bench) : bench_(bench) {}
+  ~DrivenApplication() {
+    bench_.desktop.SetMousePointer(platform::Pointer::kDefault);
+    try {
+      bench_.session.SpectrometerApp->Interactive(true);
+    } catch (const platform::RunTimeError&) {
+      // The run's own outcome is what the operator has to hear of, not that the window could not be shown as
+      // well.
+    }
+  }
+  DrivenApplication(const DrivenApplication&) = delete;
+  DrivenApplication& operator=(const DrivenApplication&) = delete;
+
+private:
+  acquisition::Bench& bench_;
+};
+
+// The stored spectrum that stands for a sample in demonstration mode.
+std::string DemonstrationFile(const std::string& algorithm) {
+  if (algorithm == state::kPls) return "poly pls test.bsp";
+  if (algorithm == state::kMarkPeaks) return "polys.bsp";
+  return "aspirin.bsp";
+}
+
+}  // namespace
+
+SampleRun::SampleRun(acquisition::Bench& bench, FrmSamp& frm_samp, platform::AppendingFile& log)
+    : bench_(bench), state_(bench.state), session_(bench.session), frm_samp_(frm_samp), log_(log) {}
+
+void SampleRun::Run(const acquisition::BackgroundSchedule& schedule) {
+  ClearResult();
+  frm_samp_.ShowModal();
+  if (frm_samp_.cancelled || bench_.desktop.Ended()) return;
+  if (!FindProduct()) return;
+  const DrivenApplication driven(bench_);
+  RunForProduct(schedule);
+}
+
+void SampleRun::ClearResult() {
+  const platform::ChartBatch batch(bench_.panel.chart);
+  // No value of an earlier run may judge this sample.
+  state_.comparison = std::numeric_limits<double>::quiet_NaN();
+  platform::Chart& chart = bench_.panel.chart;
+  bench_.panel.fraSpectrum.SetVisible(false);
+  bench_.panel.txtResults.SetText("");
+  bench_.panel.lblResult.SetCaption("");
+  chart.RemoveSeriesFrom(0);
+  chart.SetHeader({});
+  chart.SetMarkers({});
+  chart.SetRegions({});
+  for (std::size_t i = 0; i < platform::Chart::kLabelCount; ++i) chart.SetLabel(i, "");
+  chart.SetVerdictColour(platform::VerdictColour::kNone);
+}
+
+bool SampleRun::Refuse(const std::string& text) {
+  bench_.desktop.SetMousePointer(platform::Pointer::kDefault);
+  bench_.desktop.ShowMessage({.text = text, .title = state::kPlainNotice, .icon = MessageIcon::kCritical});
+  return false;
+}
+
+bool SampleRun::FindProduct() {
+  const platform::FileSystem& files = bench_.machine.files;
+  state_.prod = acquisition::ProductKey(files, state_.folders, frm_samp_.cmbStandards.Text());
+  state_.tmpRefName = state_.folders.InStandards(state_.prod);
+  state_.tmpSampName = state_.folders.InSamples(state_.prod + ".bsp");
+  const auto product = acquisition::FindProduct(
+      files.ReadBytes(state_.folders.appDir + state_.folderSet.methTable), state_.prod);
+  if (!product) {
+    bench_.desktop.SetMousePointer(platform::Pointer::kDefault);
+    state::Notice(bench_.desktop, TextId::kProductNotFound, MessageIcon::kCritical);
+    return false;
+  }
+  if (const std::string why = platform::WhyNotAFileName(state_.prod); !why.empty()) {
+    return Refuse("The Product ID \"" + state_.prod + "\" cannot name a sample file. " + why);
+  }
+  state_.clmName = product->collectMethod;
+  state_.algorithm = product->algorithm;
+  state_.calfilename = product->additionalFile;
+  frm_samp_.previousProduct = product->productId;
+  if (!HasMatchQuality(state_.algorithm)) {
+    return Refuse("The algorithm \"" + state_.algorithm + "\" is not available in this version of Veritane.");
+  }
+  return true;
+}
+
+void SampleRun::RunForProduct(const acquisition::BackgroundSchedule& schedule) {
+  LoadStandard();
+  const auto prompts = acquisition::LoadPrompts(bench_.machine.files, state_.folders, state_.clmName);
+  if (!CollectBackgroundIfDue(schedule, prompts.background)) return;
+  bench_.desktop.ShowMessage(
+      {.text = Text(TextId::kReadyForSample) + prompts.sample + Text(TextId::kClickToScanSample),
+       .title = Text(TextId::kNoticeTitle),
+       .icon = MessageIcon::kExclamation});
+  if (!OpenSampleDocument() || !CollectSample() || !IsConsistent()) return;
+  FileSample();
+  {
+    const StatusShown status(bench_, Text(TextId::kCalculating));
+    PrepareSpectrum(bench_, state_.Samp, state_.ChartSampData, state_.SampFFTData);
+    state_.comparison = Compare(state_);
+  }
+  ShowResult();
+  const platform::DateTime now = bench_.machine.clock.LocalNow();
+  AppendHistogramLine(bench_.machine.files, state_.tmpSampName,
+                      {.sampleName = frm_samp_.txtSampName.Text(),
+                       .productId = frm_samp_.cmbStandards.Text(),
+                       .algorithm = state_.algorithm,
+                       .comparison = state_.comparison,
+                       .passThreshold = state_.options.passThreshold,
+                       .operatorName = frm_samp_.txtOperatorName.Text()},
+                      bench_.machine.regional, now);
+  NameResultInSampleFile();
+}
+
+void SampleRun::LoadStandard() {
+  const StatusShown status(bench_, Text(TextId::kLoadingStandard));
+  session_.Open(state_.tmpRefName + ".bsp");
+  session_.CurrentDocument->SetDocumentShown(0);
+  session_.CurrentDocument->SelectSpectrum(1);
+  state_.Ref = session_.ReadSpectrum();
+  PrepareSpectrum(bench_, state_.Ref, state_.ChartRefData, state_.RefFFTData);
+}
+
+bool SampleRun::CollectBackgroundIfDue(const acquisition::BackgroundSchedule& schedule,
+                                       const std::string& prompt) {
+  const platform::FileSystem& files = bench_.machine.files;
+  state_.BackGroundName = acquisition::BackgroundPath(state_.folders, state_.clmName);
+  state_.clmFile = state_.folders.InStandards(state_.clmName + ".clm");
+  std::optional<platform::DateTime> last_background;
+  if (files.FileExists(state_.BackGroundName)) last_background = files.LastModified(state_.BackGroundName);
+  if (!acquisition::IsBackgroundDue(schedule, last_background, bench_.machine.clock.LocalNow())) return true;
+  acquisition::AnnounceBackground(bench_.desktop, prompt);
+  return acquisition::CollectBackground(bench_) == CollectOutcome::kCollected;
+}
+
+bool SampleRun::OpenSampleDocument() {
+  const bool exists = bench_.machine.files.FileExists(state_.tmpSampName);
+  roll_over_name_.clear();
+  if (state_.options.demoMode != 0) {
+    // The stored spectrum is filed in place of the sample file, so what was filed before has to make room for
+    // it.
+    return !exists || FindRollOverName();
+  }
+  if (!exists) {
+    session_.Create(state_.tmpSampName);
+    return true;
+  }
+  session_.Open(state_.tmpSampName);
+  session_.CurrentDocument->SetDocumentShown(0);
+  return session_.CurrentDocument->GetSpectrumCount() < kSpectraPerFile || RollOver();
+}
+
+bool SampleRun::FindRollOverName() {
+  const std::string stem =
+      state_.tmpSampName.substr(0, state_.tmpSampName.size() - std::string(".bsp").size());
+  for (int number = 1; number <= kMostFullFiles; ++number) {
+    roll_over_name_ = stem + "-" + std::to_string(number) + ".bsp";
+    if (!bench_.machine.files.FileExists(roll_over_name_)) return true;
+  }
+  bench_.desktop.ShowMessage({.text = Text(TextId::kSpectraLimit),
+                              .title = Text(TextId::kWarningTitle),
+                              .icon = MessageIcon::kCritical});
+  return false;
+}
+
+// The full file's copy under its number is on disk before the file itself goes: whatever happens in between,
+// no spectrum is lost.
+bool SampleRun::RollOver() {
+  if (!FindRollOverName()) {
+    session_.CurrentDocument->CloseDocument(false);
+    return false;
+  }
+  session_.CurrentDocument->SaveDocumentAs(roll_over_name_);
+  session_.CurrentDocument->CloseDocument(false);
+  bench_.machine.files.DeleteFile(state_.tmpSampName);
+  session_.Create(state_.tmpSampName);
+  return true;
+}
+
+bool SampleRun::CollectSample() {
+  if (state_.options.demoMode != 0) {
+    session_.Open(state_.folders.InStandards(DemonstrationFile(state_.algorithm)));
+    session_.CurrentDocument->SetDocumentShown(0);
+    session_.CurrentDocument->SelectSpectrum(1);
+  } else {
+    acquisition::PrepareScan(bench_, state_.clmFile, state_.BackGroundName);
+  }
+  if (acquisition::CollectIntoDocument(bench_) != CollectOutcome::kCollected) return false;
+  state_.Samp = session_.ReadSpectrum();
+  session_.spect->GetParameter("SpectName")->SetValue(frm_samp_.txtSampName.Text());
+  return true;
+}
+
+bool SampleRun::IsConsistent() {
+  const state::SpectrumBuffer& standard = state_.Ref;
+  const state::SpectrumBuffer& sample = state_.Samp;
+  std::string reason;
+  if (standard.Res != sample.Res) {
+    reason =
+        "Sample and Standard have been collected using different spectral resolutions (different Collect "
+        "Methods "
+        "used?). Please contact Supervisor.";
+  } else if (standard.Data.lower * standard.Res != sample.Data.lower * sample.Res) {
+    reason =
+        "Sample and Standard have different starting points (different Collect Methods used?). Please "
+        "contact "
+        "Supervisor.";
+  }
+  if (reason.empty()) return true;
+  session_.CurrentDocument->CloseDocument(false);
+  return Refuse(reason);
+}
+
+void SampleRun::FileSample() {
+  if (!roll_over_name_.empty() && state_.options.demoMode != 0) {
+    bench_.machine.files.MoveFile(state_.tmpSampName, roll_over_name_);
+  }
+  session_.CurrentDocument->SaveDocumentAs(state_.tmpSampName);
+  log_.Append(RunLogLine(frm_samp_.txtOperatorName.Text(), state_.tmpSampName, bench_.machine.regional,
+                         bench_.machine.clock.LocalNow()));
+}
+
+void SampleRun::ShowResult() {
+  const platform::ChartBatch batch(bench_.panel.chart);
+  platform::Chart& chart = bench_.panel.chart;
+  PlotTraces(state_, chart);
+
+  const bool passes = Passes(state_.comparison, state_.options.passThreshold);
+  const bool is_shown = HasMatchQuality(state_.algorithm) && state_.options.addPassFail != 0;
+  chart.SetLabel(platform::Chart::kVerdictLabel,
+                 is_shown ? Text(passes ? TextId::kPass : TextId::kFail) : "");
+  chart.SetVerdictColour(passes ? platform::VerdictColour::kPass : platform::VerdictColour::kFail);
+
+  const platform::DateTime now = bench_.machine.clock.LocalNow();
+  const platform::RegionalFormat& regional = bench_.machine.regional;
+  const std::string quality =
+      HasMatchQuality(state_.algorithm) ? " " + platform::NumberText(state_.comparison) + "%.  " : " .  ";
+  bench_.panel.lblResult.SetCaption("Sample Name: " + frm_samp_.txtSampName.Text() + quality +
+                                    regional.LongDate(now) + " at " + regional.ShortTime(now) +
+                                    "  Operator= " + frm_samp_.txtOperatorName.Text());
+  bench_.panel.fraSpectrum.SetCaption(Text(TextId::kMatchQualityCaption));
+  state::ShowPanel(bench_.panel, bench_.panel.fraSpectrum);
+}
+
+// A print template shows these two; the sample is the last spectrum of its file.
+void SampleRun::NameResultInSampleFile() {
+  session_.Open(state_.tmpSampName);
+  session_.CurrentDocument->SelectSpectrum(platform::ToInt16(session_.CurrentDocument->GetSpectrumCount()));
+  session_.spect = session_.CurrentDocument->GetSpectrum();
+  const auto parameters = session_.spect->GetParameterList();
+  for (const char* name : {"Comparison", "Sample Name"}) parameters->AddParameter(name, 1);
+  session_.spect->GetParameter("Comparison")->SetValue(state_.comparison);
+  session_.spect->GetParameter("Sample Name")->SetValue(frm_samp_.txtSampName.Text());
+  session_.CurrentDocument->CloseDocument(true);
+}
+
+}  // namespace veritane::identification

@@ -1,0 +1,52 @@
+// The operator's sample run, from the entry dialog to the filed spectrum and its records.
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "acquisition/background.h"
+#include "acquisition/bench.h"
+#include "identification/frm_samp.h"
+
+namespace veritane::identification {
+
+// A product's sample file is full with this many spectra; the next sample starts a new one.
+inline constexpr int kSpectraPerFile = 50;
+// Full files are numbered up to here.
+inline constexpr int kMostFullFiles = 1000;
+
+class SampleRun {
+public:
+  // `log` is the run log that stays open for the whole run of the program.
+  SampleRun(acquisition::Bench& bench, FrmSamp& frm_samp, platform::AppendingFile& log);
+
+  // Runs once, to the end or to an early end that the operator has been told of. An early end files and
+  // records nothing and leaves the spectrum panel hidden.
+  void Run(const acquisition::BackgroundSchedule& schedule);
+
+private:
+  void ClearResult();
+  bool FindProduct();
+  void RunForProduct(const acquisition::BackgroundSchedule& schedule);
+  void LoadStandard();
+  bool CollectBackgroundIfDue(const acquisition::BackgroundSchedule& schedule, const std::string& prompt);
+  bool OpenSampleDocument();
+  bool RollOver();
+  bool FindRollOverName();
+  bool CollectSample();
+  bool IsConsistent();
+  void FileSample();
+  void ShowResult();
+  void NameResultInSampleFile();
+  bool Refuse(const std::string& text);
+
+  acquisition::Bench& bench_;
+  state::ProgramState& state_;
+  acquisition::SpectrometerSession& session_;
+  FrmSamp& frm_samp_;
+  platform::AppendingFile& log_;
+  // Where a file that has to make room goes.
+  std::string roll_over_name_;
+};
+
+}  // namespace veritane::identification

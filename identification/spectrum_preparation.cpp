@@ -1,0 +1,71 @@
+// Preparing, comparing and plotting Standard and sample.
+#include "identification/spectrum_preparation.h"
+
+#include <algorithm>
+
+#include "acquisition/null_regions.h"
+#include "identification/correlation.h"
+#include "identification/normalisation.h"
+#include "platform/run_time_error.h"
+
+namespace veritane::identification {
+
+namespace {
+
+platform::ChartSeries Trace(const std::string& title, const state::Ordinates& ordinates, double spacing) {
+  platform::ChartSeries series{.title = title, .x = {}, .y = ordinates.values};
+  series.x.reserve(ordinates.Size());
+  for (std::int32_t i = ordinates.lower; i <= ordinates.Upper(); ++i) series.x.push_back(i * spacing);
+  return series;
+}
+
+}  // namespace
+
+void PrepareSpectrum(acquisition::Bench& bench, state::SpectrumBuffer& spectrum, state::Ordinates& chart,
+                     state::Ordinates& transform) {
+  const std::string& algorithm = bench.state.algorithm;
+  chart = spectrum.Data;
+  NormaliseToUnitRange(chart);
+  if (algorithm == state::kFourier) {
+    transform = bench.session.ReadTransform();
+    bench.session.CurrentDocument->CloseDocument(false);
+  } else if (algorithm == state::kEuclidean) {
+    bench.session.CurrentDocument->CloseDocument(false);
+    acquisition::LoadNullRegions(bench.machine.files, bench.state);
+    PrepareForEuclidean(spectrum, bench.state.nullRegions);
+  }
+}
+
+double Compare(state::ProgramState& state) {
+  if (state.algorithm == state::kFourier) return FourierComparison(state.RefFFTData, state.SampFFTData);
+  if (state.algorithm == state::kEuclidean) return EuclideanComparison(state.Ref.Data, state.Samp.Data);
+  throw platform::RunTimeError(platform::ErrorNumber::kInvalidCall, state.algorithm);
+}
+
+void PlotTraces(state::ProgramState& state, platform::Chart& chart) {
+  const platform::ChartBatch batch(chart);
+  const auto standard =
+      std::minmax_element(state.ChartRefData.values.begin(), state.ChartRefData.values.end());
+  const auto sample =
+      std::minmax_element(state.ChartSampData.values.begin(), state.ChartSampData.values.end());
+  state.minm = std::min(*standard.first, *sample.first);
+  state.maxm = std::max(*standard.second, *sample.second);
+  chart.SetTitles("Wavenumber (cm\u207B\u00B9)", "Normalised intensity");
+  chart.SetSeries(state::kStandardSeries, Trace("Standard", state.ChartRefData, state.Ref.Res));
+  chart.SetSeries(state::kSampleSeries, Trace("Sample", state.ChartSampData, state.Samp.Res));
+  chart.RemoveSeriesFrom(state::kSampleSeries + 1);
+  ResetChartLimits(state, chart);
+}
+
+void ResetChartLimits(state::ProgramState& state, platform::Chart& chart) {
+  const platform::ChartBatch batch(chart);
+  if (state.Ref.Res == 0) state.Ref.Res = state.Samp.Res;
+  chart.SetX({.minimum = state.ChartSampData.lower * state.Ref.Res,
+              .maximum = state.ChartSampData.Upper() * state.Ref.Res});
+  const platform::AxisLimits y{.minimum = state.minm - 0.1 * state.maxm,
+                               .maximum = state.maxm * 0.1 + state.maxm};
+  chart.SetY(y);
+  chart.SetY2(y);
+}
+
+}  // namespace veritane::identification

@@ -1,0 +1,96 @@
+// Reading small text files by fields and lines.
+#include "platform/text_file.h"
+
+#include <array>
+
+#include "platform/number_text.h"
+#include "platform/run_time_error.h"
+#include "platform/utf8.h"
+
+namespace veritane::platform {
+
+namespace {
+
+// Code points of the bytes 0x80 to 0x9F in Windows-1252; the five unused ones stay control characters.
+constexpr std::array<char16_t, 32> kWindows1252{
+    0x20AC, 0x81,   0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
+    0x2039, 0x0152, 0x8D,   0x017D, 0x8F,   0x90,   0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
+    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x9D,   0x017E, 0x0178};
+
+constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+
+bool IsBlank(char c) {
+  return c == ' ' || c == '\t';
+}
+bool IsLineEnd(char c) {
+  return c == '\r' || c == '\n';
+}
+
+}  // namespace
+
+std::string DecodeText(std::string_view bytes) {
+  if (IsUtf8(bytes)) return std::string(bytes.starts_with(kByteOrderMark) ? bytes.substr(3) : bytes);
+  std::string text;
+  text.reserve(bytes.size() + bytes.size() / 8);
+  for (const char c : bytes) {
+    const auto byte = static_cast<unsigned char>(c);
+    text += EncodeUtf8(byte >= 0x80 && byte < 0xA0 ? kWindows1252[byte - 0x80U] : byte);
+  }
+  return text;
+}
+
+TextReader::TextReader(std::string_view bytes) : text_(DecodeText(bytes)) {}
+
+void TextReader::SkipLineEnd() {
+  if (position_ < text_.size() && text_[position_] == '\r') ++position_;
+  if (position_ < text_.size() && text_[position_] == '\n') ++position_;
+}
+
+std::string TextReader::ReadLine() {
+  if (AtEnd()) throw RunTimeError(ErrorNumber::kPastEndOfFile);
+  const std::size_t begin = position_;
+  while (position_ < text_.size() && !IsLineEnd(text_[position_])) ++position_;
+  std::string line = text_.substr(begin, position_ - begin);
+  SkipLineEnd();
+  return line;
+}
+
+std::string TextReader::ReadField() {
+  if (AtEnd()) throw RunTimeError(ErrorNumber::kPastEndOfFile);
+  const auto skip_blanks = [this] {
+    while (position_ < text_.size() && IsBlank(text_[position_])) ++position_;
+  };
+  skip_blanks();
+  std::string field;
+  if (position_ < text_.size() && text_[position_] == '"') {
+    const std::size_t begin = ++position_;
+    while (position_ < text_.size() && text_[position_] != '"') ++position_;
+    field = text_.substr(begin, position_ - begin);
+    if (position_ < text_.size()) ++position_;
+    skip_blanks();
+  } else {
+    const std::size_t begin = position_;
+    while (position_ < text_.size() && text_[position_] != ',' && !IsLineEnd(text_[position_])) ++position_;
+    field = text_.substr(begin, position_ - begin);
+    while (!field.empty() && IsBlank(field.back())) field.pop_back();
+  }
+  if (position_ < text_.size() && text_[position_] == ',') {
+    ++position_;
+  } else {
+    SkipLineEnd();
+  }
+  return field;
+}
+
+std::int16_t TextReader::ReadInt16() {
+  return ToInt16(ReadDouble());
+}
+
+double TextReader::ReadDouble() {
+  const std::string field = ReadField();
+  const std::optional<double> number = ParseNumber(field);
+  if (!number) throw RunTimeError(ErrorNumber::kTypeMismatch, "\"" + field + "\" is not a number");
+  return *number;
+}
+
+}  // namespace veritane::platform

@@ -1,0 +1,118 @@
+// One action at a time.
+#include "platform/wx/action_gate.h"
+
+#include <wx/app.h>
+#include <wx/event.h>
+#include <wx/evtloop.h>
+#include <wx/utils.h>
+
+#include <cstdio>
+#include <exception>
+
+#include "platform/form.h"
+
+namespace veritane::platform {
+
+namespace {
+
+using std::chrono::milliseconds;
+
+// A handler shorter than this cannot have made anybody press twice; a barcode scanner's keys must not be lost.
+constexpr milliseconds kNoticeable{250};
+// How often waiting for the next picture is worth its time.
+constexpr milliseconds kRepaintPeriod{60};
+constexpr int kPicturePeriodMilliseconds = 17;
+
+void ReportUnexpected(const char* what) { std::fprintf(stderr, "Veritane: unexpected error: %s\n", what); }
+
+void Yield() {
+  if (wxEventLoopBase* loop = wxEventLoopBase::GetActive()) loop->YieldFor(wxEVT_CATEGORY_ALL);
+}
+
+bool IsInput(const wxEvent& event) {
+  static const auto kInputs = {wxEVT_KEY_DOWN,    wxEVT_CHAR,          wxEVT_CHAR_HOOK,  wxEVT_LEFT_DOWN,
+                               wxEVT_LEFT_DCLICK, wxEVT_RIGHT_DOWN,    wxEVT_RIGHT_DCLICK, wxEVT_MIDDLE_DOWN,
+                               wxEVT_MIDDLE_DCLICK, wxEVT_MOUSEWHEEL};
+  for (const wxEventType type : kInputs) {
+    if (event.GetEventType() == type) return true;
+  }
+  return false;
+}
+
+}  // namespace
+
+ActionGate::ActionGate() { wxEvtHandler::AddFilter(this); }
+
+ActionGate::~ActionGate() { wxEvtHandler::RemoveFilter(this); }
+
+int ActionGate::FilterEvent(wxEvent& event) { return blocking_ && IsInput(event) ? Event_Processed : Event_Skip; }
+
+void ActionGate::BeginWork() {
+  busy_ = true;
+  blocking_ = true;
+  work_began_ = Clock::now();
+}
+
+void ActionGate::DropPiledUpInput() {
+  if (blocking_ && Clock::now() - work_began_ >= kNoticeable) Yield();
+}
+
+bool ActionGate::Perform(Form& form, const std::function<void()>& action) {
+  Desktop& desktop = form.Screen();
+  if (busy_ || desktop.Ended() || desktop.IsBlocked(form)) return false;
+  BeginWork();
+  // Exceptions must not cross the toolkit's frames, which are not made for them.
+  try {
+    desktop.Perform(action);
+  } catch (const std::exception& error) {
+    ReportUnexpected(error.what());
+    desktop.End(1);
+  } catch (...) {
+    ReportUnexpected("not an exception of the standard library");
+    desktop.End(1);
+  }
+  DropPiledUpInput();
+  busy_ = false;
+  blocking_ = false;
+  return true;
+}
+
+void ActionGate::RunStart(const std::function<void()>& start, const std::function<void(int)>& end) {
+  BeginWork();
+  try {
+    start();
+  } catch (const std::exception& error) {
+    ReportUnexpected(error.what());
+    end(1);
+  } catch (...) {
+    ReportUnexpected("not an exception of the standard library");
+    end(1);
+  }
+  DropPiledUpInput();
+  busy_ = false;
+  blocking_ = false;
+}
+
+void ActionGate::ProcessPendingEvents() {
+  Yield();
+  // Pictures are drawn at the screen's pace: once in a while it is waited for, so that a status really shows.
+  if (Clock::now() - last_repaint_ < kRepaintPeriod) return;
+  wxMilliSleep(kPicturePeriodMilliseconds);
+  Yield();
+  last_repaint_ = Clock::now();
+}
+
+ActionGate::NestedLoop::NestedLoop(ActionGate& gate, Allow allow)
+    : gate_(gate), was_busy_(gate.busy_), was_blocking_(gate.blocking_) {
+  gate_.DropPiledUpInput();
+  gate_.busy_ = allow == Allow::kBoxOnly;
+  gate_.blocking_ = false;
+}
+
+ActionGate::NestedLoop::~NestedLoop() {
+  gate_.busy_ = was_busy_;
+  gate_.blocking_ = was_blocking_;
+  gate_.work_began_ = Clock::now();
+}
+
+}  // namespace veritane::platform

@@ -1,0 +1,40 @@
+// What all drawn controls share.
+#include "platform/wx/control_view.h"
+
+#include <wx/tooltip.h>
+
+#include "platform/wx/wx_text.h"
+
+namespace veritane::platform {
+
+void ControlView::Connect(const std::shared_ptr<ControlView>& view, wxWindow* window) {
+  view->window_ = window;
+  const platform::Control& control = view->control_;
+  window->SetName(ToWx(control.Name()));
+  if (!control.ToolTip().empty()) window->SetToolTip(ToWx(control.ToolTip()));
+  view->ShowState();
+  window->Enable(control.Enabled());
+  window->Show(control.Visible());
+  // The control may outlive its view.
+  view->control_.Watch([weak = std::weak_ptr(view)](Property property) {
+    if (const auto alive = weak.lock()) alive->Follow(property);
+  });
+}
+
+void ControlView::Follow(Property property) {
+  switch (property) {
+    case Property::kEnabled: window_->Enable(control_.Enabled()); break;
+    case Property::kVisible:
+      window_->Show(control_.Visible());
+      owner_.Arrange();
+      break;
+    case Property::kFocus: TakeFocus(); break;
+    default: ShowState(); break;
+  }
+}
+
+void ControlView::PressAccessKey() { TakeFocus(); }
+
+void ControlView::TakeFocus() { window_->SetFocus(); }
+
+}  // namespace veritane::platform

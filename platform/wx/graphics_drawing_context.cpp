@@ -1,0 +1,79 @@
+// Drawing on a wxGraphicsContext.
+#include "platform/wx/graphics_drawing_context.h"
+
+#include <numbers>
+#include <vector>
+
+#include "platform/wx/wx_text.h"
+
+namespace veritane::platform {
+
+namespace {
+
+// The letters' size in a line of text of height 1.
+constexpr double kLetterSize = 0.86;
+
+wxColour ToWx(Colour colour) { return {colour.red, colour.green, colour.blue, colour.alpha}; }
+
+}  // namespace
+
+GraphicsDrawingContext::GraphicsDrawingContext(wxGraphicsContext& graphics, double width, double height,
+                                               double font_height, const wxFont& font)
+    : graphics_(graphics), width_(width), height_(height), font_height_(font_height), face_(font.GetFaceName()) {}
+
+void GraphicsDrawingContext::UseFont(double height, TextWeight weight, Colour colour) const {
+  const int flags = weight == TextWeight::kBold ? wxFONTFLAG_BOLD : wxFONTFLAG_DEFAULT;
+  graphics_.SetFont(graphics_.CreateFont(height * kLetterSize, face_, flags, ToWx(colour)));
+}
+
+void GraphicsDrawingContext::UsePen(double width, Colour colour) {
+  graphics_.SetPen(graphics_.CreatePen(
+      wxGraphicsPenInfo(ToWx(colour), width).Join(wxJOIN_ROUND).Cap(wxCAP_ROUND)));
+}
+
+TextSize GraphicsDrawingContext::Measure(const std::string& text, double height, TextWeight weight) const {
+  UseFont(height, weight, {});
+  TextSize size;
+  graphics_.GetTextExtent(platform::ToWx(text), &size.width, &size.height);
+  return size;
+}
+
+void GraphicsDrawingContext::Text(const std::string& text, Point at, double height, TextWeight weight,
+                                  Colour colour) {
+  UseFont(height, weight, colour);
+  graphics_.DrawText(platform::ToWx(text), at.x, at.y);
+}
+
+void GraphicsDrawingContext::TextUpwards(const std::string& text, Point at, double height, Colour colour) {
+  UseFont(height, TextWeight::kNormal, colour);
+  graphics_.DrawText(platform::ToWx(text), at.x, at.y, std::numbers::pi / 2);
+}
+
+void GraphicsDrawingContext::Line(Point from, Point to, double width, Colour colour) {
+  UsePen(width, colour);
+  graphics_.StrokeLine(from.x, from.y, to.x, to.y);
+}
+
+void GraphicsDrawingContext::Polyline(std::span<const Point> points, double width, Colour colour) {
+  if (points.size() < 2) return;
+  UsePen(width, colour);
+  wxGraphicsPath path = graphics_.CreatePath();
+  path.MoveToPoint(points.front().x, points.front().y);
+  for (const Point& point : points.subspan(1)) path.AddLineToPoint(point.x, point.y);
+  graphics_.StrokePath(path);
+}
+
+void GraphicsDrawingContext::FillRectangle(Point corner, double width, double height, Colour colour) {
+  graphics_.SetPen(wxNullGraphicsPen);
+  graphics_.SetBrush(graphics_.CreateBrush(wxBrush(ToWx(colour))));
+  graphics_.DrawRectangle(corner.x, corner.y, width, height);
+}
+
+void GraphicsDrawingContext::BeginClip(Point corner, double width, double height) {
+  graphics_.PushState();
+  graphics_.Clip(corner.x, corner.y, width, height);
+}
+
+void GraphicsDrawingContext::EndClip() { graphics_.PopState(); }
+
+}  // namespace veritane::platform

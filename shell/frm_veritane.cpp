@@ -1,0 +1,121 @@
+// The main window's construction, the operator panel and the spectrum panel.
+#include "shell/frm_veritane.h"
+
+#include "acquisition/product_table.h"
+#include "identification/sample_run.h"
+#include "identification/spectrum_preparation.h"
+#include "platform/desktop.h"
+#include "platform/number_text.h"
+
+namespace veritane::shell {
+
+FrmVeritane::FrmVeritane(platform::Desktop& desktop, const platform::Machine& machine,
+                         acquisition::CreateSpectrometerApp create_spectrometer_app)
+    : MainControls(desktop),
+      machine_(machine),
+      create_spectrometer_app_(std::move(create_spectrometer_app)),
+      dialogs_(
+          desktop,
+          [this] {
+            std::vector<std::string> ids;
+            const std::string table = state_.folders.appDir + state_.folderSet.methTable;
+            for (const acquisition::Product& product :
+                 acquisition::ReadProductTable(machine_.files.ReadBytes(table))) {
+              ids.push_back(product.productId);
+            }
+            return ids;
+          },
+          [this] { return state::CurrentUserName(machine_.user); }),
+      bench_{.desktop = desktop,
+             .machine = machine,
+             .state = state_,
+             .session = session_,
+             .frmStatus = dialogs_.frmStatus,
+             .panel = {.fraMainMenu = fraMainMenu,
+                       .fraSupervisorMode = fraSupervisorMode,
+                       .fraSpectrum = fraSpectrum,
+                       .chart = chart,
+                       .lblResult = lblResult,
+                       .txtResults = dialogs_.frmResults.txtResults}} {
+  ConnectOperatorHandlers();
+  ConnectSupervisorHandlers();
+  ConnectSpectrumHandlers();
+  DisableWhatIsNotThereYet();
+  // After a fault in a handler the panel that it came from is there again.
+  desktop.OnError([this] {
+    const bool menu = fraMainMenu.Visible();
+    const bool supervisor = fraSupervisorMode.Visible();
+    const bool spectrum = fraSpectrum.Visible();
+    return [this, menu, supervisor, spectrum] {
+      dialogs_.frmStatus.Hide();
+      fraMainMenu.SetVisible(menu);
+      fraSupervisorMode.SetVisible(supervisor);
+      fraSpectrum.SetVisible(spectrum);
+    };
+  });
+  desktop.AttachForms();
+}
+
+void FrmVeritane::ConnectOperatorHandlers() {
+  cmdSample.OnClick = [this] { cmdSample_Click(); };
+  cmdSupervisor.OnClick = [this] { cmdSupervisor_Click(); };
+  cmdExit.OnClick = [this] { cmdExit_Click(); };
+}
+
+void FrmVeritane::ConnectSpectrumHandlers() {
+  chart.OnMouseMove = [this](double x, double y) { chart_MouseMove(x, y); };
+  cmdNextSample.OnClick = [this] { cmdNextSample_Click(); };
+  cmdResetLimits.OnClick = [this] { cmdResetLimits_Click(); };
+  cmdBacktoMainMenu.OnClick = [this] { cmdBacktoMainMenu_Click(); };
+  for (platform::Button* button : {&cmdBacktoMainMenu, &cmdPrint, &cmdResetLimits, &cmdScreenCopy}) {
+    button->OnPointerMove = [this] { Screen().SetMousePointer(platform::Pointer::kDefault); };
+  }
+}
+
+void FrmVeritane::DisableWhatIsNotThereYet() {
+  for (platform::Control* control : std::initializer_list<platform::Control*>{
+           &cmdBack, &cmdAddMeth, &cmdDeleteMethod, &cmdNullRegions, &cmbCollectMethod, &cmbAlgorithm,
+           &cmdChooseCalFile, &cmdDel, &cmdCollectStdNow, &cmdParse, &cmdSelTemplate, &cmdStandard, &cmdSamp,
+           &cmdNow, &cmdPrint, &cmdScreenCopy}) {
+    control->SetEnabled(false);
+    control->SetToolTip("Not available in this version");
+  }
+}
+
+void FrmVeritane::cmdSample_Click() {
+  identification::SampleRun run(bench_, dialogs_.frmSamp, *log_);
+  run.Run({.beforeEverySample = optBackBeforeSample.Checked(),
+           .byInterval = optBackInterval.Checked(),
+           .intervalHours = platform::LeadingNumber(txtbackInterval.Text())});
+}
+
+void FrmVeritane::chart_MouseMove(double pixel_x, double pixel_y) {
+  constexpr double kLargestWavenumber = 10000;
+  const auto point = chart.PixelToData(pixel_x, pixel_y);
+  if (point.x <= kLargestWavenumber) {
+    Screen().SetMousePointer(platform::Pointer::kCrosshair);
+    lblReadout.SetCaption(platform::FormatPattern(point.x, "####.0") + "," +
+                          platform::FormatPattern(point.y, "#0.####"));
+  } else {
+    Screen().SetMousePointer(platform::Pointer::kDefault);
+    lblReadout.SetCaption("");
+  }
+}
+
+void FrmVeritane::cmdNextSample_Click() {
+  cmdBacktoMainMenu_Click();
+  // An action of its own: should it fail, the operator panel is the screen to come back to.
+  Screen().Perform([this] { cmdSample.Click(); });
+}
+
+void FrmVeritane::cmdResetLimits_Click() {
+  identification::ResetChartLimits(state_, chart);
+}
+
+void FrmVeritane::cmdBacktoMainMenu_Click() {
+  Screen().SetMousePointer(platform::Pointer::kDefault);
+  lblReadout.SetCaption("");
+  state::ShowPanel(bench_.panel, fraMainMenu);
+}
+
+}  // namespace veritane::shell

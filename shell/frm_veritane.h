@@ -1,0 +1,91 @@
+// The main window: start-up and shut-down, the three modes, and the handlers of its controls.
+#pragma once
+
+#include <memory>
+
+#include "acquisition/bench.h"
+#include "acquisition/method_list.h"
+#include "platform/machine.h"
+#include "shell/main_controls.h"
+#include "shell/screen_texts.h"
+#include "shell/state/program_state.h"
+#include "shell/state/string_table.h"
+
+namespace veritane::shell {
+
+class FrmVeritane : public MainControls {
+public:
+  FrmVeritane(platform::Desktop& desktop, const platform::Machine& machine,
+              acquisition::CreateSpectrometerApp create_spectrometer_app);
+
+  // Start-up. When it returns the operator panel shows, or the program has ended. A RunTimeError that leaves
+  // it stops the program.
+  void Form_Load();
+
+  // Operator panel.
+  void cmdSample_Click();
+  void cmdSupervisor_Click();
+  void cmdExit_Click();
+
+  // Supervisor panel.
+  void cmdMainMenu_Click();
+  void SSTab1_Change(int previous);
+  void optNoPassword_Click();
+  void optPassword_Click();
+  void optManualBackground_Click();
+  void optBackInterval_Click();
+  bool txtbackInterval_KeyPress(int key);
+  void optBackBeforeSample_Click();
+  void grid_RowColChange();
+  void lstMeths_Click();
+  void txtThreshold_Change();
+  void optDefaultPrint_Click();
+  void optPrintTemplate_Click();
+  void chkPrintPassFail_Click();
+  void cmdExpertMode_Click();
+
+  // Spectrum panel.
+  void chart_MouseMove(double pixel_x, double pixel_y);
+  void cmdNextSample_Click();
+  void cmdResetLimits_Click();
+  void cmdBacktoMainMenu_Click();
+
+  const state::ProgramState& State() const { return state_; }
+
+protected:
+  void Form_QueryUnload() override;
+
+private:
+  void ConnectOperatorHandlers();
+  void ConnectSupervisorHandlers();
+  void ConnectSpectrumHandlers();
+  void DisableWhatIsNotThereYet();
+
+  void PrepareGrid();
+  void ShowVersionTitle();
+  void DeleteStalePrintView();
+  void CreateSpectrometerObject();
+  void OpenLog();
+  bool LoadCalibrationMethod();
+  void Calibrate();
+  void FillAlgorithmLists();
+
+  void LoadSettings();
+  void SaveSettings();
+  void ApplySettings();
+  void LoadMethods();
+  void LoadProducts();
+  bool SupervisorMayEnter();
+  std::string AskPassword(state::TextId prompt);
+  bool PrintOptionsAreComplete();
+
+  platform::Machine machine_;
+  acquisition::CreateSpectrometerApp create_spectrometer_app_;
+  state::ProgramState state_;
+  acquisition::SpectrometerSession session_;
+  Dialogs dialogs_;
+  acquisition::Bench bench_;
+  std::unique_ptr<platform::AppendingFile> log_;
+};
+
+}  // namespace veritane::shell

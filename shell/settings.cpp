@@ -1,0 +1,59 @@
+// The settings between their file, the state and the supervisor's controls.
+#include "platform/number_text.h"
+#include "platform/run_time_error.h"
+#include "shell/frm_veritane.h"
+#include "shell/state/settings_file.h"
+
+namespace veritane::shell {
+
+void FrmVeritane::LoadSettings() {
+  try {
+    state_.options = state::ReadSettings(machine_.files.ReadBytes(state_.folders.appDir + "settings.ini"));
+  } catch (const platform::RunTimeError&) {
+    // No file, or one that cannot be trusted in any line: begin with the defaults, and a file that can be
+    // read.
+    state_.options = {};
+    SaveSettings();
+  }
+  ApplySettings();
+}
+
+void FrmVeritane::SaveSettings() {
+  const state::ShownOptions shown{.backInterval = txtbackInterval.Text(),
+                                  .threshold = txtThreshold.Text(),
+                                  .printPassFail = chkPrintPassFail.Value()};
+  machine_.files.WriteBytes(state_.folders.appDir + "settings.ini",
+                            state::SettingsText(state_.options, shown));
+}
+
+void FrmVeritane::ApplySettings() {
+  // The controls' own events write into the state, so what was read is kept apart from it.
+  const state::Options options = state_.options;
+  (options.PasswordRequired == 1 ? optPassword : optNoPassword).Check();
+  const std::string interval = std::to_string(options.backInterval);
+  switch (options.backOption) {
+    case state::kManualBackground:
+    case state::kBackgroundBeforeSample:
+      txtbackInterval.SetText(interval);
+      txtbackInterval.SetEnabled(false);
+      (options.backOption == state::kManualBackground ? optManualBackground : optBackBeforeSample).Check();
+      break;
+    case state::kBackgroundByInterval:
+      txtbackInterval.SetEnabled(true);
+      txtbackInterval.SetText(interval);
+      optBackInterval.Check();
+      break;
+    default:
+      break;
+  }
+  txtThreshold.SetText(platform::PlainNumberText(options.passThreshold));
+  if (options.printOption != 0) {
+    optPrintTemplate.Check();
+    lblPrintTemplate.SetCaption(options.printTemplate);
+  } else {
+    optDefaultPrint.Check();
+  }
+  chkPrintPassFail.SetChecked(options.addPassFail != 0);
+}
+
+}  // namespace veritane::shell

@@ -1,0 +1,179 @@
+// Start-up and the two ways to end.
+#include "acquisition/collection.h"
+#include "platform/desktop.h"
+#include "platform/run_time_error.h"
+#include "shell/frm_veritane.h"
+#include "shell/state/data_folders.h"
+#include "shell/state/messages.h"
+
+namespace veritane::shell {
+
+using platform::MessageIcon;
+using platform::Pointer;
+using state::Text;
+using state::TextId;
+
+namespace {
+
+// For the steps of an ending that must all be tried, whatever becomes of each.
+template <typename Step>
+void IgnoringErrors(Step step) {
+  try {
+    step();
+  } catch (const platform::RunTimeError&) {
+    // The program ends; there is nobody left to tell.
+  }
+}
+
+}  // namespace
+
+void FrmVeritane::Form_Load() {
+  state_.folderSet = state::ChooseFolderSet(machine_.registry);
+  const std::string common = machine_.folders.CommonApplicationData(false);
+  if (common.empty()) Screen().ShowMessage({.text = "Couldn't find AppData directory", .title = "Veritane"});
+  state::MakeTablesConcrete(machine_.files, state_.folderSet, state::DataFolderBelow(common));
+  LoadScreenTexts(dialogs_, *this);
+  PrepareGrid();
+  DeleteStalePrintView();
+  ShowVersionTitle();
+  Screen().SetMousePointer(Pointer::kHourglass);
+  state::ShowPanel(bench_.panel, fraMainMenu);
+  Show();
+  Screen().ProcessPendingEvents();
+  CreateSpectrometerObject();
+  state_.folders = state::SetUpFolders(machine_.folders, machine_.files, state_.folderSet);
+  state_.formStartup = 1;
+  LoadSettings();
+  OpenLog();
+  if (state_.options.demoMode == 0) {
+    if (!LoadCalibrationMethod()) return;
+    Calibrate();
+  }
+  grid.SetFixed(1, 0);
+  FillAlgorithmLists();
+  LoadMethods();
+  chart.SetTitles("Wavenumber (cm\u207B\u00B9)", "Normalised intensity");
+  state_.formStartup = 0;
+  Screen().SetMousePointer(Pointer::kDefault);
+}
+
+// Placeholders until the product table is loaded.
+void FrmVeritane::PrepareGrid() {
+  for (int column = 1; column < grid.ColumnCount(); ++column) {
+    grid.SetCell(0, column, "Col " + std::to_string(column));
+  }
+  for (int row = 1; row < grid.RowCount(); ++row) grid.SetCell(row, 0, "Row " + std::to_string(row));
+  grid.SetCurrentCell(1, 1);
+}
+
+void FrmVeritane::DeleteStalePrintView() {
+  const std::string path = machine_.folders.ProgramFolder() + "\\current.pv";
+  if (machine_.files.FileExists(path)) machine_.files.DeleteFile(path);
+}
+
+void FrmVeritane::ShowVersionTitle() {
+  SetCaption("Veritane - Version " + std::to_string(VERITANE_VERSION_MAJOR) + "." +
+             std::to_string(VERITANE_VERSION_MINOR) + "." + std::to_string(VERITANE_VERSION_REVISION));
+}
+
+void FrmVeritane::CreateSpectrometerObject() {
+  session_.SpectrometerApp = create_spectrometer_app_("quillon.app.1");
+  session_.SpectrometerApp->SetWaiting({.busyServerRaisesError = true,
+                                        .pendingText = "Wait until analyzer finishes process\u2026",
+                                        .pendingMilliseconds = 999999999,
+                                        .busyMilliseconds = 10000});
+}
+
+void FrmVeritane::OpenLog() {
+  log_ = machine_.files.OpenForAppending(state_.folders.appDir + "log.txt");
+}
+
+// False when the program has ended for want of the method.
+bool FrmVeritane::LoadCalibrationMethod() {
+  session_.SpectrometerApp->Interactive(false);
+  state_.isVantor = state::kTrue;
+  session_.CurrentDocument =
+      session_.SpectrometerApp->OpenDocument(state_.folders.InStandards("Autoalign.bsp"));
+  const std::string method = state_.folders.InStandards("Initial.clm");
+  if (!machine_.files.FileExists(method)) {
+    Screen().ShowMessage(
+        {.text = "A file required by Veritane is not present (Initial.clm). Please re-install Veritane.",
+         .title = state::kPlainNotice,
+         .icon = MessageIcon::kCritical});
+    cmdExit_Click();
+    return false;
+  }
+  session_.scan = session_.SpectrometerApp->LoadCollectMethod(method);
+  return true;
+}
+
+void FrmVeritane::Calibrate() {
+  constexpr int kAttempts = 2;
+  for (int attempt = 1; attempt <= kAttempts; ++attempt) {
+    session_.scan->SetScanParameter(1);
+    session_.scan->SetSubParameter(0);
+    dialogs_.frmStatus.lblStatus.SetCaption(Text(TextId::kCalibrating));
+    dialogs_.frmStatus.Show();
+    Screen().SetMousePointer(Pointer::kHourglass);
+    Screen().ProcessPendingEvents();
+    const std::int16_t error_number = platform::ToInt16(session_.CurrentDocument->AutoAlign(*session_.scan));
+    Screen().SetMousePointer(Pointer::kDefault);
+    if (error_number == acquisition::kNoInstrumentError) break;
+    if (attempt == 1) {
+      // Only the younger instruments refuse the first scan; they need the option from now on.
+      state_.isVantor = state::kFalse;
+      session_.scan->SetCollectOption("NI");
+    } else {
+      acquisition::ShowInstrumentError(Screen(), error_number);
+      session_.SpectrometerApp->Interactive(true);
+    }
+  }
+  dialogs_.frmStatus.Hide();
+  session_.CurrentDocument->CloseDocument(false);
+}
+
+void FrmVeritane::FillAlgorithmLists() {
+  for (platform::ComboBox* list : {&cmbAlgorithm, &cmbAlg}) {
+    list->Clear();
+    list->AddAll({state::kEuclidean, state::kFourier, state::kLumivar, state::kPls, state::kMarkPeaks});
+  }
+  cmbAlg.Select(0);
+}
+
+void FrmVeritane::LoadMethods() {
+  acquisition::LoadMethodList(machine_.files, state_.folders.appDir + state_.folderSet.methsTable, state_,
+                              {.lstMeths = lstMeths,
+                               .shortNames = {&cmbCollectMethod, &dialogs_.frmCollectStd.cmbmth,
+                                              &dialogs_.frmSelectMethod.cmbSelectMethod}});
+}
+
+void FrmVeritane::cmdExit_Click() {
+  log_.reset();
+  try {
+    SaveSettings();
+  } catch (const platform::RunTimeError&) {
+    // The program stays, so its log has to be open again.
+    OpenLog();
+    throw;
+  }
+  IgnoringErrors([this] { session_.SpectrometerApp->Interactive(true); });
+  if (state_.going_to_expert == state::kFalse)
+    IgnoringErrors([this] { session_.SpectrometerApp->QuitApplication(); });
+  session_.Release();
+  Screen().End(0);
+}
+
+// The window is closed by the system menu or the system. The application is asked to quit before and after
+// the log is closed, even when it was to stay open for the expert.
+void FrmVeritane::Form_QueryUnload() {
+  if (log_ == nullptr) return;
+  SaveSettings();
+  session_.SpectrometerApp->QuitApplication();
+  log_.reset();
+  if (state_.going_to_expert == state::kFalse)
+    IgnoringErrors([this] { session_.SpectrometerApp->QuitApplication(); });
+  session_.Release();
+  Screen().End(0);
+}
+
+}  // namespace veritane::shell

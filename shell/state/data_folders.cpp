@@ -1,0 +1,72 @@
+// The data folders, the installer's marker in the tables, and the user's name.
+#include "shell/state/data_folders.h"
+
+#include "platform/run_time_error.h"
+#include "platform/text_file.h"
+
+namespace veritane::state {
+
+namespace {
+
+constexpr std::uint32_t kNexaSeries = 6;
+constexpr std::string_view kInstallerMarker = "[VERITANE_TARGETDIR]";
+
+std::string UpToNul(const std::string& text) {
+  return text.substr(0, text.find('\0'));
+}
+
+}  // namespace
+
+FolderSet ChooseFolderSet(const platform::Registry& registry) {
+  if (registry.ReadDword("Software\\Tarnex\\Spectrometer", "Obe Type") != kNexaSeries) return {};
+  return {.sampFolder = "NexaSamples",
+          .stdsFolder = "NexaStandards",
+          .methTable = "NexaMeth.tbl",
+          .methsTable = "NexaMeths.tbl"};
+}
+
+std::string DataFolderBelow(const std::string& common_application_data) {
+  return common_application_data.empty() ? "" : common_application_data + "\\Kestrova\\Veritane\\";
+}
+
+void MakeTablesConcrete(platform::FileSystem& files, const FolderSet& set, const std::string& data_folder) {
+  for (const std::string& table : {set.methTable, set.methsTable}) {
+    const std::string path = data_folder + table;
+    std::string bytes = files.ReadBytes(path);
+    std::size_t marker = bytes.find(kInstallerMarker);
+    if (marker == std::string::npos) continue;
+    while (marker != std::string::npos) {
+      bytes.replace(marker, kInstallerMarker.size(), data_folder);
+      marker = bytes.find(kInstallerMarker, marker + data_folder.size());
+    }
+    files.WriteBytes(path, bytes.append(platform::kLineEnd));
+  }
+}
+
+DataFolders SetUpFolders(const platform::ShellFolders& shell, platform::FileSystem& files,
+                         const FolderSet& set) {
+  DataFolders folders;
+  folders.appDir = shell.CommonApplicationData(true) + "\\Kestrova\\Veritane\\";
+  folders.stdsDir = folders.appDir + set.stdsFolder;
+  folders.sampDir = folders.appDir + set.sampFolder;
+  for (const std::string& folder : {folders.stdsDir, folders.sampDir}) {
+    if (!files.FolderExists(folder)) files.CreateFolder(folder);
+  }
+  return folders;
+}
+
+std::string CurrentUserName(const platform::UserAccount& account) {
+  try {
+    std::string name;
+    if (const auto user = account.LoggedOnUser()) {
+      name = UpToNul(*user);
+    } else if (const auto computer = account.ComputerName()) {
+      name = "[" + UpToNul(*computer) + "]";
+    }
+    return name.empty() ? "<unknown user 1>" : name;
+  } catch (const platform::RunTimeError&) {
+    return "<unknown user 2>";
+  }
+}
+
+}  // namespace veritane::state

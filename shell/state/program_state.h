@@ -1,0 +1,88 @@
+// The program's working state: one object, owned by the main form and handed down by reference.
+#pragma once
+
+#include <cstdint>
+#include <limits>
+#include <string>
+#include <vector>
+
+#include "shell/state/data_folders.h"
+#include "shell/state/null_region.h"
+#include "shell/state/spectrum_buffer.h"
+
+namespace veritane::state {
+
+// 16-bit flags as the program keeps them.
+inline constexpr std::int16_t kTrue = -1;
+inline constexpr std::int16_t kFalse = 0;
+
+// Background policies.
+inline constexpr std::int16_t kManualBackground = 1;
+inline constexpr std::int16_t kBackgroundByInterval = 2;
+inline constexpr std::int16_t kBackgroundBeforeSample = 3;
+
+// The algorithms' names as files and lists hold them.
+inline constexpr const char* kEuclidean = "Euclidean";
+inline constexpr const char* kFourier = "Fourier";
+inline constexpr const char* kLumivar = "Lumivar";
+inline constexpr const char* kPls = "PLS";
+inline constexpr const char* kMarkPeaks = "Mark Peaks";
+
+// What the supervisor sets and settings.ini keeps.
+struct Options {
+  std::int16_t demoMode = 0;
+  std::int16_t PasswordRequired = 0;
+  std::string Password;
+  std::int16_t backOption = kManualBackground;
+  std::int16_t backInterval = 0;  // hours
+  double passThreshold = 90;      // percent
+  std::int16_t printOption = 0;
+  std::string printTemplate;
+  std::int16_t addPassFail = 1;
+};
+
+struct ProgramState {
+  FolderSet folderSet;
+  DataFolders folders;
+  Options options;
+
+  std::int16_t isVantor = kFalse;
+  std::int16_t formStartup = 0;
+  std::int16_t going_to_expert = kFalse;
+
+  // The product of the current run.
+  std::string prod;
+  std::string algorithm;
+  std::string clmName;
+  std::string clmFile;
+  std::string calfilename;
+  std::string tmpRefName;
+  std::string tmpSampName;
+  std::string BackGroundName;
+
+  // The collect methods: full paths and short names, in the order of the list.
+  std::vector<std::string> methodPaths;
+  std::vector<std::string> methodShortNames;
+
+  // The null regions of clmName, in file order.
+  std::vector<NullRegion> nullRegions;
+
+  SpectrumBuffer Ref;
+  SpectrumBuffer Samp;
+  SpectrumBuffer Back;
+  Ordinates ChartRefData;
+  Ordinates ChartSampData;
+  Ordinates RefFFTData;
+  Ordinates SampFFTData;
+
+  double minm = 0;
+  double maxm = 1;
+  double backminm = 0;
+  double backmaxm = 1;
+
+  // Match quality in percent. Not a number while nothing has been compared, so that no value of an earlier
+  // run can pass a later sample.
+  double comparison = std::numeric_limits<double>::quiet_NaN();
+};
+
+}  // namespace veritane::state

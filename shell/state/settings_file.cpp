@@ -1,0 +1,35 @@
+// Reading and writing settings.ini.
+#include "shell/state/settings_file.h"
+
+#include "platform/number_text.h"
+#include "platform/text_file.h"
+
+namespace veritane::state {
+
+std::string SettingsText(const Options& options, const ShownOptions& shown) {
+  std::string text;
+  for (const std::string& line : {std::to_string(options.demoMode), std::to_string(options.PasswordRequired),
+                                  options.Password, std::to_string(options.backOption), shown.backInterval,
+                                  shown.threshold, std::to_string(options.printOption), options.printTemplate,
+                                  std::to_string(shown.printPassFail), std::to_string(options.addPassFail)}) {
+    text.append(line).append(platform::kLineEnd);
+  }
+  return text;
+}
+
+Options ReadSettings(std::string_view bytes) {
+  platform::TextReader reader(bytes);
+  Options options;
+  options.demoMode = reader.ReadInt16();
+  options.PasswordRequired = reader.ReadInt16();
+  options.Password = reader.ReadField();
+  options.backOption = reader.ReadInt16();
+  options.backInterval = reader.ReadInt16();
+  options.passThreshold = reader.ReadDouble();
+  options.printOption = reader.ReadInt16();
+  options.printTemplate = reader.ReadField();
+  options.addPassFail = reader.ReadInt16();
+  return options;
+}
+
+}  // namespace veritane::state

@@ -1,0 +1,25 @@
+// settings.ini: the ten lines and what they mean.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "shell/state/program_state.h"
+
+namespace veritane::state {
+
+// What the two text boxes and the check box show; these, and not the variables, are what is written.
+struct ShownOptions {
+  std::string backInterval;
+  std::string threshold;
+  int printPassFail = 1;
+};
+
+// The ten lines of the file.
+std::string SettingsText(const Options& options, const ShownOptions& shown);
+
+// Reads the first nine values. Errors 62 (too few), 13 (no number), 6 (a number that does not fit): the whole
+// file is then worth nothing.
+Options ReadSettings(std::string_view bytes);
+
+}  // namespace veritane::state

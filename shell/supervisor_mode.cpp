@@ -1,0 +1,205 @@
+// Supervisor mode: its password, its options, and the way back to the operator.
+#include "acquisition/null_regions.h"
+#include "acquisition/product_table.h"
+#include "platform/desktop.h"
+#include "platform/number_text.h"
+#include "platform/run_time_error.h"
+#include "platform/text_file.h"
+#include "platform/windows_path.h"
+#include "shell/frm_veritane.h"
+#include "shell/state/messages.h"
+
+namespace veritane::shell {
+
+using platform::MessageIcon;
+using platform::Pointer;
+using state::Text;
+using state::TextId;
+
+void FrmVeritane::ConnectSupervisorHandlers() {
+  cmdMainMenu.OnClick = [this] { cmdMainMenu_Click(); };
+  SSTab1.OnChange = [this](int previous) { SSTab1_Change(previous); };
+  optNoPassword.OnClick = [this] { optNoPassword_Click(); };
+  optPassword.OnClick = [this] { optPassword_Click(); };
+  optManualBackground.OnClick = [this] { optManualBackground_Click(); };
+  optBackInterval.OnClick = [this] { optBackInterval_Click(); };
+  txtbackInterval.OnKeyPress = [this](int key) { return txtbackInterval_KeyPress(key); };
+  optBackBeforeSample.OnClick = [this] { optBackBeforeSample_Click(); };
+  grid.OnRowColChange = [this] { grid_RowColChange(); };
+  lstMeths.OnClick = [this] { lstMeths_Click(); };
+  txtThreshold.OnChange = [this] { txtThreshold_Change(); };
+  optDefaultPrint.OnClick = [this] { optDefaultPrint_Click(); };
+  optPrintTemplate.OnClick = [this] { optPrintTemplate_Click(); };
+  chkPrintPassFail.OnClick = [this] { chkPrintPassFail_Click(); };
+  cmdExpertMode.OnClick = [this] { cmdExpertMode_Click(); };
+}
+
+std::string FrmVeritane::AskPassword(TextId prompt) {
+  FrmPassword& dialog = dialogs_.frmPassword;
+  dialog.lblPassword.SetCaption(Text(prompt));
+  dialog.txtPassword.SetText("");
+  dialog.ShowModal();
+  return dialog.txtPassword.Text();
+}
+
+bool FrmVeritane::SupervisorMayEnter() {
+  if (state_.options.PasswordRequired != 1) return true;
+  const std::string typed = AskPassword(TextId::kEnterPassword);
+  if (platform::UpperCase(typed) == platform::UpperCase(state_.options.Password)) return true;
+  state::Notice(Screen(), TextId::kAccessDenied, MessageIcon::kCritical);
+  return false;
+}
+
+void FrmVeritane::cmdSupervisor_Click() {
+  if (!SupervisorMayEnter()) return;
+  const platform::DateTime now = machine_.clock.LocalNow();
+  log_->Append(("Supervisor Mode accessed on " + machine_.regional.ShortDate(now) + " at " +
+                machine_.regional.ShortTime(now))
+                   .append(platform::kLineEnd));
+  Screen().SetMousePointer(Pointer::kHourglass);
+  LoadProducts();
+  SSTab1.SetTab(kSecurityTab);
+  Screen().SetMousePointer(Pointer::kDefault);
+  state::ShowPanel(bench_.panel, fraSupervisorMode);
+}
+
+void FrmVeritane::LoadProducts() {
+  try {
+    acquisition::LoadProductTable(machine_.files, state_.folders.appDir + state_.folderSet.methTable, grid);
+  } catch (const platform::RunTimeError& error) {
+    Screen().SetMousePointer(Pointer::kDefault);
+    Screen().ShowMessage({.text = std::string("The product table cannot be read. ") + error.what(),
+                          .title = state::kPlainNotice,
+                          .icon = MessageIcon::kCritical});
+  }
+}
+
+void FrmVeritane::grid_RowColChange() {
+  if (grid.ColumnCount() < 3 || grid.Row() < grid.FixedRows()) return;
+  lblCurrentProductID.SetCaption(grid.Cell(grid.Row(), 0));
+  const auto show = [](platform::ComboBox& combo, const std::string& text) {
+    const auto& items = combo.Items();
+    const auto found = std::find(items.begin(), items.end(), text);
+    combo.Select(found == items.end() ? -1 : static_cast<int>(found - items.begin()));
+  };
+  show(cmbCollectMethod, grid.Cell(grid.Row(), 1));
+  show(cmbAlgorithm, grid.Cell(grid.Row(), 2));
+}
+
+void FrmVeritane::lstMeths_Click() {
+  lstNullRegions.Clear();
+  const std::string path = acquisition::NullRegionPath(
+      state_.folders, state_.methodShortNames.at(static_cast<std::size_t>(lstMeths.Selected())));
+  if (!machine_.files.FileExists(path)) return;
+  platform::TextReader reader(machine_.files.ReadBytes(path));
+  const int count = reader.ReadInt16();
+  for (int region = 0; region < count; ++region) lstNullRegions.Add(reader.ReadLine());
+}
+
+void FrmVeritane::optNoPassword_Click() {
+  state_.options.PasswordRequired = 0;
+}
+
+void FrmVeritane::optPassword_Click() {
+  if (state_.formStartup == 1) return;
+  const std::string first = platform::UpperCase(AskPassword(TextId::kEnterPassword));
+  const std::string second = platform::UpperCase(AskPassword(TextId::kVerifyPassword));
+  if (first == second) {
+    state_.options.Password = first;
+    state_.options.PasswordRequired = 1;
+    return;
+  }
+  state::Notice(Screen(), TextId::kIncorrectPassword, MessageIcon::kCritical);
+  dialogs_.frmPassword.txtPassword.SetText("");
+  optNoPassword.Check();
+}
+
+void FrmVeritane::optManualBackground_Click() {
+  state_.options.backOption = state::kManualBackground;
+  txtbackInterval.SetText("0");
+  txtbackInterval.SetEnabled(false);
+}
+
+void FrmVeritane::optBackInterval_Click() {
+  state_.options.backOption = state::kBackgroundByInterval;
+  txtbackInterval.SetEnabled(true);
+  state_.options.backInterval = platform::ToInt16(platform::LeadingNumber(txtbackInterval.Text()));
+}
+
+void FrmVeritane::optBackBeforeSample_Click() {
+  state_.options.backOption = state::kBackgroundBeforeSample;
+  txtbackInterval.SetText("0");
+  txtbackInterval.SetEnabled(false);
+}
+
+bool FrmVeritane::txtbackInterval_KeyPress(int key) {
+  return (key >= '0' && key <= '9') || key == platform::kBackspaceKey;
+}
+
+void FrmVeritane::txtThreshold_Change() {
+  const std::optional<double> value = platform::ParseNumber(txtThreshold.Text());
+  if (value && *value >= 0 && *value <= 100) return;
+  state::Notice(Screen(), TextId::kThresholdRange, MessageIcon::kInformation);
+  txtThreshold.SetFocus();
+}
+
+void FrmVeritane::optDefaultPrint_Click() {
+  lblPrintTemplate.SetCaption("");
+  state_.options.printOption = 0;
+}
+
+void FrmVeritane::optPrintTemplate_Click() {
+  state_.options.printOption = 1;
+}
+
+void FrmVeritane::chkPrintPassFail_Click() {
+  state_.options.addPassFail = static_cast<std::int16_t>(chkPrintPassFail.Value());
+}
+
+void FrmVeritane::SSTab1_Change(int previous) {
+  if (previous == kOptionsTab && optPrintTemplate.Checked() && lblPrintTemplate.Caption().empty()) {
+    Screen().ShowMessage(
+        {.text = "Please select a Print Template, or Select Default Printing", .title = "Veritane"});
+    SSTab1.SetTab(kOptionsTab);
+    return;
+  }
+  if (SSTab1.Tab() == kMethodsTab && lstMeths.Selected() >= 0) lstMeths.Select(0);
+}
+
+bool FrmVeritane::PrintOptionsAreComplete() {
+  const std::string& path = lblPrintTemplate.Caption();
+  std::string problem;
+  if (optPrintTemplate.Checked() && path.empty()) {
+    problem = "A print template must be selected.";
+  } else if (!path.empty() && !machine_.files.FileExists(path)) {
+    problem = "Selected print template does not exist. Please select a new print template.";
+  }
+  if (problem.empty()) return true;
+  Screen().ShowMessage({.text = problem, .title = state::kPlainNotice, .icon = MessageIcon::kExclamation});
+  return false;
+}
+
+void FrmVeritane::cmdMainMenu_Click() {
+  if (!PrintOptionsAreComplete()) return;
+  if (!optDefaultPrint.Checked()) {
+    state_.options.printOption = 1;
+    state_.options.printTemplate = lblPrintTemplate.Caption();
+  } else {
+    state_.options.printOption = 0;
+  }
+  state_.options.addPassFail = static_cast<std::int16_t>(chkPrintPassFail.Value());
+  SaveSettings();
+  LoadSettings();
+  Screen().SetMousePointer(Pointer::kHourglass);
+  acquisition::SaveMethodList(machine_.files, state_.folders.appDir + state_.folderSet.methsTable, state_);
+  state::ShowPanel(bench_.panel, fraMainMenu);
+  Screen().SetMousePointer(Pointer::kDefault);
+}
+
+void FrmVeritane::cmdExpertMode_Click() {
+  session_.SpectrometerApp->Interactive(true);
+  state_.going_to_expert = state::kTrue;
+  cmdExit_Click();
+}
+
+}  // namespace veritane::shell

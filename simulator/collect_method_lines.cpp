@@ -1,0 +1,64 @@
+// Reading "Key = value" lines.
+#include "simulator/collect_method_lines.h"
+
+#include <cmath>
+
+#include "platform/number_text.h"
+#include "platform/run_time_error.h"
+#include "platform/text_file.h"
+#include "platform/windows_path.h"
+
+namespace veritane::simulator {
+
+using platform::ErrorNumber;
+using platform::RunTimeError;
+
+namespace {
+
+std::string Trimmed(const std::string& text) {
+  const std::size_t first = text.find_first_not_of(" \t");
+  if (first == std::string::npos) return {};
+  return text.substr(first, text.find_last_not_of(" \t") - first + 1);
+}
+
+std::string Place(const KeyValueLine& line) { return "line " + std::to_string(line.number) + ": "; }
+
+}  // namespace
+
+std::vector<KeyValueLine> ReadKeyValueLines(std::string_view bytes) {
+  std::vector<KeyValueLine> lines;
+  platform::TextReader reader(bytes);
+  for (int number = 1; !reader.AtEnd(); ++number) {
+    const std::string text = Trimmed(reader.ReadLine());
+    if (text.empty() || text.front() == '#') continue;
+    const std::size_t equals = text.find('=');
+    KeyValueLine line{number, platform::UpperCase(Trimmed(text.substr(0, equals))), {}};
+    if (equals == std::string::npos) RefuseLine(line, "\"" + text + "\" is not \"Key = value\"");
+    if (line.key.empty()) RefuseLine(line, "the key is missing");
+    line.value = Trimmed(text.substr(equals + 1));
+    lines.push_back(std::move(line));
+  }
+  return lines;
+}
+
+double NumberOf(const KeyValueLine& line) {
+  if (const auto number = platform::ParseNumber(line.value)) return *number;
+  throw RunTimeError(ErrorNumber::kTypeMismatch, Place(line) + line.key + " is no number: \"" + line.value + "\"");
+}
+
+long long WholeNumberOf(const KeyValueLine& line, long long least, long long most) {
+  const double number = NumberOf(line);
+  if (!(number >= static_cast<double>(least) && number <= static_cast<double>(most))) {
+    RefuseLine(line, line.key + " lies from " + std::to_string(least) + " to " + std::to_string(most));
+  }
+  if (number != std::floor(number)) {
+    throw RunTimeError(ErrorNumber::kTypeMismatch, Place(line) + line.key + " is a whole number");
+  }
+  return static_cast<long long>(number);
+}
+
+void RefuseLine(const KeyValueLine& line, const std::string& why) {
+  throw RunTimeError(ErrorNumber::kInvalidCall, Place(line) + why);
+}
+
+}  // namespace veritane::simulator

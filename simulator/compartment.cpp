@@ -1,0 +1,96 @@
+// The compartment's file.
+#include "simulator/compartment.h"
+
+#include <limits>
+
+#include "platform/number_text.h"
+#include "platform/run_time_error.h"
+#include "platform/text_file.h"
+#include "platform/windows_path.h"
+#include "simulator/collect_method_lines.h"
+
+namespace veritane::simulator {
+
+using platform::RunTimeError;
+
+namespace {
+
+constexpr int kLargestFault = std::numeric_limits<std::int16_t>::max();
+constexpr int kLongestDuration = 3600000;
+
+double NoiseFrom(const KeyValueLine& line) {
+  const double noise = NumberOf(line);
+  if (!(noise >= 0 && noise <= 1000)) RefuseLine(line, "NOISE lies from 0 to 1000");
+  return noise;
+}
+
+std::optional<std::uint32_t> SeedFrom(const KeyValueLine& line) {
+  if (platform::UpperCase(line.value) == "RANDOM") return std::nullopt;
+  return static_cast<std::uint32_t>(WholeNumberOf(line, 0, std::numeric_limits<std::uint32_t>::max()));
+}
+
+void Apply(const KeyValueLine& line, CompartmentState& state) {
+  if (line.key == "SAMPLE") {
+    state.sample = line.value;
+  } else if (line.key == "ACCESSORY") {
+    state.accessory = line.value;
+  } else if (line.key == "FAULT") {
+    state.fault = static_cast<int>(WholeNumberOf(line, std::numeric_limits<std::int16_t>::min(), kLargestFault));
+  } else if (line.key == "FAULTCOUNT") {
+    state.faultCount = static_cast<int>(WholeNumberOf(line, 0, kLargestFault));
+  } else if (line.key == "NOISE") {
+    state.noise = NoiseFrom(line);
+  } else if (line.key == "DURATION") {
+    state.duration = static_cast<int>(WholeNumberOf(line, 0, kLongestDuration));
+  } else if (line.key == "SEED") {
+    state.seed = SeedFrom(line);
+  }
+}
+
+}  // namespace
+
+CompartmentState ParseCompartment(std::string_view bytes) {
+  CompartmentState state;
+  for (const KeyValueLine& line : ReadKeyValueLines(bytes)) {
+    if (!line.value.empty()) Apply(line, state);
+  }
+  return state;
+}
+
+std::string CompartmentText(const CompartmentState& state) {
+  std::string text;
+  const auto add = [&text](std::string_view line) { text.append(line).append(platform::kLineEnd); };
+  add("# What lies in the sample compartment of the simulated instrument.");
+  add("Sample = " + state.sample);
+  add("Accessory = " + state.accessory);
+  add("Fault = " + std::to_string(state.fault));
+  add("FaultCount = " + std::to_string(state.faultCount));
+  add("Noise = " + platform::PlainNumberText(state.noise));
+  add("Duration = " + std::to_string(state.duration));
+  add("Seed = " + (state.seed ? std::to_string(*state.seed) : "random"));
+  return text;
+}
+
+CompartmentState Compartment::Read() const {
+  if (!files_.FileExists(path_)) return {};
+  const std::string bytes = files_.ReadBytes(path_);
+  try {
+    return ParseCompartment(bytes);
+  } catch (const RunTimeError& error) {
+    throw RunTimeError(error.Number(), path_ + ": " + error.what());
+  }
+}
+
+void Compartment::Write(const CompartmentState& state) { files_.WriteBytes(path_, CompartmentText(state)); }
+
+int Compartment::TakeFault() {
+  CompartmentState state = Read();
+  if (state.fault == 0 || state.faultCount == 0) return 0;
+  const int fault = state.fault;
+  state.faultCount -= 1;
+  if (state.faultCount == 0) state.fault = 0;
+  Write(state);
+  return fault;
+}
+
+}  // namespace veritane::simulator

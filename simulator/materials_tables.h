@@ -1,0 +1,14 @@
+// The band tables by group of materials; materials.h is what the rest of the program uses.
+#pragma once
+
+#include <span>
+
+#include "simulator/materials.h"
+
+namespace veritane::simulator {
+
+std::span<const Material> Polymers();
+std::span<const Material> Pharmaceuticals();
+std::span<const Material> Liquids();
+
+}  // namespace veritane::simulator
