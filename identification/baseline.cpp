@@ -55,9 +55,9 @@ BaselineFit FitBaseline(const state::Ordinates& ordinates, double point_count) {
 void SubtractBaseline(state::Ordinates& ordinates, double point_count) {
   const BaselineFit fit = FitBaseline(ordinates, point_count);
   const std::span<double> values = ordinates.values;
-  const double from_first_to_centre = fit.centre - ordinates.lower;
+  const double at_first = fit.At(ordinates.lower);
   const auto [remaining] = SumsOverPoints<1>(values.size(), [&](auto position) {
-    const auto line = fit.level + fit.slope * (position.number - from_first_to_centre);
+    const auto line = at_first + fit.slope * position.number;
     const auto rest = position.Of(values) - line;
     position.Put(values, rest);
     return std::array{Larger(rest, -rest)};
@@ -65,7 +65,7 @@ void SubtractBaseline(state::Ordinates& ordinates, double point_count) {
   if (!std::isfinite(remaining)) {
     throw RunTimeError(ErrorNumber::kOverflow, "an ordinate is infinite or not a number");
   }
-  const double height = std::max(std::abs(fit.At(ordinates.lower)), std::abs(fit.At(ordinates.Upper())));
+  const double height = std::max(std::abs(at_first), std::abs(fit.At(ordinates.Upper())));
   if (remaining <= kShareOfRounding * height * static_cast<double>(values.size())) {
     std::ranges::fill(values, 0.0);
   }

@@ -23,14 +23,7 @@ struct Extremes {
   double max;
 };
 
-// Every ordinate must be a number: comparisons alone would pass over one that is not in silence.
-void RequireFinite(std::span<const double> values) {
-  // 0 times an ordinate is 0, unless the ordinate is infinite or not a number.
-  const auto [zeros] =
-      SumsOverPoints<1>(values.size(), [&](auto position) { return std::array{0.0 * position.Of(values)}; });
-  if (zeros != 0) throw RunTimeError(ErrorNumber::kOverflow, "an ordinate is infinite or not a number");
-}
-
+// Passes over an ordinate that is not a number, unless it is the first.
 Extremes FindExtremes(std::span<const double> values) {
   Extremes extremes{values.front(), values.front()};
   Pair even_min{extremes.min, extremes.min};
@@ -60,21 +53,21 @@ Extremes FindExtremes(std::span<const double> values) {
 
 void NormaliseToUnitRange(state::Ordinates& ordinates) {
   RequireSixteenBitPointNumbers(ordinates);
-  RequireFinite(ordinates.values);
-  const auto [min, max] = FindExtremes(ordinates.values);
+  const std::span<double> values = ordinates.values;
+  const auto [min, max] = FindExtremes(values);
   const double range = max - min;
-  if (std::isinf(range)) throw RunTimeError(ErrorNumber::kOverflow, "the range of a spectrum");
-  if (range == 0) {
-    std::ranges::fill(ordinates.values, 0.0);
+  if (!std::isfinite(range)) throw RunTimeError(ErrorNumber::kOverflow, "the range of a spectrum");
+  if (std::ranges::all_of(values, [flat = min](double value) { return value == flat; })) {
+    std::ranges::fill(values, 0.0);
     return;
   }
-  std::span<double> values = ordinates.values;
-  std::size_t point = 0;
-  for (; point + 2 <= values.size(); point += 2) {
-    const PairAt pair{point, {}};
-    pair.Put(values, (pair.Of(values) - min) / range);
-  }
-  for (; point < values.size(); ++point) values[point] = (values[point] - min) / range;
+  const auto [sum] = SumsOverPoints<1>(values.size(), [&, least = min](auto position) {
+    const auto normalised = (position.Of(values) - least) / range;
+    position.Put(values, normalised);
+    return std::array{normalised};
+  });
+  // Normalised numbers lie between 0 and 1, so only one that is no number can spoil their sum.
+  if (!std::isfinite(sum)) throw RunTimeError(ErrorNumber::kOverflow, "an ordinate is not a number");
 }
 
 }  // namespace veritane::identification

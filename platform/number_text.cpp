@@ -103,14 +103,15 @@ std::size_t NumberLength(std::string_view text) {
   return i;
 }
 
-// `text` is a whole decimal number. Nothing when it is too large for a double.
+// `text` is a whole decimal number. Nothing when it is too large for a double; one that is too small is 0.
 std::optional<double> Convert(std::string_view text) {
   if (text.starts_with('+')) text.remove_prefix(1);
   double number = 0;
   const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-  if (error == std::errc::result_out_of_range && std::abs(number) > 1) return std::nullopt;
-  if (error != std::errc() && error != std::errc::result_out_of_range) return std::nullopt;
-  return std::isfinite(number) ? std::optional(number) : std::nullopt;
+  if (error == std::errc()) return number;
+  const std::size_t exponent = text.find_first_of("eE");
+  const bool is_tiny = exponent != std::string_view::npos && text.substr(exponent + 1).starts_with('-');
+  return is_tiny ? std::optional(0.0) : std::nullopt;
 }
 
 std::string_view TrimBlanks(std::string_view text) {

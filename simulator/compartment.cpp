@@ -1,6 +1,7 @@
 // The compartment's file.
 #include "simulator/compartment.h"
 
+#include <algorithm>
 #include <limits>
 
 #include "platform/number_text.h"
@@ -15,7 +16,7 @@ using platform::RunTimeError;
 
 namespace {
 
-constexpr int kLargestFault = std::numeric_limits<std::int16_t>::max();
+constexpr int kMostFaults = 32767;
 constexpr int kLongestDuration = 3600000;
 
 double NoiseFrom(const KeyValueLine& line) {
@@ -29,15 +30,23 @@ std::optional<std::uint32_t> SeedFrom(const KeyValueLine& line) {
   return static_cast<std::uint32_t>(WholeNumberOf(line, 0, std::numeric_limits<std::uint32_t>::max()));
 }
 
+std::string OneLine(const std::string& name) {
+  if (std::any_of(name.begin(), name.end(), [](char c) { return static_cast<unsigned char>(c) < 0x20; })) {
+    throw RunTimeError(platform::ErrorNumber::kInvalidCall, "a name in the sample compartment is one line of text");
+  }
+  return name;
+}
+
 void Apply(const KeyValueLine& line, CompartmentState& state) {
   if (line.key == "SAMPLE") {
     state.sample = line.value;
   } else if (line.key == "ACCESSORY") {
     state.accessory = line.value;
   } else if (line.key == "FAULT") {
-    state.fault = static_cast<int>(WholeNumberOf(line, std::numeric_limits<std::int16_t>::min(), kLargestFault));
+    state.fault = static_cast<std::int32_t>(WholeNumberOf(line, std::numeric_limits<std::int32_t>::min(),
+                                                         std::numeric_limits<std::int32_t>::max()));
   } else if (line.key == "FAULTCOUNT") {
-    state.faultCount = static_cast<int>(WholeNumberOf(line, 0, kLargestFault));
+    state.faultCount = static_cast<int>(WholeNumberOf(line, 0, kMostFaults));
   } else if (line.key == "NOISE") {
     state.noise = NoiseFrom(line);
   } else if (line.key == "DURATION") {
@@ -61,8 +70,8 @@ std::string CompartmentText(const CompartmentState& state) {
   std::string text;
   const auto add = [&text](std::string_view line) { text.append(line).append(platform::kLineEnd); };
   add("# What lies in the sample compartment of the simulated instrument.");
-  add("Sample = " + state.sample);
-  add("Accessory = " + state.accessory);
+  add("Sample = " + OneLine(state.sample));
+  add("Accessory = " + OneLine(state.accessory));
   add("Fault = " + std::to_string(state.fault));
   add("FaultCount = " + std::to_string(state.faultCount));
   add("Noise = " + platform::PlainNumberText(state.noise));
@@ -83,10 +92,10 @@ CompartmentState Compartment::Read() const {
 
 void Compartment::Write(const CompartmentState& state) { files_.WriteBytes(path_, CompartmentText(state)); }
 
-int Compartment::TakeFault() {
+std::int32_t Compartment::TakeFault() {
   CompartmentState state = Read();
   if (state.fault == 0 || state.faultCount == 0) return 0;
-  const int fault = state.fault;
+  const std::int32_t fault = state.fault;
   state.faultCount -= 1;
   if (state.faultCount == 0) state.fault = 0;
   Write(state);

@@ -2,7 +2,7 @@
 // script or an editor can change it while the program waits.
 //
 // The file is "Key = value" lines ("#" begins a comment): Sample, Accessory, Fault, FaultCount, Noise, Duration, Seed.
-// A missing file or key means the default; keys that are not known are left alone, so that a newer panel can add some.
+// A missing file or key or an empty value means the default; keys that are not known are passed over.
 #pragma once
 
 #include <cstdint>
@@ -18,10 +18,10 @@ namespace veritane::simulator {
 struct CompartmentState {
   std::string sample = "empty";  // as SampleOf of materials.h takes it
   std::string accessory = kTransmissionAccessory;
-  int fault = 0;                  // instrument error number to report, 0 for none
-  int faultCount = 0;             // on how many of the next collections or alignments
-  double noise = 1;               // times the instrument's own noise; 0 for none
-  int duration = 1500;            // of a collection, in milliseconds
+  std::int32_t fault = 0;             // instrument error number to report, 0 for none
+  int faultCount = 0;                 // on how many of the next collections or alignments
+  double noise = 1;                   // times the instrument's own noise; 0 for none
+  int duration = 1500;                // of a collection, in milliseconds
   std::optional<std::uint32_t> seed;  // of the noise; nothing is "random"
 
   bool operator==(const CompartmentState&) const = default;
@@ -29,6 +29,7 @@ struct CompartmentState {
 
 // Error 13 or 5 naming the line for a value that makes no sense.
 CompartmentState ParseCompartment(std::string_view bytes);
+// Error 5 for a sample or an accessory whose name would not fit in one line.
 std::string CompartmentText(const CompartmentState& state);
 
 // The file. Every call reads or writes it anew.
@@ -42,7 +43,7 @@ class Compartment {
   void Write(const CompartmentState& state);
 
   // The fault that the next collection or alignment reports, or 0. Lowers the count in the file.
-  int TakeFault();
+  std::int32_t TakeFault();
 
  private:
   platform::FileSystem& files_;

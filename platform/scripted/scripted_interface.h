@@ -34,6 +34,7 @@ using EventSink = std::function<void(const nlohmann::ordered_json&)>;
 LineSource LinesOf(std::istream& stream);
 
 // Writes each event as one line of UTF-8 text, bytes that are none replaced by U+FFFD, and flushes it.
+// Whether the stream took everything is for its owner to check at the end.
 EventSink JsonLines(std::ostream& stream);
 
 // The program behind the screen, as a script sees it.
@@ -66,7 +67,7 @@ public:
   int Finish();
 
   // Whether the program has ended, or an error or a dialog without an answer has stopped the run.
-  bool IsOver() const { return stopped_ || (desktop_ != nullptr && desktop_->Ended()); }
+  bool IsOver() const { return stopped_ || finished_ || (desktop_ != nullptr && desktop_->Ended()); }
   // What stopped the run, "" when nothing did.
   const std::string& StopReason() const { return stop_reason_; }
 

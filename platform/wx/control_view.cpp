@@ -9,7 +9,7 @@ namespace veritane::platform {
 
 void ControlView::Connect(const std::shared_ptr<ControlView>& view, wxWindow* window) {
   view->window_ = window;
-  const platform::Control& control = view->control_;
+  const Control& control = view->control_;
   window->SetName(ToWx(control.Name()));
   if (!control.ToolTip().empty()) window->SetToolTip(ToWx(control.ToolTip()));
   view->ShowState();

@@ -30,7 +30,7 @@ class ControlView {
   // Makes the view of `window` follow its control for as long as `view` lives.
   static void Connect(const std::shared_ptr<ControlView>& view, wxWindow* window);
 
-  platform::Control& Control() const { return control_; }
+  Control& Model() const { return control_; }
   wxWindow* Window() const { return window_; }
 
   // The user pressed the control's access key.
@@ -52,7 +52,7 @@ class ControlView {
   ViewOwner& Owner() const { return owner_; }
 
  private:
-  platform::Control& control_;
+  Control& control_;
   ViewOwner& owner_;
   wxWindow* window_ = nullptr;
 };

@@ -17,7 +17,7 @@ LabelView::LabelView(Label& label, ViewOwner& owner, wxWindow* parent, Style sty
 }
 
 void LabelView::ShowState() {
-  const wxString text = ToWx(Control().Caption());
+  const wxString text = ToWx(Model().Caption());
   if (style_ == Style::kWrapped) {
     static_cast<WrappingText*>(widget_)->SetText(text);
   } else if (style_ == Style::kData) {
@@ -98,7 +98,7 @@ void CheckBoxView::Toggle() {
 }
 
 void FrameView::ShowState() {
-  (heading_ != nullptr ? heading_ : Window())->SetLabel(ToWx(Control().Caption()));
+  (heading_ != nullptr ? heading_ : Window())->SetLabel(ToWx(Model().Caption()));
   Owner().Arrange();
 }
 

@@ -1,0 +1,36 @@
+// The grid as it is drawn: reads the cells that are in sight from the grid control, however many rows it has.
+#pragma once
+
+#include <wx/grid.h>
+
+#include "platform/grid.h"
+#include "platform/wx/control_view.h"
+
+namespace veritane::platform {
+
+class GridView : public ControlView {
+ public:
+  GridView(Grid& grid, ViewOwner& owner, wxWindow* parent);
+
+  wxGrid* Widget() const { return widget_; }
+
+ protected:
+  void ShowState() override;
+  void Follow(Property property) override;
+
+ private:
+  void ShowCells();
+  void ShowCurrentRow();
+  void FitColumns();
+  void OnSelectCell(wxGridEvent& event);
+
+  Grid& grid_;
+  wxGrid* widget_;
+  wxGridTableBase* table_;
+  // Cells often change many at once; the widget catches up when the change is over.
+  bool is_catching_up_ = false;
+  // The widget's selection is being moved by the program.
+  bool is_following_ = false;
+};
+
+}  // namespace veritane::platform

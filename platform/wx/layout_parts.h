@@ -1,0 +1,28 @@
+// The few patterns that the layouts are made of.
+#pragma once
+
+#include <wx/sizer.h>
+
+#include <initializer_list>
+
+#include "platform/wx/form_builder.h"
+
+namespace veritane::platform {
+
+// The space between unrelated things, and between things that belong together.
+inline int WideGap(const wxWindow* window) { return FormBuilder::Line(window); }
+inline int Gap(const wxWindow* window) { return FormBuilder::Line(window) / 2; }
+
+// Two columns: labels, and fields that take the width that is left.
+wxFlexGridSizer* FieldTable(const wxWindow* window);
+void AddField(wxFlexGridSizer* table, wxWindow* label, wxWindow* field, int least_width);
+// Buttons of one width in a row.
+wxSizer* ButtonRow(const wxWindow* window, std::initializer_list<wxWindow*> buttons);
+// The buttons below one another.
+wxSizer* ButtonColumn(const wxWindow* window, std::initializer_list<wxWindow*> buttons);
+// The content with the room around it that a dialog has, and its buttons below on the right.
+wxSizer* Dialog(const wxWindow* window, wxSizer* content, wxSizer* buttons);
+// The content with room around it.
+wxSizer* Padded(wxSizer* content, int gap);
+
+}  // namespace veritane::platform

@@ -1,0 +1,175 @@
+#!/usr/bin/env python3
+"""Plays acceptance scripts with veritane-console and compares what it prints with what is expected.
+
+For each NAME.script a data folder is laid out by veritane-setup in a temporary root, the script is played
+there, and the lines printed must be those of NAME.expected beside it, one for one.
+
+A script can ask for more in comments of its own:
+
+    #! console --locale en_GB          options for veritane-console
+    #! root settings.ini C:\\ProgramData\\Veritane\\settings.ini
+                                       copies a file beside the script into the data folder before the run
+    #! show C:\\ProgramData\\Veritane\\log.txt
+                                       prints that file behind the events, so that it is compared too
+
+What differs from run to run is masked before the comparison: the temporary root becomes <root>, and the
+program's version in its window title <version>. Times are fixed by the script's `now`, in the time zone UTC.
+"""
+
+import argparse
+import difflib
+import json
+import os
+import re
+import shlex
+import shutil
+import subprocess
+import sys
+import tempfile
+from pathlib import Path
+
+TIME_LIMIT_SECONDS = 300
+
+
+class Failure(Exception):
+    """A run that cannot be compared; the text says why."""
+
+
+def main():
+    options = parse_arguments()
+    failed = [script for script in options.scripts if not check(script, options)]
+    if failed:
+        print(f"{len(failed)} of {len(options.scripts)} scripts failed.")
+    return 1 if failed else 0
+
+
+def parse_arguments():
+    parser = argparse.ArgumentParser(description="Plays acceptance scripts and compares their events.")
+    parser.add_argument("--console", required=True, type=Path, help="the program veritane-console")
+    parser.add_argument("--setup", required=True, type=Path, help="the program veritane-setup")
+    parser.add_argument("--update", action="store_true", help="write the .expected files instead of comparing")
+    parser.add_argument("scripts", nargs="+", type=Path, metavar="SCRIPT")
+    return parser.parse_args()
+
+
+def check(script, options):
+    """Plays one script; returns whether it did what is expected."""
+    expected_file = script.with_suffix(".expected")
+    try:
+        actual = play(script, options)
+        if options.update:
+            expected_file.write_text("\n".join(actual) + "\n", encoding="utf-8")
+            print(f"written: {expected_file}")
+            return True
+        if not expected_file.exists():
+            raise Failure(f"{expected_file} is missing; --update writes it.")
+        expected = expected_file.read_text(encoding="utf-8").splitlines()
+    except (Failure, OSError) as failure:
+        print(f"FAILED: {script}: {failure}")
+        return False
+    if actual == expected:
+        print(f"passed: {script}")
+        return True
+    print(f"FAILED: {script}")
+    print("\n".join(difflib.unified_diff(expected, actual, "expected", "printed", lineterm="", n=3)))
+    return False
+
+
+def play(script, options):
+    """Plays one script in a root of its own; returns the masked lines that it printed."""
+    wishes = read_wishes(script)
+    with tempfile.TemporaryDirectory(prefix="veritane-") as folder:
+        root = Path(folder).resolve() / "root"
+        root.mkdir()
+        run([options.setup, "--root", root], allowed=[0])
+        for words in wishes["root"]:
+            place_file(script.parent / words[0], in_root(root, words[1]))
+        console_options = [word for words in wishes["console"] for word in words]
+        lines, status = run([options.console, "--root", root, *console_options, script], allowed=[0, 1, 2])
+        check_exit(lines, status)
+        for words in wishes["show"]:
+            lines += show(root, words[0])
+        return [mask(line, root) for line in lines]
+
+
+def read_wishes(script):
+    """The words of the script's "#!" comments, by their first word."""
+    wishes = {"console": [], "root": [], "show": []}
+    words_needed = {"root": 2, "show": 1}
+    for line in script.read_text(encoding="utf-8").splitlines():
+        if not line.startswith("#!"):
+            continue
+        lexer = shlex.shlex(line[2:], posix=True, punctuation_chars=False)
+        lexer.whitespace_split, lexer.escape, lexer.commenters = True, "", ""
+        first, *words = list(lexer) or [""]
+        if first not in wishes or len(words) != words_needed.get(first, len(words)):
+            raise Failure(f"not understood: {line}")
+        wishes[first].append(words)
+    return wishes
+
+
+def run(command, allowed):
+    """Runs a program; returns the lines that it printed and its exit status."""
+    command = [str(word) for word in command]
+    environment = {name: value for name, value in os.environ.items() if name not in ("VERITANE_HOME", "LANG")}
+    environment.update(TZ="UTC", LC_ALL="C.UTF-8")
+    try:
+        done = subprocess.run(command, stdin=subprocess.DEVNULL, capture_output=True, env=environment,
+                              timeout=TIME_LIMIT_SECONDS, check=False)
+    except subprocess.TimeoutExpired as expired:
+        printed = (expired.stdout or b"").decode("utf-8", "replace").splitlines()
+        raise Failure("not done after %d s; last line: %s" %
+                      (TIME_LIMIT_SECONDS, printed[-1] if printed else "none")) from expired
+    if done.returncode not in allowed or done.stderr:
+        raise Failure("%s ended with status %d\n%s" %
+                      (shlex.join(command), done.returncode, done.stderr.decode("utf-8", "replace")))
+    try:
+        return done.stdout.decode("utf-8").splitlines(), done.returncode
+    except UnicodeDecodeError as error:
+        raise Failure(f"what was printed is not UTF-8: {error}") from error
+
+
+def check_exit(lines, status):
+    """The last line must be the exit event, with the status that the system saw."""
+    try:
+        last = json.loads(lines[-1])
+    except (IndexError, json.JSONDecodeError) as error:
+        raise Failure("the last line is no event") from error
+    if last.get("event") != "exit" or last.get("status") != status:
+        raise Failure(f"exit status {status}, but the last line is {lines[-1]}")
+
+
+def in_root(root, windows_path):
+    """Where the C: drive's path lies, each name looked up without regard to case as the program does."""
+    if not re.match(r"(?i)c:\\", windows_path):
+        raise Failure(f"not a path on C: {windows_path}")
+    place = root / "drive_c"
+    for name in windows_path[3:].split("\\"):
+        there = [child for child in (place.iterdir() if place.is_dir() else [])
+                 if child.name.casefold() == name.casefold()]
+        place = there[0] if there else place / name
+    return place
+
+
+def place_file(source, target):
+    target.parent.mkdir(parents=True, exist_ok=True)
+    shutil.copyfile(source, target)
+
+
+def show(root, windows_path):
+    file = in_root(root, windows_path)
+    if not file.is_file():
+        return [f"--- {windows_path}: no such file"]
+    return [f"--- {windows_path}"] + file.read_bytes().decode("utf-8", "backslashreplace").splitlines()
+
+
+def mask(line, root):
+    posix = str(root)
+    windows = posix.replace("/", "\\")
+    for volatile in (windows.replace("\\", "\\\\"), windows, posix):
+        line = line.replace(volatile, "<root>")
+    return re.sub(r"(Veritane - Version )\d+(\.\d+)*", r"\1<version>", line)
+
+
+if __name__ == "__main__":
+    sys.exit(main())
