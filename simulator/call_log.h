@@ -1,4 +1,5 @@
-// The operations that the program called, in order: "OpenDocument(C:\…)", "CollectInto", "CloseDocument(true)".
+// The operations that the program called, in order: "OpenDocument(C:\…)", "CollectInto",
+// "CloseDocument(true)".
 #pragma once
 
 #include <string>
@@ -12,8 +13,9 @@
 namespace veritane::simulator {
 
 class CallLog {
- public:
-  // Notes one call. Truth values are written true and false, numbers in their shortest form, texts as they are.
+public:
+  // Notes one call. Truth values are written true and false, numbers in their shortest form, texts as they
+  // are.
   template <typename... Arguments>
   void Note(std::string_view operation, const Arguments&... arguments) {
     std::string call(operation);
@@ -28,7 +30,7 @@ class CallLog {
   // The calls since the last taking.
   std::vector<std::string> Take() { return std::exchange(calls_, {}); }
 
- private:
+private:
   template <typename Argument>
   static std::string Text(const Argument& argument) {
     if constexpr (std::is_same_v<Argument, bool>) {

@@ -55,12 +55,18 @@ using Setter = std::function<void(CollectMethodSettings&, const KeyValueLine&)>;
 
 const std::map<std::string, Setter, std::less<>>& Setters() {
   static const std::map<std::string, Setter, std::less<>> setters{
-      {"FROM", [](auto& s, const auto& line) { s.from = NumberFrom(line, kLowestWavenumber, kHighestWavenumber); }},
-      {"TO", [](auto& s, const auto& line) { s.to = NumberFrom(line, kLowestWavenumber, kHighestWavenumber); }},
-      {"SPACING", [](auto& s, const auto& line) { s.spacing = NumberFrom(line, kFinestSpacing, kCoarsestResolution); }},
+      {"FROM",
+       [](auto& s, const auto& line) { s.from = NumberFrom(line, kLowestWavenumber, kHighestWavenumber); }},
+      {"TO",
+       [](auto& s, const auto& line) { s.to = NumberFrom(line, kLowestWavenumber, kHighestWavenumber); }},
+      {"SPACING",
+       [](auto& s, const auto& line) { s.spacing = NumberFrom(line, kFinestSpacing, kCoarsestResolution); }},
       {"RESOLUTION",
-       [](auto& s, const auto& line) { s.resolution = NumberFrom(line, kFinestResolution, kCoarsestResolution); }},
-      {"SCANS", [](auto& s, const auto& line) { s.scans = static_cast<int>(WholeNumberOf(line, 1, kMostScans)); }},
+       [](auto& s, const auto& line) {
+         s.resolution = NumberFrom(line, kFinestResolution, kCoarsestResolution);
+       }},
+      {"SCANS",
+       [](auto& s, const auto& line) { s.scans = static_cast<int>(WholeNumberOf(line, 1, kMostScans)); }},
       {"APODIZATION", [](auto& s, const auto& line) { s.apodization = ApodizationFrom(line); }},
       {"ORDINATE", [](auto& s, const auto& line) { s.ordinate = OrdinateFrom(line); }},
       {"ACCESSORY", [](auto& s, const auto& line) { s.accessory = AccessoryFrom(line); }},

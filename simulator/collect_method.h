@@ -1,8 +1,8 @@
 // Collect methods: what a ".clm" file asks of the instrument.
 //
-// The file is text, one "Key = value" a line; a line that begins with "#" is a comment. A key that is missing keeps
-// its default, a key that is not known or stands twice is refused, so that a slip of the pen never measures silently
-// with other settings. Keys and the words among the values are read without regard to case.
+// The file is text, one "Key = value" a line; a line that begins with "#" is a comment. A key that is missing
+// keeps its default, a key that is not known or stands twice is refused, so that a slip of the pen never
+// measures silently with other settings. Keys and the words among the values are read without regard to case.
 #pragma once
 
 #include <cstdint>
@@ -35,8 +35,9 @@ struct CollectMethodSettings {
 // The wavenumbers that the method measures.
 WavenumberGrid GridOf(const CollectMethodSettings& settings);
 
-// Reads a file's bytes. Error 13 for a value that does not convert, 5 for everything else that cannot be measured (an
-// unknown key, a range outside the optics, …); the text begins with the line's number where there is one.
+// Reads a file's bytes. Error 13 for a value that does not convert, 5 for everything else that cannot be
+// measured (an unknown key, a range outside the optics, …); the text begins with the line's number where
+// there is one.
 CollectMethodSettings ParseCollectMethod(std::string_view bytes);
 
 // The settings as a file.

@@ -21,7 +21,9 @@ std::string Trimmed(const std::string& text) {
   return text.substr(first, text.find_last_not_of(" \t") - first + 1);
 }
 
-std::string Place(const KeyValueLine& line) { return "line " + std::to_string(line.number) + ": "; }
+std::string Place(const KeyValueLine& line) {
+  return "line " + std::to_string(line.number) + ": ";
+}
 
 }  // namespace
 
@@ -43,7 +45,8 @@ std::vector<KeyValueLine> ReadKeyValueLines(std::string_view bytes) {
 
 double NumberOf(const KeyValueLine& line) {
   if (const auto number = platform::ParseNumber(line.value)) return *number;
-  throw RunTimeError(ErrorNumber::kTypeMismatch, Place(line) + line.key + " is no number: \"" + line.value + "\"");
+  throw RunTimeError(ErrorNumber::kTypeMismatch,
+                     Place(line) + line.key + " is no number: \"" + line.value + "\"");
 }
 
 long long WholeNumberOf(const KeyValueLine& line, long long least, long long most) {

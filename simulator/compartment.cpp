@@ -32,7 +32,8 @@ std::optional<std::uint32_t> SeedFrom(const KeyValueLine& line) {
 
 std::string OneLine(const std::string& name) {
   if (std::any_of(name.begin(), name.end(), [](char c) { return static_cast<unsigned char>(c) < 0x20; })) {
-    throw RunTimeError(platform::ErrorNumber::kInvalidCall, "a name in the sample compartment is one line of text");
+    throw RunTimeError(platform::ErrorNumber::kInvalidCall,
+                       "a name in the sample compartment is one line of text");
   }
   return name;
 }
@@ -44,7 +45,7 @@ void Apply(const KeyValueLine& line, CompartmentState& state) {
     state.accessory = line.value;
   } else if (line.key == "FAULT") {
     state.fault = static_cast<std::int32_t>(WholeNumberOf(line, std::numeric_limits<std::int32_t>::min(),
-                                                         std::numeric_limits<std::int32_t>::max()));
+                                                          std::numeric_limits<std::int32_t>::max()));
   } else if (line.key == "FAULTCOUNT") {
     state.faultCount = static_cast<int>(WholeNumberOf(line, 0, kMostFaults));
   } else if (line.key == "NOISE") {
@@ -90,7 +91,9 @@ CompartmentState Compartment::Read() const {
   }
 }
 
-void Compartment::Write(const CompartmentState& state) { files_.WriteBytes(path_, CompartmentText(state)); }
+void Compartment::Write(const CompartmentState& state) {
+  files_.WriteBytes(path_, CompartmentText(state));
+}
 
 std::int32_t Compartment::TakeFault() {
   CompartmentState state = Read();

@@ -1,8 +1,9 @@
-// What lies in the sample compartment of the simulated instrument, kept in a small text file so that a panel, a
-// script or an editor can change it while the program waits.
+// What lies in the sample compartment of the simulated instrument, kept in a small text file so that a panel,
+// a script or an editor can change it while the program waits.
 //
-// The file is "Key = value" lines ("#" begins a comment): Sample, Accessory, Fault, FaultCount, Noise, Duration, Seed.
-// A missing file or key or an empty value means the default; keys that are not known are passed over.
+// The file is "Key = value" lines ("#" begins a comment): Sample, Accessory, Fault, FaultCount, Noise,
+// Duration, Seed. A missing file or key or an empty value means the default; keys that are not known are
+// passed over.
 #pragma once
 
 #include <cstdint>
@@ -34,7 +35,7 @@ std::string CompartmentText(const CompartmentState& state);
 
 // The file. Every call reads or writes it anew.
 class Compartment {
- public:
+public:
   // `path` is a Windows path; the file need not exist, its folder must when something is written.
   Compartment(platform::FileSystem& files, std::string path) : files_(files), path_(std::move(path)) {}
 
@@ -45,7 +46,7 @@ class Compartment {
   // The fault that the next collection or alignment reports, or 0. Lowers the count in the file.
   std::int32_t TakeFault();
 
- private:
+private:
   platform::FileSystem& files_;
   std::string path_;
 };

@@ -46,12 +46,14 @@ std::vector<NamedValue> ParametersOf(const CollectMethodSettings& method) {
 }  // namespace
 
 state::SpectrumBuffer AsAbsorbance(const StoredSpectrum& spectrum) {
-  state::SpectrumBuffer buffer{spectrum.ordinates, spectrum.spacing, static_cast<double>(spectrum.ordinates.Size())};
+  state::SpectrumBuffer buffer{spectrum.ordinates, spectrum.spacing,
+                               static_cast<double>(spectrum.ordinates.Size())};
   if (UpperCase(spectrum.yUnits).find("TRANSMITTANCE") == std::string::npos) return buffer;
   std::vector<double>& values = buffer.Data.values;
   // Noise lifts a transmittance of 1 a little above it, never to 2.
   constexpr double kSurelyPercent = 2;
-  const bool percent = std::any_of(values.begin(), values.end(), [](double value) { return value > kSurelyPercent; });
+  const bool percent =
+      std::any_of(values.begin(), values.end(), [](double value) { return value > kSurelyPercent; });
   constexpr double kOpaque = 1e-5;
   for (double& value : values) {
     // A missing ordinate stays missing; std::max would make it opaque.
@@ -97,7 +99,8 @@ Measurement SimulatedInstrument::Measure(const CollectRequest& request) {
     if (request.background == nullptr) throw Fault{kBackgroundMissing, request.backgroundFault};
     background = BackgroundUnder(grid, *request.background);
     if (!HoldsEnergy(background)) {
-      throw Fault{kBackgroundUnfit, request.backgroundName + " does not cover the points of " + request.methodPath};
+      throw Fault{kBackgroundUnfit,
+                  request.backgroundName + " does not cover the points of " + request.methodPath};
     }
   }
   const std::vector<SamplePart> sample = CheckedSample(compartment);
@@ -148,8 +151,9 @@ CollectMethodSettings SimulatedInstrument::CheckedMethod(const CollectRequest& r
 
 std::vector<SamplePart> SimulatedInstrument::CheckedSample(const CompartmentState& compartment) const {
   try {
-    return SampleOf(compartment.sample,
-                    [this](const std::string& path) { return AsAbsorbance(surroundings_.openSpectrum(path)); });
+    return SampleOf(compartment.sample, [this](const std::string& path) {
+      return AsAbsorbance(surroundings_.openSpectrum(path));
+    });
   } catch (const RunTimeError& error) {
     throw Fault{kSampleUnreadable, error.what()};
   }
@@ -164,11 +168,13 @@ void SimulatedInstrument::PassTime(const CompartmentState& compartment, const Co
   }
 }
 
-ScanSettings SimulatedInstrument::ScanFor(const CollectMethodSettings& method, const CompartmentState& compartment,
+ScanSettings SimulatedInstrument::ScanFor(const CollectMethodSettings& method,
+                                          const CompartmentState& compartment,
                                           const CollectRequest& request) {
   const std::uint64_t base = compartment.seed ? *compartment.seed : surroundings_.randomSeed();
   // Were sample and background of one seed alike in their noise, it would cancel in the ratio.
-  const std::string what = std::to_string(++collections_) + "|" + compartment.sample + "|" + request.backgroundName;
+  const std::string what =
+      std::to_string(++collections_) + "|" + compartment.sample + "|" + request.backgroundName;
   ScanSettings scan;
   scan.resolution = method.resolution;
   scan.apodization = method.apodization;

@@ -1,5 +1,5 @@
-// The simulated spectrometer as a measuring device: it looks into the compartment, reports faults, takes its time and
-// makes the spectrum that the optics of instrument_model.h would give.
+// The simulated spectrometer as a measuring device: it looks into the compartment, reports faults, takes its
+// time and makes the spectrum that the optics of instrument_model.h would give.
 #pragma once
 
 #include <chrono>
@@ -16,14 +16,14 @@
 namespace veritane::simulator {
 
 // Error numbers that Collect and Align return besides kWrongAccessory and a fault set in the compartment.
-inline constexpr int kMethodUnreadable = 11080;      // the collect method does not say how to measure
-inline constexpr int kBackgroundMissing = 11081;     // the background named is missing or cannot be read
-inline constexpr int kBackgroundUnfit = 11082;       // it does not cover the method's points, or holds no energy
-inline constexpr int kSampleUnreadable = 11083;      // the sample is no known material or readable spectrum
+inline constexpr int kMethodUnreadable = 11080;   // the collect method does not say how to measure
+inline constexpr int kBackgroundMissing = 11081;  // the background named is missing or cannot be read
+inline constexpr int kBackgroundUnfit = 11082;    // it does not cover the method's points, or holds no energy
+inline constexpr int kSampleUnreadable = 11083;   // the sample is no known material or readable spectrum
 inline constexpr int kCompartmentUnreadable = 11084;  // the compartment's file cannot be read or written
 
-// What a stored spectrum absorbs, whichever its ordinate: absorbance as it is, transmittance (0 to 1, or 0 to 100)
-// converted.
+// What a stored spectrum absorbs, whichever its ordinate: absorbance as it is, transmittance (0 to 1, or 0 to
+// 100) converted.
 state::SpectrumBuffer AsAbsorbance(const StoredSpectrum& spectrum);
 
 // What the device needs from outside.
@@ -37,18 +37,19 @@ struct InstrumentSurroundings {
 };
 
 class SimulatedInstrument : public MeasuringDevice {
- public:
+public:
   SimulatedInstrument(Compartment compartment, InstrumentSurroundings surroundings);
 
-  // Without a background in the request the single beam in units of energy, else the method's ordinate against it.
-  // With a fixed seed the n-th collection of a sample by a new instrument always gives the same values.
+  // Without a background in the request the single beam in units of energy, else the method's ordinate
+  // against it. With a fixed seed the n-th collection of a sample by a new instrument always gives the same
+  // values.
   Measurement Collect(const CollectRequest& request) override;
   int Align(const CollectRequest& request) override;
 
   // Why the last collection or alignment gave an error number, for a log; "" after success.
   const std::string& LastFault() const { return last_fault_; }
 
- private:
+private:
   struct Fault {
     int number;
     std::string text;
@@ -56,7 +57,8 @@ class SimulatedInstrument : public MeasuringDevice {
 
   // The compartment and method once nothing speaks against measuring. Throws Fault.
   CompartmentState CheckedCompartment();
-  CollectMethodSettings CheckedMethod(const CollectRequest& request, const CompartmentState& compartment) const;
+  CollectMethodSettings CheckedMethod(const CollectRequest& request,
+                                      const CompartmentState& compartment) const;
   std::vector<SamplePart> CheckedSample(const CompartmentState& compartment) const;
   void PassTime(const CompartmentState& compartment, const CollectRequest& request) const;
   ScanSettings ScanFor(const CollectMethodSettings& method, const CompartmentState& compartment,

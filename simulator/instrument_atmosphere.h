@@ -13,9 +13,9 @@ struct Atmosphere {
   double carbonDioxide = 1;
 };
 
-// Adds the gases' absorbance at the grid's wavenumbers. Their lines are far narrower than the line shape of the
-// instrument; each keeps its area and is drawn at least two points wide, which gives the same spectrum once the
-// line shape is applied.
+// Adds the gases' absorbance at the grid's wavenumbers. Their lines are far narrower than the line shape of
+// the instrument; each keeps its area and is drawn at least two points wide, which gives the same spectrum
+// once the line shape is applied.
 void AddAtmosphere(const Atmosphere& atmosphere, const WavenumberGrid& grid, std::span<double> absorbance);
 
 }  // namespace veritane::simulator

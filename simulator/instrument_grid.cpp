@@ -14,7 +14,8 @@ using platform::RunTimeError;
 
 WavenumberGrid GridOver(double from, double to, double spacing) {
   if (!(from > 0 && from < to && spacing > 0 && std::isfinite(to) && std::isfinite(spacing))) {
-    throw RunTimeError(ErrorNumber::kInvalidCall, "a range of wavenumbers runs from low to high in positive steps");
+    throw RunTimeError(ErrorNumber::kInvalidCall,
+                       "a range of wavenumbers runs from low to high in positive steps");
   }
   // A limit such as 400.1 counts as a multiple of 0.1 although neither is exact in binary.
   constexpr double kTolerance = 1e-6;

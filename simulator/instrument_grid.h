@@ -1,4 +1,5 @@
-// Evenly spaced wavenumbers counted from zero: point i lies at i × spacing, so grids of one spacing share points.
+// Evenly spaced wavenumbers counted from zero: point i lies at i × spacing, so grids of one spacing share
+// points.
 #pragma once
 
 #include <cstddef>
@@ -23,12 +24,14 @@ struct WavenumberGrid {
   }
 };
 
-// All whole multiples of `spacing` from `from` to `to`, both ends included when they are multiples themselves.
-// Error 5 unless 0 < from < to and spacing > 0, 6 when there are more points than a 32-bit integer counts.
+// All whole multiples of `spacing` from `from` to `to`, both ends included when they are multiples
+// themselves. Error 5 unless 0 < from < to and spacing > 0, 6 when there are more points than a 32-bit
+// integer counts.
 WavenumberGrid GridOver(double from, double to, double spacing);
 
 // The spectrum's ordinates at the grid's wavenumbers by straight lines between its points; the first and last
-// ordinate continue beyond its ends. Error 5 for a spectrum without points or with a spacing that is not positive.
+// ordinate continue beyond its ends. Error 5 for a spectrum without points or with a spacing that is not
+// positive.
 std::vector<double> InterpolatedOnto(const WavenumberGrid& grid, const state::Ordinates& ordinates,
                                      double spacing);
 

@@ -24,7 +24,9 @@ constexpr std::array<std::pair<Apodization, std::string_view>, 4> kNames{{
 // Coefficients of (1 - u²)^n for n = 0, 1, 2.
 constexpr std::array<double, 3> kNortonBeerMedium{0.152442, -0.136176, 0.983734};
 
-double Sinc(double a) { return std::abs(a) < 1e-8 ? 1 : std::sin(a) / a; }
+double Sinc(double a) {
+  return std::abs(a) < 1e-8 ? 1 : std::sin(a) / a;
+}
 
 // The spherical Bessel functions j1(a)/a and j2(a)/a²; by their series where the closed forms cancel.
 double BesselRatio1(double a) {
@@ -42,12 +44,14 @@ double BesselRatio2(double a) {
 // Half the Fourier transform of A over -1 to 1: the integral of A(u) cos(a u) from 0 to 1.
 double CosineTransform(Apodization apodization, double a) {
   switch (apodization) {
-    case Apodization::kBoxcar: return Sinc(a);
+    case Apodization::kBoxcar:
+      return Sinc(a);
     case Apodization::kTriangular: {
       const double half = Sinc(a / 2);
       return half * half / 2;
     }
-    case Apodization::kHappGenzel: return 0.54 * Sinc(a) + 0.23 * (Sinc(a - kPi) + Sinc(a + kPi));
+    case Apodization::kHappGenzel:
+      return 0.54 * Sinc(a) + 0.23 * (Sinc(a - kPi) + Sinc(a + kPi));
     case Apodization::kNortonBeer:
       return kNortonBeerMedium[0] * Sinc(a) + kNortonBeerMedium[1] * 2 * BesselRatio1(a) +
              kNortonBeerMedium[2] * 8 * BesselRatio2(a);
@@ -74,9 +78,12 @@ std::optional<Apodization> ApodizationNamed(std::string_view name) {
 
 double ApodizationAt(Apodization apodization, double position) {
   switch (apodization) {
-    case Apodization::kBoxcar: return 1;
-    case Apodization::kTriangular: return 1 - position;
-    case Apodization::kHappGenzel: return 0.54 + 0.46 * std::cos(kPi * position);
+    case Apodization::kBoxcar:
+      return 1;
+    case Apodization::kTriangular:
+      return 1 - position;
+    case Apodization::kHappGenzel:
+      return 0.54 + 0.46 * std::cos(kPi * position);
     case Apodization::kNortonBeer: {
       const double q = 1 - position * position;
       return kNortonBeerMedium[0] + q * (kNortonBeerMedium[1] + q * kNortonBeerMedium[2]);

@@ -26,8 +26,8 @@ constexpr double kGain = 100 / 5.32e-4;
 
 constexpr double kDarkness = 1e-6;
 
-// The wavenumbers at which the light is computed before the line shape is applied: `perPoint` steps to one point of
-// the wanted grid, `margin` steps beyond its ends.
+// The wavenumbers at which the light is computed before the line shape is applied: `perPoint` steps to one
+// point of the wanted grid, `margin` steps beyond its ends.
 struct FineGrid {
   WavenumberGrid grid;
   std::int32_t perPoint;
@@ -40,8 +40,8 @@ FineGrid FineGridFor(const WavenumberGrid& grid, const ScanSettings& settings) {
   const auto per_point = static_cast<std::int32_t>(std::ceil(grid.spacing / largest_step - 1e-9));
   const double step = grid.spacing / per_point;
   constexpr double kReachInResolutions = 12;
-  std::vector<double> taps =
-      LineShapeTaps(settings.apodization, settings.resolution, step, kReachInResolutions * settings.resolution);
+  std::vector<double> taps = LineShapeTaps(settings.apodization, settings.resolution, step,
+                                           kReachInResolutions * settings.resolution);
   const auto margin = static_cast<std::int32_t>(taps.size() / 2);
   return {{.lower = grid.lower * per_point - margin,
            .points = (grid.points - 1) * per_point + 1 + 2 * margin,
@@ -98,8 +98,9 @@ double PlanckRadiance(double wavenumber, double kelvin) {
 
 double OpticalResponse(double wavenumber) {
   if (!(wavenumber > 0)) return 0;
-  // Potassium bromide ends below 400 cm⁻¹; the beam splitter's coating fades towards the near infrared; a pyroelectric
-  // detector's signal falls with the modulation frequency, which is proportional to the wavenumber.
+  // Potassium bromide ends below 400 cm⁻¹; the beam splitter's coating fades towards the near infrared; a
+  // pyroelectric detector's signal falls with the modulation frequency, which is proportional to the
+  // wavenumber.
   const double windows = 1 / (1 + std::exp((360 - wavenumber) / 18));
   const double fade = wavenumber / 6500;
   const double splitter = 1 / (1 + fade * fade * fade * fade);
@@ -109,10 +110,12 @@ double OpticalResponse(double wavenumber) {
 }
 
 double NoiseDeviation(const ScanSettings& settings) {
-  return settings.noise * kNoiseOfOneScan * (4 / settings.resolution) / std::sqrt(static_cast<double>(settings.scans));
+  return settings.noise * kNoiseOfOneScan * (4 / settings.resolution) /
+         std::sqrt(static_cast<double>(settings.scans));
 }
 
-Ordinates SingleBeam(std::span<const SamplePart> sample, const WavenumberGrid& grid, const ScanSettings& settings) {
+Ordinates SingleBeam(std::span<const SamplePart> sample, const WavenumberGrid& grid,
+                     const ScanSettings& settings) {
   const FineGrid fine = FineGridFor(grid, settings);
   const std::vector<double> light = LightOn(fine.grid, sample, settings);
   Ordinates beam{grid.lower, std::vector<double>(grid.Size())};
@@ -145,7 +148,8 @@ Ordinates AbsorbanceOf(const std::string& name, const WavenumberGrid& grid, doub
   const std::vector<SamplePart> sample = SampleOf(name, [](const std::string& path) -> state::SpectrumBuffer {
     throw RunTimeError(ErrorNumber::kInvalidCall, path + " is a file, not a material");
   });
-  return AbsorbanceAgainst(BackgroundOf(grid, resolution), SingleBeam(sample, grid, WithoutNoise(resolution)));
+  return AbsorbanceAgainst(BackgroundOf(grid, resolution),
+                           SingleBeam(sample, grid, WithoutNoise(resolution)));
 }
 
 Ordinates BackgroundOf(const WavenumberGrid& grid, double resolution) {

@@ -1,4 +1,5 @@
-// How the simulated spectrometer makes a spectrum: source, optics, detector, atmosphere, sample, line shape, noise.
+// How the simulated spectrometer makes a spectrum: source, optics, detector, atmosphere, sample, line shape,
+// noise.
 //
 //   S(ν) = g · { B(ν, T) · D(ν) · 10^-(a(ν) + A(ν)) } ⊗ line shape  +  noise
 //
@@ -42,23 +43,24 @@ struct ScanSettings {
 
 // Standard deviation of one scan's noise at 4 cm⁻¹, in units of energy.
 inline constexpr double kNoiseOfOneScan = 0.04;
-// The standard deviation with these settings: it grows with finer resolution, because less light falls into each
-// element, and falls with the square root of the number of scans.
+// The standard deviation with these settings: it grows with finer resolution, because less light falls into
+// each element, and falls with the square root of the number of scans.
 double NoiseDeviation(const ScanSettings& settings);
 
-// The single beam at the grid's wavenumbers in units of energy (the empty compartment's maximum is about 100).
-// With attenuated total reflection the sample's absorbance is multiplied by the relative penetration depth, which is
-// proportional to the wavelength and 1 at 1000 cm⁻¹ (N. J. Harrick, "Internal Reflection Spectroscopy", 1967).
+// The single beam at the grid's wavenumbers in units of energy (the empty compartment's maximum is about
+// 100). With attenuated total reflection the sample's absorbance is multiplied by the relative penetration
+// depth, which is proportional to the wavelength and 1 at 1000 cm⁻¹ (N. J. Harrick, "Internal Reflection
+// Spectroscopy", 1967).
 state::Ordinates SingleBeam(std::span<const SamplePart> sample, const WavenumberGrid& grid,
                             const ScanSettings& settings);
 
-// sample/background in per cent, and its negative decimal logarithm. Both have the same bounds; energies too small to
-// be told from darkness count as the darkness, so every result is finite (absorbance from -1 to 5).
+// sample/background in per cent, and its negative decimal logarithm. Both have the same bounds; energies too
+// small to be told from darkness count as the darkness, so every result is finite (absorbance from -1 to 5).
 state::Ordinates TransmittanceAgainst(const state::Ordinates& background, const state::Ordinates& sample);
 state::Ordinates AbsorbanceAgainst(const state::Ordinates& background, const state::Ordinates& sample);
 
-// The absorbance that the instrument shows without noise, for demonstration spectra. `name` as SampleOf takes it
-// (no spectrum files); error 5 for an unknown material.
+// The absorbance that the instrument shows without noise, for demonstration spectra. `name` as SampleOf takes
+// it (no spectrum files); error 5 for an unknown material.
 state::Ordinates AbsorbanceOf(const std::string& name, const WavenumberGrid& grid, double resolution = 4);
 // The empty compartment's single beam without noise.
 state::Ordinates BackgroundOf(const WavenumberGrid& grid, double resolution = 4);

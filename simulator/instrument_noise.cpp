@@ -7,7 +7,9 @@
 namespace veritane::simulator {
 
 // From the upper 53 bits, in (0, 1]: the logarithm of it is always finite.
-double NoiseGenerator::Uniform() { return (static_cast<double>(bits_() >> 11) + 1) * 0x1p-53; }
+double NoiseGenerator::Uniform() {
+  return (static_cast<double>(bits_() >> 11) + 1) * 0x1p-53;
+}
 
 double NoiseGenerator::Next() {
   if (has_spare_) {
@@ -21,7 +23,8 @@ double NoiseGenerator::Next() {
   return radius * std::cos(angle);
 }
 
-std::vector<double> CorrelatedNoise(NoiseGenerator& generator, std::span<const double> taps, std::size_t count) {
+std::vector<double> CorrelatedNoise(NoiseGenerator& generator, std::span<const double> taps,
+                                    std::size_t count) {
   std::vector<double> white(count + taps.size() - 1);
   for (double& value : white) value = generator.Next();
   double power = 0;

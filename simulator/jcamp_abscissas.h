@@ -1,4 +1,5 @@
-// Whether the x values that stand in a table agree with the x that the labels declare: how lost lines are found.
+// Whether the x values that stand in a table agree with the x that the labels declare: how lost lines are
+// found.
 #pragma once
 
 #include <optional>
@@ -10,13 +11,14 @@
 
 namespace veritane::simulator {
 
-// What the labels and the decoded table say about x. firstX and lastX belong to the first and last of `points`.
+// What the labels and the decoded table say about x. firstX and lastX belong to the first and last of
+// `points`.
 struct DeclaredAbscissas {
   double firstX = 0;
   double lastX = 0;
   double xFactor = 1;
-  std::size_t points = 0;                      // decoded, at least 2
-  std::optional<std::size_t> declaredPoints;   // NPOINTS
+  std::size_t points = 0;                     // decoded, at least 2
+  std::optional<std::size_t> declaredPoints;  // NPOINTS
   std::optional<double> deltaX;
 };
 

@@ -18,13 +18,14 @@ using Kind = JcampFault::Kind;
 
 // Labels that the spectrum's own members stand for, or that describe the table and are written anew.
 constexpr std::array kOwnLabels = {
-    "TITLE", "JCAMPDX", "DATATYPE", "DATACLASS", "BLOCKS", "BLOCKID", "DATE",   "TIME",  "LONGDATE",
-    "XUNITS", "YUNITS", "XFACTOR",  "YFACTOR",   "FIRSTX", "LASTX",   "DELTAX", "FIRSTY", "MAXX",
-    "MINX",  "MAXY",    "MINY",     "NPOINTS",   "",
+    "TITLE",    "JCAMPDX", "DATATYPE", "DATACLASS", "BLOCKS",  "BLOCKID", "DATE",  "TIME",
+    "LONGDATE", "XUNITS",  "YUNITS",   "XFACTOR",   "YFACTOR", "FIRSTX",  "LASTX", "DELTAX",
+    "FIRSTY",   "MAXX",    "MINX",     "MAXY",      "MINY",    "NPOINTS", "",
 };
 
 // Labels whose numbers show which decimal mark a file is written with.
-constexpr std::array kNumberLabels = {"FIRSTX", "LASTX", "DELTAX", "XFACTOR", "YFACTOR", "FIRSTY", "MAXY", "MINY"};
+constexpr std::array kNumberLabels = {"FIRSTX",  "LASTX",  "DELTAX", "XFACTOR",
+                                      "YFACTOR", "FIRSTY", "MAXY",   "MINY"};
 
 bool IsPairForm(std::string_view table_label, std::string_view form) {
   const std::string plain = NormalizedLabel(form);

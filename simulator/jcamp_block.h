@@ -30,7 +30,7 @@ struct JcampSpectrum {
 };
 
 class JcampBlock {
- public:
+public:
   // `text` is the whole file's, for quoting lines.
   JcampBlock(std::string_view text, std::size_t position) : text_(text), position_(position) {}
 
@@ -56,7 +56,7 @@ class JcampBlock {
   // contradict each other.
   JcampSpectrum ToSpectrum(bool ended);
 
- private:
+private:
   struct Label {
     std::string name;
     std::string normalized;

@@ -14,11 +14,11 @@ namespace {
 
 using Kind = JcampFault::Kind;
 
-constexpr std::array kOtherTables = {"PEAKTABLE", "PEAKASSIGNMENTS", "NTUPLES", "DATATABLE", "RADATA",
-                                     "ASSIGNMENTS", "XYASSIGNMENTS", "XYW"};
+constexpr std::array kOtherTables = {"PEAKTABLE", "PEAKASSIGNMENTS", "NTUPLES",       "DATATABLE",
+                                     "RADATA",    "ASSIGNMENTS",     "XYASSIGNMENTS", "XYW"};
 
 class FileReader {
- public:
+public:
   explicit FileReader(std::string_view text) : text_(text), scanner_(text) {}
 
   JcampFile Read() {
@@ -29,7 +29,7 @@ class FileReader {
     return std::move(file_);
   }
 
- private:
+private:
   void Take(const JcampLabel& label) {
     const std::string& name = label.normalized;
     const bool is_table = name == "XYDATA" || name == "XYPOINTS";
@@ -50,12 +50,11 @@ class FileReader {
 
   // A label between blocks belongs to the file as a whole; data there have lost their block.
   void TakeOutside(const JcampLabel& label, bool is_table) {
-    if (is_table) {
-      throw FaultAt(Kind::kDamaged, text_, label.position, "data outside any block");
-    }
     if (blocks_ == 0 && open_containers_ == 0) {
       block_.emplace(text_, label.position);
-      block_->AddLabel(label, scanner_.FullValue(label));
+      Take(label);
+    } else if (is_table) {
+      throw FaultAt(Kind::kDamaged, text_, label.position, "data outside any block");
     }
   }
 
@@ -109,8 +108,9 @@ class FileReader {
     if (block_) Close(false);
     CheckBlockCount();
     if (file_.spectra.empty()) {
-      throw JcampFault(Kind::kNotSpectrum, file_.leftOut.empty() ? "the file holds no JCAMP-DX spectrum"
-                                                                 : "no spectrum can be shown: " + file_.leftOut[0]);
+      throw JcampFault(Kind::kNotSpectrum, file_.leftOut.empty()
+                                               ? "the file holds no JCAMP-DX spectrum"
+                                               : "no spectrum can be shown: " + file_.leftOut[0]);
     }
     for (JcampSpectrum& spectrum : file_.spectra) {
       spectrum.warnings.insert(spectrum.warnings.end(), file_.leftOut.begin(), file_.leftOut.end());
@@ -120,10 +120,9 @@ class FileReader {
 
   void CheckBlockCount() {
     const auto found = static_cast<double>(blocks_);
-    const std::string counts =
-        declared_blocks_ ? "BLOCKS declares " + ExactNumber(*declared_blocks_) +
-                               " spectra, " + std::to_string(blocks_) + " are there"
-                         : "";
+    const std::string counts = declared_blocks_ ? "BLOCKS declares " + ExactNumber(*declared_blocks_) +
+                                                      " spectra, " + std::to_string(blocks_) + " are there"
+                                                : "";
     if (open_containers_ > 0) {
       if (declared_blocks_ && !nested_ && found < *declared_blocks_) {
         throw FaultAt(Kind::kDamaged, text_, text_.size(), "the file is cut off: " + counts);
@@ -148,6 +147,8 @@ class FileReader {
 
 }  // namespace
 
-JcampFile ReadJcamp(std::string_view text) { return FileReader(text).Read(); }
+JcampFile ReadJcamp(std::string_view text) {
+  return FileReader(text).Read();
+}
 
 }  // namespace veritane::simulator

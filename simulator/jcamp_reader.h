@@ -1,6 +1,6 @@
 // Reads JCAMP-DX: the spectra of a file with one block, of a compound file, of several blocks one after the
-// other. Form: McDonald and Wilks, Appl. Spectrosc. 42 (1988) 151; 5.01: Lampen et al., Appl. Spectrosc. 53 (1999)
-// 1 (labels and dates).
+// other. Form: McDonald and Wilks, Appl. Spectrosc. 42 (1988) 151; 5.01: Lampen et al., Appl. Spectrosc. 53
+// (1999) 1 (labels and dates).
 #pragma once
 
 #include <string>
@@ -21,8 +21,8 @@ struct JcampFile {
   std::vector<std::string> leftOut;
 };
 
-// A JcampFault for damaged text and for text without a single usable spectrum. A damaged block spoils the file:
-// nobody shall take the remaining ones for all there were.
+// A JcampFault for damaged text and for text without a single usable spectrum. A damaged block spoils the
+// file: nobody shall take the remaining ones for all there were.
 JcampFile ReadJcamp(std::string_view text);
 
 }  // namespace veritane::simulator

@@ -16,7 +16,7 @@ constexpr double kLargestWholeNumber = 9007199254740992.0;
 
 // The ordinates of "(X++(Y..Y))" as they unfold.
 class ContinuousDecoder {
- public:
+public:
   ContinuousDecoder(std::string_view text, std::size_t position, const TableHints& hints)
       : reader_(text, position, hints), most_points_(hints.mostPoints) {
     table_.values.reserve(std::min({hints.expectedPoints, hints.mostPoints, reader_.Remaining()}));
@@ -31,7 +31,7 @@ class ContinuousDecoder {
     return std::move(table_);
   }
 
- private:
+private:
   // How the ordinate before came about; DUP repeats that.
   enum class Form { kNone, kValue, kDifference, kRepeated };
 
@@ -93,7 +93,8 @@ class ContinuousDecoder {
     const bool whole = value == std::floor(value) && last_ == std::floor(last_);
     const double tolerance = whole ? 0 : 1e-9 * std::abs(last_);
     if (!(std::abs(value - last_) <= tolerance)) {
-      reader_.Refuse("the line does not repeat the last ordinate of the line before, data are lost or damaged");
+      reader_.Refuse(
+          "the line does not repeat the last ordinate of the line before, data are lost or damaged");
     }
   }
 

@@ -1,5 +1,7 @@
-// The data tables of JCAMP-DX: "(X++(Y..Y))" in every form (AFFN, PAC, SQZ, DIF, DUP, also mixed within a line) and
-// "(XY..XY)". Nothing here knows of labels; what the table must agree with is checked by the block that holds it.
+// The data tables of JCAMP-DX: "(X++(Y..Y))" in every form (AFFN, PAC, SQZ, DIF, DUP, also mixed within a
+// line) and
+// "(XY..XY)". Nothing here knows of labels; what the table must agree with is checked by the block that holds
+// it.
 #pragma once
 
 #include <cstddef>
@@ -29,10 +31,10 @@ struct PairTable {
 };
 
 struct TableHints {
-  bool decimalComma = false;        // the labels are written with decimal commas
-  bool decimalPoint = false;        // the labels are written with decimal points
-  std::size_t expectedPoints = 0;   // NPOINTS; a hint for memory and nothing else
-  std::size_t mostPoints = 0;       // a table that unfolds to more is refused
+  bool decimalComma = false;       // the labels are written with decimal commas
+  bool decimalPoint = false;       // the labels are written with decimal points
+  std::size_t expectedPoints = 0;  // NPOINTS; a hint for memory and nothing else
+  std::size_t mostPoints = 0;      // a table that unfolds to more is refused
 };
 
 // Decodes the lines from `position` on and leaves it at the next label or at the end of the text. Faults:

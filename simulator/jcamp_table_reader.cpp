@@ -12,9 +12,15 @@ namespace {
 
 constexpr std::ptrdiff_t kDigitsOfFastNumber = 14;
 
-bool IsDigit(char c) { return c >= '0' && c <= '9'; }
-bool IsLineEnd(char c) { return c == '\n' || c == '\r'; }
-bool IsExponentMark(char c) { return c == 'E' || c == 'e'; }
+bool IsDigit(char c) {
+  return c >= '0' && c <= '9';
+}
+bool IsLineEnd(char c) {
+  return c == '\n' || c == '\r';
+}
+bool IsExponentMark(char c) {
+  return c == 'E' || c == 'e';
+}
 
 std::optional<int> PseudoDigit(char c, char zero, char first_positive, char first_negative) {
   if (c == zero) return 0;
@@ -44,7 +50,8 @@ bool HoldsPseudoDigits(std::string_view table) {
   return false;
 }
 
-// Whether the commas of a table can only separate: "1,2,3", "1, 2" or numbers with decimal points beside them.
+// Whether the commas of a table can only separate: "1,2,3", "1, 2" or numbers with decimal points beside
+// them.
 bool CommasSeparate(std::string_view table) {
   bool comma_in_number = false;
   for (std::size_t i = 0; i < table.size(); ++i) {
@@ -61,8 +68,12 @@ bool CommasSeparate(std::string_view table) {
 
 }  // namespace
 
-std::optional<int> SqueezedDigit(char c) { return PseudoDigit(c, '@', 'A', 'a'); }
-std::optional<int> DifferenceDigit(char c) { return PseudoDigit(c, '%', 'J', 'j'); }
+std::optional<int> SqueezedDigit(char c) {
+  return PseudoDigit(c, '@', 'A', 'a');
+}
+std::optional<int> DifferenceDigit(char c) {
+  return PseudoDigit(c, '%', 'J', 'j');
+}
 std::optional<int> DuplicateDigit(char c) {
   if (c >= 'S' && c <= 'Z') return c - 'S' + 1;
   if (c == 's') return 9;
@@ -238,7 +249,9 @@ bool JcampTableReader::IsComment(const char* from) const {
   return end_ - from >= 2 && from[0] == '$' && from[1] == '$';
 }
 
-void JcampTableReader::SkipLine() { at_ = std::find_if(at_, end_, IsLineEnd); }
+void JcampTableReader::SkipLine() {
+  at_ = std::find_if(at_, end_, IsLineEnd);
+}
 
 std::string_view JcampTableReader::RestOfLine(const char* from) const {
   return {from, static_cast<std::size_t>(std::find_if(from, end_, IsLineEnd) - from)};

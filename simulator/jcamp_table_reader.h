@@ -11,15 +11,16 @@
 
 namespace veritane::simulator {
 
-// The digit that a character stands for at the beginning of a squeezed value, of a difference, of a repetition.
+// The digit that a character stands for at the beginning of a squeezed value, of a difference, of a
+// repetition.
 std::optional<int> SqueezedDigit(char c);
 std::optional<int> DifferenceDigit(char c);
 std::optional<int> DuplicateDigit(char c);
 
-// Every read stops at the end of the text or at the first character that does not belong. What no form allows is
-// a JcampFault that quotes the line.
+// Every read stops at the end of the text or at the first character that does not belong. What no form allows
+// is a JcampFault that quotes the line.
 class JcampTableReader {
- public:
+public:
   JcampTableReader(std::string_view text, std::size_t position, const TableHints& hints);
 
   // Moves to the next line that holds data; false at the table's end.
@@ -49,7 +50,7 @@ class JcampTableReader {
   std::size_t LinePosition() const { return static_cast<std::size_t>(line_ - begin_); }
   std::size_t Remaining() const { return static_cast<std::size_t>(end_ - at_); }
 
- private:
+private:
   bool CommaIsDecimal();
   bool CommaSeparates() const { return !decimal_comma_.value_or(false); }
   bool IsExponent(const char* mark);

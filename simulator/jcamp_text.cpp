@@ -13,8 +13,12 @@ namespace {
 
 constexpr std::size_t kQuotedLength = 60;
 
-bool IsBlank(char c) { return c == ' ' || c == '\t'; }
-bool IsLineEnd(char c) { return c == '\n' || c == '\r'; }
+bool IsBlank(char c) {
+  return c == ' ' || c == '\t';
+}
+bool IsLineEnd(char c) {
+  return c == '\n' || c == '\r';
+}
 
 // The line in quotation marks, short enough for a message box.
 std::string Quoted(std::string_view line) {
@@ -70,7 +74,9 @@ std::string_view Trimmed(std::string_view text) {
   return text.substr(begin, text.find_last_not_of(" \t\r\n") - begin + 1);
 }
 
-std::string_view WithoutComment(std::string_view value) { return Trimmed(value.substr(0, value.find("$$"))); }
+std::string_view WithoutComment(std::string_view value) {
+  return Trimmed(value.substr(0, value.find("$$")));
+}
 
 std::string_view JcampScanner::TakeLine() {
   const std::size_t begin = position_;

@@ -1,5 +1,5 @@
-// The outer form of JCAMP-DX text: lines, labels "##LABEL= value", comments "$$ …" and the faults that quote a line.
-// McDonald and Wilks, Appl. Spectrosc. 42 (1988) 151.
+// The outer form of JCAMP-DX text: lines, labels "##LABEL= value", comments "$$ …" and the faults that quote
+// a line. McDonald and Wilks, Appl. Spectrosc. 42 (1988) 151.
 #pragma once
 
 #include <optional>
@@ -9,22 +9,25 @@
 
 namespace veritane::simulator {
 
-// Why a JCAMP-DX text gives no spectrum. The text names the line and quotes it; the path is added by the caller.
+// Why a JCAMP-DX text gives no spectrum. The text names the line and quotes it; the path is added by the
+// caller.
 class JcampFault : public std::runtime_error {
- public:
+public:
   enum class Kind {
     kDamaged,      // the text contradicts itself or the format: nothing of the file is to be trusted
-    kNotSpectrum,  // sound, but nothing that can be shown on evenly spaced points (a peak table, missing points)
+    kNotSpectrum,  // sound, but nothing that can be shown on evenly spaced points (a peak table, missing
+                   // points)
   };
   JcampFault(Kind kind, const std::string& text) : std::runtime_error(text), kind_(kind) {}
   Kind FaultKind() const { return kind_; }
 
- private:
+private:
   Kind kind_;
 };
 
 // A fault at `position` of `text`: "line 12: reason: "the line"".
-JcampFault FaultAt(JcampFault::Kind kind, std::string_view text, std::size_t position, const std::string& reason);
+JcampFault FaultAt(JcampFault::Kind kind, std::string_view text, std::size_t position,
+                   const std::string& reason);
 
 // The number of the line (from 1) that holds `position`; lines end CR LF, LF or CR.
 int LineNumberAt(std::string_view text, std::size_t position);
@@ -42,7 +45,7 @@ std::string NormalizedLabel(std::string_view name);
 
 // Walks over the labels of a text.
 class JcampScanner {
- public:
+public:
   explicit JcampScanner(std::string_view text) : text_(text) {}
 
   // The next label; lines in between belong to nobody and are passed over. Nothing at the end of the text.
@@ -54,7 +57,7 @@ class JcampScanner {
   std::size_t Position() const { return position_; }
   void MoveTo(std::size_t position) { position_ = position; }
 
- private:
+private:
   std::string_view TakeLine();
 
   std::string_view text_;

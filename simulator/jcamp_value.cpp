@@ -30,8 +30,12 @@ std::optional<char> FromHex(std::string_view digits) {
   return static_cast<char>(code);
 }
 
-bool IsControl(char c) { return static_cast<unsigned char>(c) < 0x20 || c == 0x7F; }
-bool IsBeyondAscii(char c) { return static_cast<unsigned char>(c) >= 0x80; }
+bool IsControl(char c) {
+  return static_cast<unsigned char>(c) < 0x20 || c == 0x7F;
+}
+bool IsBeyondAscii(char c) {
+  return static_cast<unsigned char>(c) >= 0x80;
+}
 
 std::string Quoted(std::string_view text) {
   const bool utf8 = platform::IsUtf8(text);
@@ -80,7 +84,8 @@ std::optional<std::string> NormalDate(std::string_view date) {
   const char* const end = date.data() + date.size();
   for (std::size_t i = 0; i < parts.size(); ++i) {
     const auto [stop, error] = std::from_chars(at, end, parts[i]);
-    const bool separated = i + 1 == parts.size() ? stop == end : stop != end && (*stop == '/' || *stop == '-');
+    const bool separated =
+        i + 1 == parts.size() ? stop == end : stop != end && (*stop == '/' || *stop == '-');
     if (error != std::errc() || !separated || parts[i] < 0) return std::nullopt;
     at = stop + (stop == end ? 0 : 1);
   }
@@ -109,8 +114,8 @@ std::string WrittenParameterName(std::string_view name) {
   for (std::size_t i = 0; i < name.size(); ++i) {
     const char c = name[i];
     const bool edge = i == 0 || i + 1 == name.size();
-    if (IsControl(c) || c == '%' || c == '=' || c == '$' || (c == ' ' && edge) || (IsBeyondAscii(c) && !utf8) ||
-        (reserved && i == 0)) {
+    if (IsControl(c) || c == '%' || c == '=' || c == '$' || (c == ' ' && edge) ||
+        (IsBeyondAscii(c) && !utf8) || (reserved && i == 0)) {
       written.append("%").append(Hex(c));
     } else {
       written += c;
@@ -173,8 +178,8 @@ std::string PlainLine(std::string_view text) {
 
 bool IsLongDate(std::string_view text) {
   return text.size() == 19 && text[4] == '/' && text[7] == '/' && text[10] == ' ' &&
-         platform::ParseIsoDateTime(std::string(text.substr(0, 4)) + "-" + std::string(text.substr(5, 2)) + "-" +
-                                    std::string(text.substr(8, 2)) + "T" + std::string(text.substr(11)))
+         platform::ParseIsoDateTime(std::string(text.substr(0, 4)) + "-" + std::string(text.substr(5, 2)) +
+                                    "-" + std::string(text.substr(8, 2)) + "T" + std::string(text.substr(11)))
              .has_value();
 }
 

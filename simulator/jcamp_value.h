@@ -1,8 +1,8 @@
 // How parameters and times stand in the labels of a JCAMP-DX file.
 //
-// A parameter is a private label: ##$Sample Name= "abc", ##$Comparison= 97.35. A text is quoted, with \\, \" and
-// \xHH for the bytes that could be taken for something else; a number is bare. Names keep their spelling; what
-// could not stand in a label is written %HH.
+// A parameter is a private label: ##$Sample Name= "abc", ##$Comparison= 97.35. A text is quoted, with \\, \"
+// and \xHH for the bytes that could be taken for something else; a number is bare. Names keep their spelling;
+// what could not stand in a label is written %HH.
 #pragma once
 
 #include <string>

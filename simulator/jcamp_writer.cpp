@@ -39,7 +39,7 @@ void RequireWritable(const StoredSpectrum& spectrum) {
 }
 
 class TextWriter {
- public:
+public:
   void Label(std::string_view name, std::string_view value) {
     text_.append("##").append(name).append("= ").append(value).append(platform::kLineEnd);
   }
@@ -59,7 +59,7 @@ class TextWriter {
   void Reserve(std::size_t size) { text_.reserve(size); }
   std::string Take() { return std::move(text_); }
 
- private:
+private:
   void Identity(const StoredSpectrum& spectrum) {
     const std::string title = PlainLine(spectrum.name);
     Label("TITLE", title);

@@ -1,5 +1,5 @@
-// Writes spectra as JCAMP-DX 5.01: one block, or a LINK block with one block a spectrum. Other programs read the
-// result (AFFN ordinates, short lines); ReadJcamp gives every value, text and x back to the last bit.
+// Writes spectra as JCAMP-DX 5.01: one block, or a LINK block with one block a spectrum. Other programs read
+// the result (AFFN ordinates, short lines); ReadJcamp gives every value, text and x back to the last bit.
 #pragma once
 
 #include <span>

@@ -22,7 +22,8 @@ constexpr std::string_view kEmptyNames[] = {"", "nothing", "air"};
 
 std::vector<Material> AllMaterials() {
   std::vector<Material> all{{"empty", kEmptyNames, 0, {}}};
-  for (const auto group : {Polymers(), Pharmaceuticals(), Liquids()}) all.insert(all.end(), group.begin(), group.end());
+  for (const auto group : {Polymers(), Pharmaceuticals(), Liquids()})
+    all.insert(all.end(), group.begin(), group.end());
   return all;
 }
 
@@ -35,7 +36,8 @@ std::string_view Trimmed(std::string_view text) {
 bool IsSpectrumPath(std::string_view name) {
   if (name.find('\\') != std::string_view::npos) return true;
   const std::string upper = UpperCase(name);
-  return upper.ends_with(".JDX") || upper.ends_with(".DX") || upper.ends_with(".JCM") || upper.ends_with(".BSP");
+  return upper.ends_with(".JDX") || upper.ends_with(".DX") || upper.ends_with(".JCM") ||
+         upper.ends_with(".BSP");
 }
 
 const Material& KnownMaterial(std::string_view name) {
@@ -76,7 +78,8 @@ void AddShape(const WavenumberGrid& grid, double centre, double reach, std::span
 }
 
 void AddLorentz(const Band& band, double height, const WavenumberGrid& grid, std::span<double> sum) {
-  // Wings of condensed matter fall faster than Lorentz's; the curve is lowered so that it ends at 0, without a step.
+  // Wings of condensed matter fall faster than Lorentz's; the curve is lowered so that it ends at 0, without
+  // a step.
   constexpr double kReachInWidths = 20;
   constexpr double kFloor = 1 / (1 + 4 * kReachInWidths * kReachInWidths);
   const double inverse_half_width = 2 / band.width;
@@ -113,7 +116,8 @@ const Material* FindMaterial(std::string_view name) {
   return nullptr;
 }
 
-void AddBands(std::span<const Band> bands, double scale, const WavenumberGrid& grid, std::span<double> absorbance) {
+void AddBands(std::span<const Band> bands, double scale, const WavenumberGrid& grid,
+              std::span<double> absorbance) {
   for (const Band& band : bands) {
     const double height = scale * band.height;
     AddLorentz(band, height * band.lorentz, grid, absorbance);

@@ -35,8 +35,10 @@ std::span<const Material> Materials();
 // The material of this key or alias without regard to case and to blanks around it, or nullptr.
 const Material* FindMaterial(std::string_view name);
 
-// Adds `scale` times the bands' absorbance at the grid's wavenumbers to `absorbance`, one value a point of the grid.
-void AddBands(std::span<const Band> bands, double scale, const WavenumberGrid& grid, std::span<double> absorbance);
+// Adds `scale` times the bands' absorbance at the grid's wavenumbers to `absorbance`, one value a point of
+// the grid.
+void AddBands(std::span<const Band> bands, double scale, const WavenumberGrid& grid,
+              std::span<double> absorbance);
 
 // Opens a spectrum file as absorbance; RunTimeError when it is missing or damaged.
 using LoadSpectrum = std::function<state::SpectrumBuffer(const std::string& path)>;
@@ -48,12 +50,13 @@ struct SamplePart {
   double share = 1;
 };
 
-// What lies in the compartment, from its name: a material ("aspirin"), the Windows path of a spectrum file (a name
-// with "\" or ending .jdx, .dx, .jcm or .bsp), or a mixture of materials with their shares: "polystyrene 0.6 + PMMA
-// 0.4". Error 5 names a material that is not known; errors of `load` pass through.
+// What lies in the compartment, from its name: a material ("aspirin"), the Windows path of a spectrum file (a
+// name with "\" or ending .jdx, .dx, .jcm or .bsp), or a mixture of materials with their shares: "polystyrene
+// 0.6 + PMMA 0.4". Error 5 names a material that is not known; errors of `load` pass through.
 std::vector<SamplePart> SampleOf(const std::string& name, const LoadSpectrum& load);
 
-// The sample's absorbance as an instrument of unlimited resolution would see it: by Beer's law the sum over its parts.
+// The sample's absorbance as an instrument of unlimited resolution would see it: by Beer's law the sum over
+// its parts.
 std::vector<double> SampleAbsorbance(std::span<const SamplePart> sample, const WavenumberGrid& grid);
 
 }  // namespace veritane::simulator

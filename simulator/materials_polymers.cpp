@@ -7,28 +7,29 @@ namespace veritane::simulator {
 
 namespace {
 
-// CH stretch of the ring 3001 to 3103, of the chain 2850 and 2923; ring 1601, 1493, 1452, 757 and 698. Positions of
-// the bands that serve to calibrate instruments carry a decimal.
+// CH stretch of the ring 3001 to 3103, of the chain 2850 and 2923; ring 1601, 1493, 1452, 757 and 698.
+// Positions of the bands that serve to calibrate instruments carry a decimal.
 constexpr Band kPolystyrene[] = {
-    {3103, .03, 14},   {3082.2, .10, 15}, {3060, .17, 17},   {3026.4, .30, 15}, {3001.4, .07, 11}, {2923, .34, 32},
-    {2850.1, .16, 20}, {1943, .04, 17},   {1870, .035, 17},  {1802, .03, 17},   {1745, .02, 16},   {1601.2, .17, 9},
-    {1583, .04, 8},    {1541, .012, 12},  {1493, .36, 9},    {1452, .34, 14},   {1371, .04, 17},   {1328, .03, 16},
-    {1312, .02, 14},   {1181, .03, 11},   {1154.5, .03, 10}, {1069.1, .05, 14}, {1028.3, .10, 10}, {1003, .02, 8},
-    {980, .02, 12},    {964, .022, 10},   {942, .02, 14},    {906.6, .05, 13},  {841.9, .03, 16},  {757, .36, 13},
+    {3103, .03, 14},   {3082.2, .10, 15}, {3060, .17, 17},   {3026.4, .30, 15}, {3001.4, .07, 11},
+    {2923, .34, 32},   {2850.1, .16, 20}, {1943, .04, 17},   {1870, .035, 17},  {1802, .03, 17},
+    {1745, .02, 16},   {1601.2, .17, 9},  {1583, .04, 8},    {1541, .012, 12},  {1493, .36, 9},
+    {1452, .34, 14},   {1371, .04, 17},   {1328, .03, 16},   {1312, .02, 14},   {1181, .03, 11},
+    {1154.5, .03, 10}, {1069.1, .05, 14}, {1028.3, .10, 10}, {1003, .02, 8},    {980, .02, 12},
+    {964, .022, 10},   {942, .02, 14},    {906.6, .05, 13},  {841.9, .03, 16},  {757, .36, 13},
     {698, 1.0, 9},     {621, .012, 9},    {539.8, .16, 20}};
 
 constexpr Band kPolyethylene[] = {
-    {2950, .06, 24}, {2917, 1.0, 21}, {2895, .12, 34}, {2849, .74, 13}, {2660, .01, 30}, {2635, .01, 24},
-    {1473, .24, 6},  {1463, .28, 8},  {1440, .05, 22}, {1377, .03, 9},  {1368, .04, 8},  {1353, .03, 9},
-    {1304, .03, 18}, {1080, .015, 40}, {908, .01, 8},  {890, .01, 8},   {731, .13, 5},   {720, .22, 7}};
+    {2950, .06, 24}, {2917, 1.0, 21},  {2895, .12, 34}, {2849, .74, 13}, {2660, .01, 30}, {2635, .01, 24},
+    {1473, .24, 6},  {1463, .28, 8},   {1440, .05, 22}, {1377, .03, 9},  {1368, .04, 8},  {1353, .03, 9},
+    {1304, .03, 18}, {1080, .015, 40}, {908, .01, 8},   {890, .01, 8},   {731, .13, 5},   {720, .22, 7}};
 
 // Isotactic: 998 and 841 belong to the helix, 973 and 1153 to the chain.
 constexpr Band kPolypropylene[] = {
-    {2953, .88, 22}, {2919, 1.0, 28}, {2869, .52, 18}, {2838, .55, 18}, {2722, .04, 16}, {1458, .64, 18},
-    {1436, .22, 16}, {1376, .74, 9},  {1359, .18, 11}, {1329, .04, 10}, {1303, .05, 12}, {1256, .06, 11},
-    {1220, .04, 10}, {1167, .24, 14}, {1153, .12, 10}, {1102, .06, 14}, {1044, .05, 11}, {998, .22, 8},
-    {973, .24, 10},  {940, .03, 12},  {899, .05, 9},   {841, .20, 9},   {809, .08, 9},   {528, .03, 14},
-    {459, .03, 14}};
+    {2953, .88, 22}, {2919, 1.0, 28}, {2869, .52, 18}, {2838, .55, 18}, {2722, .04, 16},
+    {1458, .64, 18}, {1436, .22, 16}, {1376, .74, 9},  {1359, .18, 11}, {1329, .04, 10},
+    {1303, .05, 12}, {1256, .06, 11}, {1220, .04, 10}, {1167, .24, 14}, {1153, .12, 10},
+    {1102, .06, 14}, {1044, .05, 11}, {998, .22, 8},   {973, .24, 10},  {940, .03, 12},
+    {899, .05, 9},   {841, .20, 9},   {809, .08, 9},   {528, .03, 14},  {459, .03, 14}};
 
 // Ester carbonyl 1715, C-C-O of the aromatic ester 1243 and 1262, O-C-C 1096, ring wag 726.
 constexpr Band kPolyethyleneTerephthalate[] = {
@@ -55,7 +56,8 @@ constexpr Band kPolymethylMethacrylate[] = {
 constexpr std::string_view kPolystyreneNames[] = {"ps", "polys"};
 constexpr std::string_view kPolyethyleneNames[] = {"pe", "polythene", "ldpe"};
 constexpr std::string_view kPolypropyleneNames[] = {"pp"};
-constexpr std::string_view kTerephthalateNames[] = {"polyethylene terephthalate", "poly(ethylene terephthalate)"};
+constexpr std::string_view kTerephthalateNames[] = {"polyethylene terephthalate",
+                                                    "poly(ethylene terephthalate)"};
 constexpr std::string_view kChlorideNames[] = {"polyvinyl chloride", "poly(vinyl chloride)"};
 constexpr std::string_view kMethacrylateNames[] = {"polymethyl methacrylate", "poly(methyl methacrylate)",
                                                    "acrylic glass"};
@@ -71,6 +73,8 @@ constexpr std::array<Material, 6> kPolymers{{
 
 }  // namespace
 
-std::span<const Material> Polymers() { return kPolymers; }
+std::span<const Material> Polymers() {
+  return kPolymers;
+}
 
 }  // namespace veritane::simulator

@@ -1,5 +1,5 @@
-// What stands behind a collection: the device that measures. The documents know nothing of how a spectrum comes
-// about, a device knows nothing of documents.
+// What stands behind a collection: the device that measures. The documents know nothing of how a spectrum
+// comes about, a device knows nothing of documents.
 #pragma once
 
 #include <functional>
@@ -16,11 +16,11 @@ namespace veritane::simulator {
 // One collection or alignment as it is asked for.
 struct CollectRequest {
   std::string methodPath;
-  std::string methodText;                 // the collect method file's bytes
-  std::optional<std::string> option;      // "NI" where the program set it
-  std::optional<double> scanParameter;    // the two settings of the calibration scan
+  std::string methodText;               // the collect method file's bytes
+  std::optional<std::string> option;    // "NI" where the program set it
+  std::optional<double> scanParameter;  // the two settings of the calibration scan
   std::optional<double> subParameter;
-  std::string backgroundName;             // as the program named it, e.g. "C:\…\backabc.bsp(1)"; "" for none
+  std::string backgroundName;  // as the program named it, e.g. "C:\…\backabc.bsp(1)"; "" for none
   // The spectrum behind backgroundName. Empty when none was named or when it cannot be read; then
   // backgroundFault says why.
   std::shared_ptr<const StoredSpectrum> background;
@@ -40,7 +40,7 @@ struct Measurement {
 };
 
 class MeasuringDevice {
- public:
+public:
   virtual ~MeasuringDevice() = default;
   virtual Measurement Collect(const CollectRequest& request) = 0;
   // 0 or the instrument's error number.

@@ -1,5 +1,5 @@
-// A spectrum as the simulator keeps it: its points on whole multiples of their spacing, its name and time, and
-// everything else that its file says about it.
+// A spectrum as the simulator keeps it: its points on whole multiples of their spacing, its name and time,
+// and everything else that its file says about it.
 #pragma once
 
 #include <string>

@@ -7,9 +7,9 @@
 #include <cmath>
 #include <limits>
 #include <span>
+#include <stdexcept>
 #include <utility>
 
-#include "platform/run_time_error.h"
 #include "simulator/jcamp_value.h"
 
 namespace veritane::simulator {
@@ -23,14 +23,15 @@ constexpr double kRoundingOfSpacing = 0.01;
 constexpr double kLargestIndex = std::numeric_limits<std::int32_t>::max();
 
 [[noreturn]] void Refuse(const std::string& reason) {
-  throw platform::RunTimeError(platform::ErrorNumber::kTypeMismatch, reason);
+  throw std::domain_error(reason);
 }
 
 // `number` with `digits` significant decimal digits.
 double RoundedTo(double number, int digits) {
   std::array<char, 40> text{};
   const auto end =
-      std::to_chars(text.data(), text.data() + text.size(), number, std::chars_format::scientific, digits - 1).ptr;
+      std::to_chars(text.data(), text.data() + text.size(), number, std::chars_format::scientific, digits - 1)
+          .ptr;
   double rounded = number;
   std::from_chars(text.data(), end, rounded);
   return rounded;
@@ -51,8 +52,8 @@ std::int32_t ToIndex(double index) {
   return static_cast<std::int32_t>(index);
 }
 
-// The cubic through the four points nearest to `place`, counted in points from the first; lower order where there
-// are fewer points.
+// The cubic through the four points nearest to `place`, counted in points from the first; lower order where
+// there are fewer points.
 double Interpolated(std::span<const double> values, double place) {
   const auto count = static_cast<std::ptrdiff_t>(std::min<std::size_t>(values.size(), 4));
   const auto size = static_cast<std::ptrdiff_t>(values.size());

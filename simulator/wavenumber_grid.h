@@ -1,5 +1,5 @@
-// Puts the points of a spectrum file on whole multiples of their spacing, as the program requires: element i lies
-// at i × spacing.
+// Puts the points of a spectrum file on whole multiples of their spacing, as the program requires: element i
+// lies at i × spacing.
 #pragma once
 
 #include <optional>
@@ -25,14 +25,14 @@ struct GriddedSpectrum {
   std::string interpolated;
 };
 
-// Descending curves are turned. Points that lie within 1e-5 of a step of whole multiples are there but for the
-// rounding of their first and last x; they keep their values, and the spacing is the shortest decimal number that
-// agrees. Otherwise the curve is interpolated at the whole multiples within its range, at the shortest decimal
-// spacing that agrees with the curve's own within 1 % of a step over the whole range. Interpolation is cubic
-// through the four nearest points (Lagrange; Abramowitz and Stegun, Handbook of Mathematical Functions, 25.2.13):
-// at half a step it misses the top of a band four steps wide by less than 1 %, where a straight line misses 4 %.
-// RunTimeError 13 when there is no such grid: no points, no range, a single point without spacing, or more than
-// 2^31 multiples away from 0.
+// Descending curves are turned. Points that lie within 1e-5 of a step of whole multiples are there but for
+// the rounding of their first and last x; they keep their values, and the spacing is the shortest decimal
+// number that agrees. Otherwise the curve is interpolated at the whole multiples within its range, at the
+// shortest decimal spacing that agrees with the curve's own within 1 % of a step over the whole range.
+// Interpolation is cubic through the four nearest points (Lagrange; Abramowitz and Stegun, Handbook of
+// Mathematical Functions, 25.2.13): at half a step it misses the top of a band four steps wide by less than 1
+// %, where a straight line misses 4 %. std::domain_error when there is no such grid: no points, no range, a
+// single point without spacing, or more than 2^31 multiples away from 0.
 GriddedSpectrum PlaceOnGrid(SampledCurve curve);
 
 }  // namespace veritane::simulator

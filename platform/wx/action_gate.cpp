@@ -6,6 +6,8 @@
 #include <wx/evtloop.h>
 #include <wx/utils.h>
 
+#include <algorithm>
+#include <array>
 #include <cstdio>
 #include <exception>
 
@@ -17,35 +19,43 @@ namespace {
 
 using std::chrono::milliseconds;
 
-// A handler shorter than this cannot have made anybody press twice; a barcode scanner's keys must not be lost.
+// A handler shorter than this cannot have made anybody press twice; a barcode scanner's keys must not be
+// lost.
 constexpr milliseconds kNoticeable{250};
 // How often waiting for the next picture is worth its time.
 constexpr milliseconds kRepaintPeriod{60};
 constexpr int kPicturePeriodMilliseconds = 17;
 
-void ReportUnexpected(const char* what) { std::fprintf(stderr, "Veritane: unexpected error: %s\n", what); }
+void ReportUnexpected(const char* what) {
+  std::fprintf(stderr, "Veritane: unexpected error: %s\n", what);
+}
 
 void Yield() {
   if (wxEventLoopBase* loop = wxEventLoopBase::GetActive()) loop->YieldFor(wxEVT_CATEGORY_ALL);
 }
 
 bool IsInput(const wxEvent& event) {
-  static const auto kInputs = {wxEVT_KEY_DOWN,    wxEVT_CHAR,          wxEVT_CHAR_HOOK,  wxEVT_LEFT_DOWN,
-                               wxEVT_LEFT_DCLICK, wxEVT_RIGHT_DOWN,    wxEVT_RIGHT_DCLICK, wxEVT_MIDDLE_DOWN,
-                               wxEVT_MIDDLE_DCLICK, wxEVT_MOUSEWHEEL};
-  for (const wxEventType type : kInputs) {
-    if (event.GetEventType() == type) return true;
-  }
-  return false;
+  static const std::array kInputs = {
+      wxEventType(wxEVT_KEY_DOWN),    wxEventType(wxEVT_CHAR),         wxEventType(wxEVT_CHAR_HOOK),
+      wxEventType(wxEVT_LEFT_DOWN),   wxEventType(wxEVT_LEFT_DCLICK),  wxEventType(wxEVT_RIGHT_DOWN),
+      wxEventType(wxEVT_MIDDLE_DOWN), wxEventType(wxEVT_RIGHT_DCLICK), wxEventType(wxEVT_MIDDLE_DCLICK),
+      wxEventType(wxEVT_MOUSEWHEEL)};
+  return std::find(kInputs.begin(), kInputs.end(), event.GetEventType()) != kInputs.end();
 }
 
 }  // namespace
 
-ActionGate::ActionGate() { wxEvtHandler::AddFilter(this); }
+ActionGate::ActionGate() {
+  wxEvtHandler::AddFilter(this);
+}
 
-ActionGate::~ActionGate() { wxEvtHandler::RemoveFilter(this); }
+ActionGate::~ActionGate() {
+  wxEvtHandler::RemoveFilter(this);
+}
 
-int ActionGate::FilterEvent(wxEvent& event) { return blocking_ && IsInput(event) ? Event_Processed : Event_Skip; }
+int ActionGate::FilterEvent(wxEvent& event) {
+  return blocking_ && IsInput(event) ? Event_Processed : Event_Skip;
+}
 
 void ActionGate::BeginWork() {
   busy_ = true;

@@ -1,5 +1,5 @@
-// Lets one action of the user run at a time. While its handler works, clicks and keys are thrown away instead of
-// waiting to start another one.
+// Lets one action of the user run at a time. While its handler works, clicks and keys are thrown away instead
+// of waiting to start another one.
 #pragma once
 
 #include <wx/eventfilter.h>
@@ -14,12 +14,13 @@ namespace veritane::platform {
 class Form;
 
 class ActionGate : private wxEventFilter {
- public:
+public:
   ActionGate();
   ~ActionGate() override;
 
-  // Runs something the user did on `form`, unless a handler is at work, the form lies under a modal one, or the
-  // program has ended. Returns whether it ran. An exception that is no RunTimeError ends the program with status 1.
+  // Runs something the user did on `form`, unless a handler is at work, the form lies under a modal one, or
+  // the program has ended. Returns whether it ran. An exception that is no RunTimeError ends the program with
+  // status 1.
   bool Perform(Form& form, const std::function<void()>& action);
 
   // Runs the program's own start in the place of a handler.
@@ -31,23 +32,23 @@ class ActionGate : private wxEventFilter {
   // Repaints and answers the system, while input is thrown away.
   void ProcessPendingEvents();
 
-  // A loop inside a handler: input counts again, and what had piled up before is gone. With kForms the user may act
-  // on forms, with kBoxOnly just answer the box.
+  // A loop inside a handler: input counts again, and what had piled up before is gone. With kForms the user
+  // may act on forms, with kBoxOnly just answer the box.
   enum class Allow { kForms, kBoxOnly };
   class NestedLoop {
-   public:
+  public:
     NestedLoop(ActionGate& gate, Allow allow);
     ~NestedLoop();
     NestedLoop(const NestedLoop&) = delete;
     NestedLoop& operator=(const NestedLoop&) = delete;
 
-   private:
+  private:
     ActionGate& gate_;
     const bool was_busy_;
     const bool was_blocking_;
   };
 
- private:
+private:
   using Clock = std::chrono::steady_clock;
 
   int FilterEvent(wxEvent& event) override;

@@ -49,7 +49,9 @@ ChartView::ChartView(Chart& chart, ViewOwner& owner, wxWindow* parent)
   panel_->Bind(wxEVT_MOUSE_CAPTURE_LOST, [this](wxMouseCaptureLostEvent&) { CancelDrag(); });
 }
 
-void ChartView::ShowState() { panel_->Refresh(); }
+void ChartView::ShowState() {
+  panel_->Refresh();
+}
 
 void ChartView::OnPaint() {
   wxAutoBufferedPaintDC dc(panel_);

@@ -11,16 +11,16 @@
 namespace veritane::platform {
 
 class ChartView : public ControlView {
- public:
+public:
   ChartView(Chart& chart, ViewOwner& owner, wxWindow* parent);
 
   bool CanTakeFocus() const override { return false; }
   wxPanel* Widget() const { return panel_; }
 
- protected:
+protected:
   void ShowState() override;
 
- private:
+private:
   void OnPaint();
   void OnMouseMove(wxMouseEvent& event);
   void OnLeave();

@@ -23,18 +23,28 @@ void ControlView::Connect(const std::shared_ptr<ControlView>& view, wxWindow* wi
 
 void ControlView::Follow(Property property) {
   switch (property) {
-    case Property::kEnabled: window_->Enable(control_.Enabled()); break;
+    case Property::kEnabled:
+      window_->Enable(control_.Enabled());
+      break;
     case Property::kVisible:
       window_->Show(control_.Visible());
       owner_.Arrange();
       break;
-    case Property::kFocus: TakeFocus(); break;
-    default: ShowState(); break;
+    case Property::kFocus:
+      TakeFocus();
+      break;
+    default:
+      ShowState();
+      break;
   }
 }
 
-void ControlView::PressAccessKey() { TakeFocus(); }
+void ControlView::PressAccessKey() {
+  TakeFocus();
+}
 
-void ControlView::TakeFocus() { window_->SetFocus(); }
+void ControlView::TakeFocus() {
+  window_->SetFocus();
+}
 
 }  // namespace veritane::platform

@@ -12,7 +12,7 @@ namespace veritane::platform {
 
 // What a view needs of the window that it lies on.
 class ViewOwner {
- public:
+public:
   virtual ~ViewOwner() = default;
   // Runs something the user did; false when it was refused.
   virtual bool Perform(const std::function<void()>& action) = 0;
@@ -21,7 +21,7 @@ class ViewOwner {
 };
 
 class ControlView {
- public:
+public:
   ControlView(Control& control, ViewOwner& owner) : control_(control), owner_(owner) {}
   virtual ~ControlView() = default;
   ControlView(const ControlView&) = delete;
@@ -43,7 +43,7 @@ class ControlView {
   // Whether Enter belongs to the widget itself, such as in a text of several lines or an open list.
   virtual bool KeepsEnter() const { return false; }
 
- protected:
+protected:
   // Shows the control's present state, all of it or what belongs to one property.
   virtual void ShowState() = 0;
   virtual void Follow(Property property);
@@ -51,7 +51,7 @@ class ControlView {
   bool Perform(const std::function<void()>& action) { return owner_.Perform(action); }
   ViewOwner& Owner() const { return owner_; }
 
- private:
+private:
   Control& control_;
   ViewOwner& owner_;
   wxWindow* window_ = nullptr;

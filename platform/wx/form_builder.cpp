@@ -49,23 +49,30 @@ std::shared_ptr<ControlView> FormBuilder::MakeView(Control& control, wxWindow* p
   switch (control.Kind()) {
     case ControlKind::kLabel:
       return Make<LabelView>(widget, static_cast<Label&>(control), owner_, parent, LabelView::Style::kPlain);
-    case ControlKind::kButton: return Make<ButtonView>(widget, static_cast<Button&>(control), owner_, parent);
+    case ControlKind::kButton:
+      return Make<ButtonView>(widget, static_cast<Button&>(control), owner_, parent);
     case ControlKind::kOption:
       // The hidden option begins the group, so it is made first.
       return Make<OptionView>(widget, static_cast<OptionButton&>(control), owner_, parent, NoneOf(parent));
-    case ControlKind::kCheckBox: return Make<CheckBoxView>(widget, static_cast<CheckBox&>(control), owner_, parent);
-    case ControlKind::kTextBox: return Make<TextBoxView>(widget, static_cast<TextBox&>(control), owner_, parent);
+    case ControlKind::kCheckBox:
+      return Make<CheckBoxView>(widget, static_cast<CheckBox&>(control), owner_, parent);
+    case ControlKind::kTextBox:
+      return Make<TextBoxView>(widget, static_cast<TextBox&>(control), owner_, parent);
     case ControlKind::kComboBox: {
       auto& combo = static_cast<ComboBox&>(control);
       if (combo.isEditable) return Make<EditableComboView>(widget, combo, owner_, parent);
       return Make<ChoiceView>(widget, combo, owner_, parent);
     }
     case ControlKind::kListBox:
-      return Make<ListBoxView>(widget, static_cast<ListBox&>(control), owner_, parent, ListBoxView::Choose::kOnMove);
-    case ControlKind::kGrid: return Make<GridView>(widget, static_cast<Grid&>(control), owner_, parent);
-    case ControlKind::kChart: return Make<ChartView>(widget, static_cast<Chart&>(control), owner_, parent);
+      return Make<ListBoxView>(widget, static_cast<ListBox&>(control), owner_, parent,
+                               ListBoxView::Choose::kOnMove);
+    case ControlKind::kGrid:
+      return Make<GridView>(widget, static_cast<Grid&>(control), owner_, parent);
+    case ControlKind::kChart:
+      return Make<ChartView>(widget, static_cast<Chart&>(control), owner_, parent);
     case ControlKind::kFrame:
-    case ControlKind::kTabs: break;
+    case ControlKind::kTabs:
+      break;
   }
   throw std::logic_error(control.Name() + " is a container and has a call of its own");
 }
@@ -78,13 +85,15 @@ wxWindow* FormBuilder::Add(const std::string& name, wxWindow* parent) {
 
 wxWindow* FormBuilder::AddData(const std::string& name, wxWindow* parent) {
   wxWindow* widget = nullptr;
-  auto view = Make<LabelView>(widget, dynamic_cast<Label&>(Find(name)), owner_, parent, LabelView::Style::kData);
+  auto view =
+      Make<LabelView>(widget, dynamic_cast<Label&>(Find(name)), owner_, parent, LabelView::Style::kData);
   return Keep(std::move(view), widget);
 }
 
 wxWindow* FormBuilder::AddProse(const std::string& name, wxWindow* parent, int width) {
   wxWindow* widget = nullptr;
-  auto view = Make<LabelView>(widget, dynamic_cast<Label&>(Find(name)), owner_, parent, LabelView::Style::kWrapped);
+  auto view =
+      Make<LabelView>(widget, dynamic_cast<Label&>(Find(name)), owner_, parent, LabelView::Style::kWrapped);
   static_cast<WrappingText*>(widget)->SetLineWidth(width);
   return Keep(std::move(view), widget);
 }
@@ -99,7 +108,7 @@ wxWindow* FormBuilder::AddConfirmedList(const std::string& name, wxWindow* paren
 wxStaticBoxSizer* FormBuilder::AddGroup(const std::string& name, wxWindow* parent) {
   auto& frame = dynamic_cast<Frame&>(Find(name));
   auto* sizer = new wxStaticBoxSizer(wxVERTICAL, parent, "");
-  sizer->GetStaticBox()->SetFont(parent->GetFont().Bold());
+  sizer->GetStaticBox()->SetOwnFont(parent->GetFont().Bold());
   Keep(std::make_shared<FrameView>(frame, owner_, nullptr), sizer->GetStaticBox());
   return sizer;
 }

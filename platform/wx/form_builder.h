@@ -18,11 +18,11 @@
 namespace veritane::platform {
 
 class FormBuilder {
- public:
+public:
   FormBuilder(Form& form, ViewOwner& owner) : form_(form), owner_(owner) {}
 
-  // The usual widget for the control of this name. A name that the form lacks, or one that was added before, is a
-  // mistake in a layout (std::logic_error).
+  // The usual widget for the control of this name. A name that the form lacks, or one that was added before,
+  // is a mistake in a layout (std::logic_error).
   wxWindow* Add(const std::string& name, wxWindow* parent);
   // A label whose text is data: a name or path, shown as it is and cut where it is too long.
   wxWindow* AddData(const std::string& name, wxWindow* parent);
@@ -54,7 +54,7 @@ class FormBuilder {
   static int Line(const wxWindow* window) { return window->GetCharHeight(); }
   static int Columns(const wxWindow* window, int count) { return window->GetCharWidth() * count; }
 
- private:
+private:
   Control& Find(const std::string& name) const;
   std::shared_ptr<ControlView> MakeView(Control& control, wxWindow* parent, wxWindow*& widget);
   wxRadioButton* NoneOf(wxWindow* parent);

@@ -1,6 +1,8 @@
 // Drawing on a wxGraphicsContext.
 #include "platform/wx/graphics_drawing_context.h"
 
+#include <wx/brush.h>
+
 #include <numbers>
 #include <vector>
 
@@ -13,13 +15,19 @@ namespace {
 // The letters' size in a line of text of height 1.
 constexpr double kLetterSize = 0.86;
 
-wxColour ToWx(Colour colour) { return {colour.red, colour.green, colour.blue, colour.alpha}; }
+wxColour ToWx(Colour colour) {
+  return {colour.red, colour.green, colour.blue, colour.alpha};
+}
 
 }  // namespace
 
 GraphicsDrawingContext::GraphicsDrawingContext(wxGraphicsContext& graphics, double width, double height,
                                                double font_height, const wxFont& font)
-    : graphics_(graphics), width_(width), height_(height), font_height_(font_height), face_(font.GetFaceName()) {}
+    : graphics_(graphics),
+      width_(width),
+      height_(height),
+      font_height_(font_height),
+      face_(font.GetFaceName()) {}
 
 void GraphicsDrawingContext::UseFont(double height, TextWeight weight, Colour colour) const {
   const int flags = weight == TextWeight::kBold ? wxFONTFLAG_BOLD : wxFONTFLAG_DEFAULT;
@@ -27,8 +35,8 @@ void GraphicsDrawingContext::UseFont(double height, TextWeight weight, Colour co
 }
 
 void GraphicsDrawingContext::UsePen(double width, Colour colour) {
-  graphics_.SetPen(graphics_.CreatePen(
-      wxGraphicsPenInfo(ToWx(colour), width).Join(wxJOIN_ROUND).Cap(wxCAP_ROUND)));
+  graphics_.SetPen(
+      graphics_.CreatePen(wxGraphicsPenInfo(ToWx(colour), width).Join(wxJOIN_ROUND).Cap(wxCAP_ROUND)));
 }
 
 TextSize GraphicsDrawingContext::Measure(const std::string& text, double height, TextWeight weight) const {
@@ -74,6 +82,8 @@ void GraphicsDrawingContext::BeginClip(Point corner, double width, double height
   graphics_.Clip(corner.x, corner.y, width, height);
 }
 
-void GraphicsDrawingContext::EndClip() { graphics_.PopState(); }
+void GraphicsDrawingContext::EndClip() {
+  graphics_.PopState();
+}
 
 }  // namespace veritane::platform

@@ -1,5 +1,5 @@
-// A drawing surface made of a wxGraphicsContext: a window, a bitmap, a page. Lines stay lines and text stays text
-// where the context can keep them.
+// A drawing surface made of a wxGraphicsContext: a window, a bitmap, a page. Lines stay lines and text stays
+// text where the context can keep them.
 #pragma once
 
 #include <wx/font.h>
@@ -10,9 +10,9 @@
 namespace veritane::platform {
 
 class GraphicsDrawingContext : public DrawingContext {
- public:
-  // Draws on `graphics`, which must outlive this, an area of the given size from its origin. `font_height` is the
-  // height of the usual line of text, in the context's units; `font` gives the typeface.
+public:
+  // Draws on `graphics`, which must outlive this, an area of the given size from its origin. `font_height` is
+  // the height of the usual line of text, in the context's units; `font` gives the typeface.
   GraphicsDrawingContext(wxGraphicsContext& graphics, double width, double height, double font_height,
                          const wxFont& font);
 
@@ -28,7 +28,7 @@ class GraphicsDrawingContext : public DrawingContext {
   void BeginClip(Point corner, double width, double height) override;
   void EndClip() override;
 
- private:
+private:
   void UseFont(double height, TextWeight weight, Colour colour) const;
   void UsePen(double width, Colour colour);
 

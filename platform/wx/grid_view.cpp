@@ -2,6 +2,7 @@
 #include "platform/wx/grid_view.h"
 
 #include <wx/dcclient.h>
+#include <wx/settings.h>
 
 #include <algorithm>
 
@@ -16,7 +17,7 @@ constexpr std::size_t kMeasuredTexts = 12;
 
 // The rows behind the header. The counts are those that the widget has been told of.
 class GridTable : public wxGridTableBase {
- public:
+public:
   explicit GridTable(const Grid& grid) : grid_(grid) {}
 
   int GetNumberRows() override { return rows_; }
@@ -48,10 +49,11 @@ class GridTable : public wxGridTableBase {
   void CatchUp() {
     Announce(std::max(0, grid_.RowCount() - grid_.FixedRows()), rows_, wxGRIDTABLE_NOTIFY_ROWS_APPENDED,
              wxGRIDTABLE_NOTIFY_ROWS_DELETED);
-    Announce(grid_.ColumnCount(), columns_, wxGRIDTABLE_NOTIFY_COLS_APPENDED, wxGRIDTABLE_NOTIFY_COLS_DELETED);
+    Announce(grid_.ColumnCount(), columns_, wxGRIDTABLE_NOTIFY_COLS_APPENDED,
+             wxGRIDTABLE_NOTIFY_COLS_DELETED);
   }
 
- private:
+private:
   void Announce(int count, int& known, int appended, int deleted) {
     const int difference = count - known;
     if (difference == 0) return;
@@ -73,7 +75,10 @@ class GridTable : public wxGridTableBase {
 }  // namespace
 
 GridView::GridView(Grid& grid, ViewOwner& owner, wxWindow* parent)
-    : ControlView(grid, owner), grid_(grid), widget_(new wxGrid(parent, wxID_ANY)), table_(new GridTable(grid)) {
+    : ControlView(grid, owner),
+      grid_(grid),
+      widget_(new wxGrid(parent, wxID_ANY)),
+      table_(new GridTable(grid)) {
   widget_->SetTable(table_, true, wxGrid::wxGridSelectRows);
   widget_->EnableEditing(false);
   widget_->EnableDragRowSize(false);

@@ -9,16 +9,16 @@
 namespace veritane::platform {
 
 class GridView : public ControlView {
- public:
+public:
   GridView(Grid& grid, ViewOwner& owner, wxWindow* parent);
 
   wxGrid* Widget() const { return widget_; }
 
- protected:
+protected:
   void ShowState() override;
   void Follow(Property property) override;
 
- private:
+private:
   void ShowCells();
   void ShowCurrentRow();
   void FitColumns();

@@ -57,7 +57,8 @@ wxSizer* LayOutNullRegion(FormBuilder& builder, wxWindow* root) {
   AddNamedField(builder, table, box, "lblNullStart", "txtNullStart", 12);
   AddNamedField(builder, table, box, "lblNullEnd", "txtNullEnd", 12);
   group->Add(table, wxSizerFlags().Expand().Border(wxALL, Gap(root)));
-  group->Add(ButtonRow(box, {builder.Add("cmdAddNullRegion", box)}), wxSizerFlags().Right().Border(wxALL, Gap(root)));
+  group->Add(ButtonRow(box, {builder.Add("cmdAddNullRegion", box)}),
+             wxSizerFlags().Right().Border(wxALL, Gap(root)));
 
   wxWindow* list = builder.Add("lstNulls", root);
   list->SetMinSize({-1, FormBuilder::Line(root) * 8});
@@ -70,7 +71,8 @@ wxSizer* LayOutNullRegion(FormBuilder& builder, wxWindow* root) {
 
 wxSizer* LayOutParse(FormBuilder& builder, wxWindow* root) {
   auto* content = new wxBoxSizer(wxVERTICAL);
-  content->Add(builder.AddProse("lblInstruction", root, FormBuilder::Columns(root, 60)), wxSizerFlags().Expand());
+  content->Add(builder.AddProse("lblInstruction", root, FormBuilder::Columns(root, 60)),
+               wxSizerFlags().Expand());
   content->Add(builder.Add("txtTmpProductID", root), wxSizerFlags().Expand().Border(wxTOP, WideGap(root)));
   wxWindow* okay = builder.Add("cmdOK", root);
   return Dialog(root, content, ButtonRow(root, {okay, builder.Add("cmdResetParser", root)}));
@@ -143,16 +145,18 @@ wxSizer* LayOutPrediction(FormBuilder& builder, wxWindow* root) {
   return Dialog(root, content, ButtonRow(root, {predict, print, builder.Add("cmdDone", root)}));
 }
 
-wxSizer* LayOutInOrder(FormBuilder&, wxWindow*) { return new wxBoxSizer(wxVERTICAL); }
+wxSizer* LayOutInOrder(FormBuilder&, wxWindow*) {
+  return new wxBoxSizer(wxVERTICAL);
+}
 
 LayoutFunction LayoutOf(const std::string& form_name) {
   static const std::map<std::string, LayoutFunction> kLayouts = {
-      {"frmVeritane", LayOutMainWindow},         {"frmSamp", LayOutSample},
-      {"frmPassword", LayOutPassword},           {"frmCollectStd", LayOutCollectStandard},
-      {"frmNullRegion", LayOutNullRegion},       {"frmParse", LayOutParse},
-      {"frmPrompts", LayOutPrompts},             {"frmSelectMethod", LayOutSelectMethod},
-      {"frmStatus", LayOutStatus},               {"frmSelectSpectrum", LayOutSelectSpectrum},
-      {"frmResults", LayOutResults},             {"MainForm", LayOutPrediction},
+      {"frmVeritane", LayOutMainWindow},   {"frmSamp", LayOutSample},
+      {"frmPassword", LayOutPassword},     {"frmCollectStd", LayOutCollectStandard},
+      {"frmNullRegion", LayOutNullRegion}, {"frmParse", LayOutParse},
+      {"frmPrompts", LayOutPrompts},       {"frmSelectMethod", LayOutSelectMethod},
+      {"frmStatus", LayOutStatus},         {"frmSelectSpectrum", LayOutSelectSpectrum},
+      {"frmResults", LayOutResults},       {"MainForm", LayOutPrediction},
   };
   const auto found = kLayouts.find(form_name);
   return found == kLayouts.end() ? LayOutInOrder : found->second;

@@ -10,8 +10,12 @@
 namespace veritane::platform {
 
 // The space between unrelated things, and between things that belong together.
-inline int WideGap(const wxWindow* window) { return FormBuilder::Line(window); }
-inline int Gap(const wxWindow* window) { return FormBuilder::Line(window) / 2; }
+inline int WideGap(const wxWindow* window) {
+  return FormBuilder::Line(window);
+}
+inline int Gap(const wxWindow* window) {
+  return FormBuilder::Line(window) / 2;
+}
 
 // Two columns: labels, and fields that take the width that is left.
 wxFlexGridSizer* FieldTable(const wxWindow* window);

@@ -177,8 +177,9 @@ wxSizer* LayOutExpert(FormBuilder& builder, wxWindow* page) {
 wxWindow* LayOutSupervisorPanel(FormBuilder& builder, wxWindow* parent) {
   const auto [panel, heading] = builder.AddPanel("fraSupervisorMode", parent);
   wxNotebook* tabs = builder.AddTabs("SSTab1", panel);
-  static constexpr LayoutFunction kPages[] = {LayOutSecurity, LayOutBackground, LayOutMethods, LayOutStandards,
-                                              LayOutOptions,  LayOutReprocess,  LayOutExpert};
+  static constexpr LayoutFunction kPages[] = {LayOutSecurity,  LayOutBackground, LayOutMethods,
+                                              LayOutStandards, LayOutOptions,    LayOutReprocess,
+                                              LayOutExpert};
   for (std::size_t i = 0; i < std::size(kPages) && i < tabs->GetPageCount(); ++i) {
     wxWindow* page = tabs->GetPage(i);
     page->SetSizer(Padded(kPages[i](builder, page), WideGap(panel)));

@@ -1,4 +1,5 @@
-// How each form's widgets are arranged. Everything is measured by the font, so that a larger one fits as well.
+// How each form's widgets are arranged. Everything is measured by the font, so that a larger one fits as
+// well.
 #pragma once
 
 #include <wx/sizer.h>

@@ -10,20 +10,20 @@
 namespace veritane::platform {
 
 class ListBoxView : public ControlView {
- public:
-  // With kOnMove each entry that the user moves to is chosen. With kOnConfirm a click or Enter chooses, so that the
-  // arrow keys can walk through a list whose choice closes the dialog.
+public:
+  // With kOnMove each entry that the user moves to is chosen. With kOnConfirm a click or Enter chooses, so
+  // that the arrow keys can walk through a list whose choice closes the dialog.
   enum class Choose { kOnMove, kOnConfirm };
   ListBoxView(ListBox& list, ViewOwner& owner, wxWindow* parent, Choose choose);
 
   bool KeepsEnter() const override { return choose_ == Choose::kOnConfirm; }
   wxListBox* Widget() const { return widget_; }
 
- protected:
+protected:
   void ShowState() override;
   void Follow(Property property) override;
 
- private:
+private:
   void OnMouseUp(wxMouseEvent& event);
   void OnKey(wxKeyEvent& event);
   void Select(int index);
@@ -37,16 +37,16 @@ class ListBoxView : public ControlView {
 };
 
 class ChoiceView : public ControlView {
- public:
+public:
   ChoiceView(ComboBox& combo, ViewOwner& owner, wxWindow* parent);
 
   wxChoice* Widget() const { return widget_; }
 
- protected:
+protected:
   void ShowState() override;
   void Follow(Property property) override;
 
- private:
+private:
   void ShowSelection();
 
   ComboBox& combo_;

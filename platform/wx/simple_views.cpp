@@ -1,6 +1,8 @@
 // Labels, buttons, options, check boxes, frames and tabs.
 #include "platform/wx/simple_views.h"
 
+#include <wx/panel.h>
+
 #include "platform/form.h"
 #include "platform/wx/wx_text.h"
 
@@ -31,7 +33,9 @@ void LabelView::ShowState() {
 }
 
 ButtonView::ButtonView(Button& button, ViewOwner& owner, wxWindow* parent)
-    : ControlView(button, owner), button_(button), widget_(new wxButton(parent, wxID_ANY, ToWx(button.Caption()))) {
+    : ControlView(button, owner),
+      button_(button),
+      widget_(new wxButton(parent, wxID_ANY, ToWx(button.Caption()))) {
   widget_->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { Click(); });
 }
 
@@ -118,7 +122,8 @@ void TabsView::ShowState() {
   for (int page = 0; page < tabs_.PageCount(); ++page) {
     const auto index = static_cast<std::size_t>(page);
     const wxString caption = ToWx(tabs_.PageCaption(page));
-    if (widget_->GetPageText(index) != wxControl::RemoveMnemonics(caption)) widget_->SetPageText(index, caption);
+    if (widget_->GetPageText(index) != wxControl::RemoveMnemonics(caption))
+      widget_->SetPageText(index, caption);
   }
   if (tabs_.PageCount() > 0 && widget_->GetSelection() != tabs_.Tab()) {
     widget_->ChangeSelection(static_cast<std::size_t>(tabs_.Tab()));
@@ -128,7 +133,8 @@ void TabsView::ShowState() {
 void TabsView::Turn(int page) {
   if (page < 0 || page == tabs_.Tab()) return;
   Perform([this, page] { tabs_.SetTab(page); });
-  // The program may have turned back, or the action was refused. The widget is still busy turning: once more after it.
+  // The program may have turned back, or the action was refused. The widget is still busy turning: once more
+  // after it.
   ShowState();
   widget_->CallAfter([this] { ShowState(); });
 }

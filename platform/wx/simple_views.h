@@ -14,33 +14,34 @@
 namespace veritane::platform {
 
 class LabelView : public ControlView {
- public:
-  // kPlain for captions; kData for names and paths, cut in the middle when they are too long; kWrapped for prose.
+public:
+  // kPlain for captions; kData for names and paths, cut in the middle when they are too long; kWrapped for
+  // prose.
   enum class Style { kPlain, kData, kWrapped };
   LabelView(Label& label, ViewOwner& owner, wxWindow* parent, Style style);
 
   bool CanTakeFocus() const override { return false; }
   wxStaticText* Widget() const { return widget_; }
 
- protected:
+protected:
   void ShowState() override;
 
- private:
+private:
   Style style_;
   wxStaticText* widget_;
 };
 
 class ButtonView : public ControlView {
- public:
+public:
   ButtonView(Button& button, ViewOwner& owner, wxWindow* parent);
 
   void PressAccessKey() override;
   wxButton* Widget() const { return widget_; }
 
- protected:
+protected:
   void ShowState() override;
 
- private:
+private:
   void Click();
 
   Button& button_;
@@ -48,17 +49,17 @@ class ButtonView : public ControlView {
 };
 
 class OptionView : public ControlView {
- public:
+public:
   // `none` is the hidden widget of the group that is on while no option is checked.
   OptionView(OptionButton& option, ViewOwner& owner, wxWindow* parent, wxRadioButton* none);
 
   void PressAccessKey() override;
   wxRadioButton* Widget() const { return widget_; }
 
- protected:
+protected:
   void ShowState() override;
 
- private:
+private:
   void Check();
 
   OptionButton& option_;
@@ -67,16 +68,16 @@ class OptionView : public ControlView {
 };
 
 class CheckBoxView : public ControlView {
- public:
+public:
   CheckBoxView(CheckBox& box, ViewOwner& owner, wxWindow* parent);
 
   void PressAccessKey() override;
   wxCheckBox* Widget() const { return widget_; }
 
- protected:
+protected:
   void ShowState() override;
 
- private:
+private:
   void Toggle();
 
   CheckBox& box_;
@@ -85,31 +86,32 @@ class CheckBoxView : public ControlView {
 
 // A frame: a box with its caption on the border, or a whole panel with the caption as its heading.
 class FrameView : public ControlView {
- public:
+public:
   // `heading` shows the caption; without one the window itself does.
-  FrameView(Frame& frame, ViewOwner& owner, wxStaticText* heading) : ControlView(frame, owner), heading_(heading) {}
+  FrameView(Frame& frame, ViewOwner& owner, wxStaticText* heading)
+      : ControlView(frame, owner), heading_(heading) {}
 
   bool CanTakeFocus() const override { return false; }
 
- protected:
+protected:
   void ShowState() override;
 
- private:
+private:
   wxStaticText* heading_;
 };
 
 class TabsView : public ControlView {
- public:
+public:
   TabsView(TabControl& tabs, ViewOwner& owner, wxWindow* parent);
 
   // Brings the page with this access key to the front; false when no page behind has it.
   bool PressPageKey(wxUniChar letter);
   wxNotebook* Widget() const { return widget_; }
 
- protected:
+protected:
   void ShowState() override;
 
- private:
+private:
   void Turn(int page);
 
   TabControl& tabs_;

@@ -1,4 +1,5 @@
-// Typing: each key is offered to the program before it reaches the box, each change is passed on after it did.
+// Typing: each key is offered to the program before it reaches the box, each change is passed on after it
+// did.
 #include "platform/wx/text_views.h"
 
 #include "platform/form.h"

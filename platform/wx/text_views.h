@@ -11,13 +11,13 @@ namespace veritane::platform {
 
 // What a text box and an editable combo box have in common: typed keys, text, highlighted part.
 class TypedTextView : public ControlView {
- public:
+public:
   TypedTextView(TextBox& box, ViewOwner& owner) : ControlView(box, owner), box_(box) {}
 
   void TakeFocus() override;
   void BringUpToDate() override;
 
- protected:
+protected:
   // `entry` is the text side of `widget`.
   void BindTo(wxWindow* widget, wxTextEntry* entry);
   void ShowState() override { ShowText(); }
@@ -26,7 +26,7 @@ class TypedTextView : public ControlView {
   virtual void PassText(const std::string& text) { box_.SetText(text); }
   wxTextEntry* Entry() const { return entry_; }
 
- private:
+private:
   void OnChar(wxKeyEvent& event);
   void OnText();
   // Text positions count UTF-16 units on some systems, the program counts characters.
@@ -38,30 +38,30 @@ class TypedTextView : public ControlView {
 };
 
 class TextBoxView : public TypedTextView {
- public:
+public:
   TextBoxView(TextBox& box, ViewOwner& owner, wxWindow* parent);
 
   bool KeepsEnter() const override { return keeps_enter_; }
   wxTextCtrl* Widget() const { return widget_; }
 
- private:
+private:
   wxTextCtrl* widget_;
   bool keeps_enter_;
 };
 
 class EditableComboView : public TypedTextView {
- public:
+public:
   EditableComboView(ComboBox& combo, ViewOwner& owner, wxWindow* parent);
 
   bool KeepsEnter() const override { return is_open_; }
   wxComboBox* Widget() const { return widget_; }
 
- protected:
+protected:
   void ShowState() override;
   void Follow(Property property) override;
   void PassText(const std::string& text) override { combo_.SetText(text); }
 
- private:
+private:
   ComboBox& combo_;
   wxComboBox* widget_;
   bool is_open_ = false;

@@ -11,21 +11,21 @@ namespace veritane::platform {
 namespace {
 
 class LineBreaker : public wxTextWrapper {
- public:
+public:
   wxString Broken(wxWindow* window, const wxString& text, int width) {
     Wrap(window, text, width);
     return result_;
   }
   int LineCount() const { return lines_; }
 
- protected:
+protected:
   void OnOutputLine(const wxString& line) override { result_ += line; }
   void OnNewLine() override {
     result_ += '\n';
     ++lines_;
   }
 
- private:
+private:
   wxString result_;
   int lines_ = 1;
 };

@@ -6,7 +6,7 @@
 namespace veritane::platform {
 
 class WrappingText : public wxStaticText {
- public:
+public:
   explicit WrappingText(wxWindow* parent);
 
   // Shown as it is, blanks and "&" included.
@@ -14,7 +14,7 @@ class WrappingText : public wxStaticText {
   // The width to begin with, below which it is never squeezed.
   void SetLineWidth(int width);
 
- private:
+private:
   void Rewrap();
 
   wxString text_;

@@ -13,14 +13,17 @@ wxString ToWx(const std::string& text) {
   return {text.c_str(), wxCSConv(wxFONTENCODING_CP1252), text.size()};
 }
 
-std::string FromWx(const wxString& text) { return text.utf8_string(); }
+std::string FromWx(const wxString& text) {
+  return text.utf8_string();
+}
 
 bool HasAccessKey(const std::string& caption, wxUniChar letter) {
   const std::u32string characters = DecodeUtf8(caption);
   for (std::size_t i = 0; i + 1 < characters.size(); ++i) {
     if (characters[i] != U'&') continue;
     const char32_t next = characters[++i];
-    if (next != U'&' && wxToupper(static_cast<wxChar>(next)) == wxToupper(static_cast<wxChar>(letter.GetValue()))) {
+    if (next != U'&' &&
+        wxToupper(static_cast<wxChar>(next)) == wxToupper(static_cast<wxChar>(letter.GetValue()))) {
       return true;
     }
   }

@@ -45,11 +45,21 @@ def main():
 
 def parse_arguments():
     parser = argparse.ArgumentParser(description="Plays acceptance scripts and compares their events.")
-    parser.add_argument("--console", required=True, type=Path, help="the program veritane-console")
-    parser.add_argument("--setup", required=True, type=Path, help="the program veritane-setup")
-    parser.add_argument("--update", action="store_true", help="write the .expected files instead of comparing")
+    parser.add_argument("--console", required=True, type=program, help="the program veritane-console")
+    parser.add_argument("--setup", required=True, type=program, help="the program veritane-setup")
+    parser.add_argument("--update", action="store_true", help="write the .expected files")
     parser.add_argument("scripts", nargs="+", type=Path, metavar="SCRIPT")
     return parser.parse_args()
+
+
+def program(path):
+    return Path(path).absolute()
+
+
+def lines_of(text):
+    """Lines as the programs write them; other characters that Python takes for line ends stay inside."""
+    lines = [line.removesuffix("\r") for line in text.split("\n")]
+    return lines if lines[-1] else lines[:-1]
 
 
 def check(script, options):
@@ -63,7 +73,7 @@ def check(script, options):
             return True
         if not expected_file.exists():
             raise Failure(f"{expected_file} is missing; --update writes it.")
-        expected = expected_file.read_text(encoding="utf-8").splitlines()
+        expected = lines_of(expected_file.read_text(encoding="utf-8"))
     except (Failure, OSError) as failure:
         print(f"FAILED: {script}: {failure}")
         return False
@@ -96,7 +106,7 @@ def read_wishes(script):
     """The words of the script's "#!" comments, by their first word."""
     wishes = {"console": [], "root": [], "show": []}
     words_needed = {"root": 2, "show": 1}
-    for line in script.read_text(encoding="utf-8").splitlines():
+    for line in lines_of(script.read_text(encoding="utf-8")):
         if not line.startswith("#!"):
             continue
         lexer = shlex.shlex(line[2:], posix=True, punctuation_chars=False)
@@ -117,14 +127,14 @@ def run(command, allowed):
         done = subprocess.run(command, stdin=subprocess.DEVNULL, capture_output=True, env=environment,
                               timeout=TIME_LIMIT_SECONDS, check=False)
     except subprocess.TimeoutExpired as expired:
-        printed = (expired.stdout or b"").decode("utf-8", "replace").splitlines()
-        raise Failure("not done after %d s; last line: %s" %
-                      (TIME_LIMIT_SECONDS, printed[-1] if printed else "none")) from expired
+        printed = lines_of((expired.stdout or b"").decode("utf-8", "replace"))
+        last = printed[-1] if printed else "none"
+        raise Failure(f"not done after {TIME_LIMIT_SECONDS} s; last line: {last}") from expired
     if done.returncode not in allowed or done.stderr:
-        raise Failure("%s ended with status %d\n%s" %
-                      (shlex.join(command), done.returncode, done.stderr.decode("utf-8", "replace")))
+        complaint = done.stderr.decode("utf-8", "replace").rstrip() or "nothing"
+        raise Failure(f"{shlex.join(command)}\nended with {done.returncode}, on standard error: {complaint}")
     try:
-        return done.stdout.decode("utf-8").splitlines(), done.returncode
+        return lines_of(done.stdout.decode("utf-8")), done.returncode
     except UnicodeDecodeError as error:
         raise Failure(f"what was printed is not UTF-8: {error}") from error
 
@@ -160,7 +170,7 @@ def show(root, windows_path):
     file = in_root(root, windows_path)
     if not file.is_file():
         return [f"--- {windows_path}: no such file"]
-    return [f"--- {windows_path}"] + file.read_bytes().decode("utf-8", "backslashreplace").splitlines()
+    return [f"--- {windows_path}"] + lines_of(file.read_bytes().decode("utf-8", "backslashreplace"))
 
 
 def mask(line, root):

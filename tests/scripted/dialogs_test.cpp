@@ -167,5 +167,48 @@ TEST(LinesThatRunOut, UnwindThroughEveryDialogThatIsOpen) {
   EXPECT_TRUE(events.Last("form")["shown"]);
 }
 
+TEST(LinesThatRunOut, StopTheRunEvenWhenAHandlerCatchesEverything) {
+  SampleRun sample;
+  bool went_on = false;
+  sample.frmDialog.cmdAsk.OnClick = [&] {
+    try {
+      sample.run.Screen().ShowMessage({.text = "?", .title = "Box"});
+    } catch (...) {
+    }
+  };
+  sample.frmMain.cmdGo.OnClick = [&] {
+    sample.frmDialog.ShowModal();
+    went_on = true;
+  };
+  const Events events = sample.Lines({"click frmMain.cmdGo", "click frmDialog.cmdAsk"});
+  EXPECT_FALSE(went_on);
+  EXPECT_EQ(events.All().back()["reason"], "The script ended while the message box \"Box\" was open.");
+}
+
+TEST(LinesThatRunOut, AreNotAskedForAgain) {
+  int asked = 0;
+  std::vector<ordered_json> events;
+  ScriptedInterface screen(
+      [&]() -> std::optional<std::string> {
+        ++asked;
+        return asked == 2 ? std::nullopt : std::optional<std::string>("click frmMain.cmdGo");
+      },
+      [&](const ordered_json& event) { events.push_back(event); });
+  Desktop desktop(screen);
+  SampleMain frmMain(desktop);
+  frmMain.cmdGo.OnClick = [&] {
+    try {
+      desktop.ShowMessage({.text = "first", .title = ""});
+    } catch (...) {
+      desktop.ShowMessage({.text = "second", .title = ""});
+    }
+  };
+  const auto start = [&] { frmMain.Show(); };
+  EXPECT_EQ(screen.Run(desktop, {.start = start, .setInstrument = {}, .setClock = {}}), kExitStoppedOnError);
+  EXPECT_EQ(asked, 2);
+  ASSERT_EQ(events.size(), 2U);
+  EXPECT_EQ(events[0]["text"], "first");
+}
+
 }  // namespace
 }  // namespace veritane::platform

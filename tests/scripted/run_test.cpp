@@ -67,6 +67,14 @@ TEST(StartUp, AnErrorThereEndsTheRunWithStatusOne) {
   EXPECT_EQ(sample.run.Finish(), kExitStoppedOnError);
 }
 
+TEST(StartUp, ThatEndsTheProgramLeavesItsLineUndone) {
+  SampleRun sample;
+  sample.run.program.start = [&] { sample.run.Screen().End(0); };
+  const Events events = sample.Lines({"list"});
+  ASSERT_THAT(events.All(), SizeIs(1));
+  EXPECT_EQ(events.All()[0].dump(), R"({"event":"exit","status":0})");
+}
+
 TEST(Errors, InAHandlerShowOneBoxAndTheProgramGoesOn) {
   SampleRun sample;
   sample.frmMain.cmdGo.OnClick = [] { throw RunTimeError(11079, "Wrong accessory"); };
@@ -171,6 +179,16 @@ TEST(PanelsAndStatus, AreReportedWhenTheyChange) {
   EXPECT_EQ(panels[1].dump(), R"({"event":"panel","name":"fraResult","shown":true})");
   EXPECT_THAT(events.Statuses(), ElementsAre(" Scanning...", " Calculating..."));
   EXPECT_EQ(events.Last("print").dump(), R"({"event":"print","kind":"template","file":"C:\\out.pdf"})");
+}
+
+TEST(PanelsAndStatus, OfAFormThatDoesNotShowAreNoEvents) {
+  SampleRun sample;
+  sample.run.program.start = [&] {
+    sample.run.Screen().AttachForms();
+    sample.frmMain.fraStart.SetVisible(false);
+    sample.frmMain.Show();
+  };
+  EXPECT_THAT(sample.Lines({"start"}).Named("panel"), IsEmpty());
 }
 
 // The console itself: text in, text out.

@@ -1,5 +1,5 @@
-// The match quality that the program's correlation comparison would give, computed here by its formula alone so that
-// the instrument is not judged by the code that it feeds.
+// The match quality that the program's correlation comparison would give, computed here by its formula alone
+// so that the instrument is not judged by the code that it feeds.
 #pragma once
 
 #include <algorithm>

@@ -1,5 +1,5 @@
-// A simulated instrument on a workbench: its compartment's file in memory, time that only gets counted, and collections
-// as the program makes them.
+// A simulated instrument on a workbench: its compartment's file in memory, time that only gets counted, and
+// collections as the program makes them.
 #pragma once
 
 #include <map>
@@ -15,7 +15,7 @@ namespace veritane::simulator::instrument_tests {
 
 // Files in memory. With `failWrites` every write meets a full disk.
 class MemoryFiles : public platform::FileSystem {
- public:
+public:
   std::map<std::string, std::string> contents;
   bool failWrites = false;
   bool failReads = false;
@@ -37,12 +37,14 @@ class MemoryFiles : public platform::FileSystem {
   }
   void DeleteFile(const std::string&) override { throw std::logic_error("not used here"); }
   void MoveFile(const std::string&, const std::string&) override { throw std::logic_error("not used here"); }
-  platform::DateTime LastModified(const std::string&) const override { throw std::logic_error("not used here"); }
+  platform::DateTime LastModified(const std::string&) const override {
+    throw std::logic_error("not used here");
+  }
   std::vector<std::string> ListFiles(const std::string&) const override { return {}; }
 };
 
 class InstrumentRig {
- public:
+public:
   static constexpr const char* kPath = "C:\\Veritane\\compartment.txt";
 
   explicit InstrumentRig(CompartmentState state = Seeded(7)) { Put(state); }
@@ -89,18 +91,19 @@ class InstrumentRig {
   CollectMethodSettings method;
   std::chrono::milliseconds waited{0};
   std::map<std::string, StoredSpectrum> spectra;  // the files that can lie in the compartment
-  SimulatedInstrument instrument{
-      Compartment(files, kPath),
-      {.openSpectrum =
-           [this](const std::string& path) {
-             const auto found = spectra.find(path);
-             if (found == spectra.end()) throw platform::RunTimeError(platform::ErrorNumber::kFileNotFound, path);
-             return found->second;
-           },
-       .wait = [this](std::chrono::milliseconds time) { waited += time; },
-       .randomSeed = [this] { return ++random_; }}};
+  SimulatedInstrument instrument{Compartment(files, kPath),
+                                 {.openSpectrum =
+                                      [this](const std::string& path) {
+                                        const auto found = spectra.find(path);
+                                        if (found == spectra.end())
+                                          throw platform::RunTimeError(platform::ErrorNumber::kFileNotFound,
+                                                                       path);
+                                        return found->second;
+                                      },
+                                  .wait = [this](std::chrono::milliseconds time) { waited += time; },
+                                  .randomSeed = [this] { return ++random_; }}};
 
- private:
+private:
   std::uint64_t random_ = 1000;
 };
 

@@ -1,5 +1,5 @@
-// Prints the match quality of every material against every other, as Markdown: a Standard of each row's material
-// compared with a sample of each column's. Arguments: scans (16), noise (1), seed (7).
+// Prints the match quality of every material against every other, as Markdown: a Standard of each row's
+// material compared with a sample of each column's. Arguments: scans (16), noise (1), seed (7).
 #include <cstdio>
 #include <cstdlib>
 #include <string>
@@ -24,7 +24,8 @@ std::vector<std::vector<double>> CollectAll(InstrumentRig& rig) {
 }  // namespace
 
 int main(int count, char** arguments) {
-  CompartmentState state = InstrumentRig::Seeded(count > 3 ? static_cast<std::uint32_t>(std::atol(arguments[3])) : 7);
+  CompartmentState state =
+      InstrumentRig::Seeded(count > 3 ? static_cast<std::uint32_t>(std::atol(arguments[3])) : 7);
   if (count > 2) state.noise = std::atof(arguments[2]);
   InstrumentRig rig(state);
   if (count > 1) rig.method.scans = std::atoi(arguments[1]);
@@ -32,13 +33,15 @@ int main(int count, char** arguments) {
   const std::vector<std::vector<double>> standards = CollectAll(rig);
   const std::vector<std::vector<double>> samples = CollectAll(rig);
   std::printf("| Standard \\ sample |");
-  for (const Material& material : Materials().subspan(1)) std::printf(" %.12s |", std::string(material.key).c_str());
+  for (const Material& material : Materials().subspan(1))
+    std::printf(" %.12s |", std::string(material.key).c_str());
   std::printf("\n|---|");
   for (std::size_t i = 0; i < samples.size(); ++i) std::printf("---|");
   std::printf("\n");
   for (std::size_t i = 0; i < standards.size(); ++i) {
     std::printf("| %s |", std::string(Materials()[i + 1].key).c_str());
-    for (const std::vector<double>& sample : samples) std::printf(" %.2f |", MatchQuality(standards[i], sample));
+    for (const std::vector<double>& sample : samples)
+      std::printf(" %.2f |", MatchQuality(standards[i], sample));
     std::printf("\n");
   }
   return 0;

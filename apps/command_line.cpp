@@ -1,0 +1,26 @@
+// Reading command lines.
+#include "apps/command_line.h"
+
+namespace veritane::apps {
+
+CommandLine::CommandLine(int argument_count, char** arguments, const std::set<std::string>& options,
+                         std::size_t most_words) {
+  for (int i = 1; i < argument_count; ++i) {
+    const std::string argument = arguments[i];
+    if (!argument.starts_with("--")) {
+      words_.push_back(argument);
+      continue;
+    }
+    if (!options.contains(argument)) throw UsageError("there is no option " + argument);
+    if (i + 1 == argument_count) throw UsageError(argument + " needs a value");
+    options_[argument] = arguments[++i];
+  }
+  if (words_.size() > most_words) throw UsageError("\"" + words_[most_words] + "\" is one word too many");
+}
+
+std::optional<std::string> CommandLine::Option(const std::string& name) const {
+  const auto found = options_.find(name);
+  return found == options_.end() ? std::nullopt : std::optional(found->second);
+}
+
+}  // namespace veritane::apps

@@ -1,0 +1,34 @@
+// Assembling the simulated spectrometer.
+#include "apps/simulated_bench.h"
+
+#include <random>
+
+#include "platform/run_time_error.h"
+#include "simulator/simulated_spectrometer.h"
+#include "simulator/spectrum_file.h"
+
+namespace veritane::apps {
+
+SimulatedBench::SimulatedBench(platform::PosixMachine& machine,
+                               std::function<void(std::chrono::milliseconds)> wait)
+    : machine_(machine),
+      compartment_(machine.files, machine.paths.ToWindows(machine.paths.Root() / "compartment.txt")),
+      instrument_(
+          compartment_,
+          {.openSpectrum =
+               [&machine](const std::string& path) {
+                 return simulator::ReadSpectrumFile(path, machine.files.ReadBytes(path)).spectra.front();
+               },
+           .wait = std::move(wait),
+           .randomSeed = [] { return std::uint64_t{std::random_device{}()}; }}),
+      calls_(std::make_shared<simulator::CallLog>()) {}
+
+std::unique_ptr<acquisition::SpectrometerApp> SimulatedBench::Create(const std::string& prog_id) {
+  if (prog_id != "quillon.app.1") {
+    throw platform::RunTimeError(platform::ErrorNumber::kCannotCreateObject, prog_id);
+  }
+  return std::make_unique<simulator::SimulatedSpectrometer>(machine_.files, machine_.clock, instrument_,
+                                                            calls_);
+}
+
+}  // namespace veritane::apps

@@ -1,0 +1,34 @@
+// The simulated spectrometer as the programs use it: one instrument behind the automation object.
+#pragma once
+
+#include <functional>
+#include <memory>
+
+#include "acquisition/spectrometer_app.h"
+#include "platform/posix/posix_machine.h"
+#include "simulator/call_log.h"
+#include "simulator/compartment.h"
+#include "simulator/instrument.h"
+
+namespace veritane::apps {
+
+class SimulatedBench {
+public:
+  // `wait` lets the time of a measurement pass. The machine must outlive the bench, the bench whatever Create
+  // made.
+  SimulatedBench(platform::PosixMachine& machine, std::function<void(std::chrono::milliseconds)> wait);
+
+  // Creates the automation object of this name; error 429 for a name that is not the simulator's.
+  std::unique_ptr<acquisition::SpectrometerApp> Create(const std::string& prog_id);
+
+  simulator::Compartment& SampleCompartment() { return compartment_; }
+  simulator::CallLog& Calls() { return *calls_; }
+
+private:
+  platform::PosixMachine& machine_;
+  simulator::Compartment compartment_;
+  simulator::SimulatedInstrument instrument_;
+  std::shared_ptr<simulator::CallLog> calls_;
+};
+
+}  // namespace veritane::apps

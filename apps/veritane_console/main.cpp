@@ -1,0 +1,74 @@
+// veritane-console: the whole program without a window, driven by lines of text.
+#include <fstream>
+#include <iostream>
+#include <memory>
+#include <thread>
+
+#include "apps/command_line.h"
+#include "apps/simulated_bench.h"
+#include "apps/veritane_console/instrument_commands.h"
+#include "platform/run_time_error.h"
+#include "platform/scripted/scripted_interface.h"
+#include "shell/frm_veritane.h"
+
+namespace {
+
+using namespace veritane;
+
+constexpr const char* kUsage =
+    "usage: veritane-console [--root DIR] [--now ISO-TIME] [--locale NAME] [SCRIPT]\n"
+    "  --root DIR      the data root; drive C is its folder drive_c\n"
+    "  --now TIME      the time that the program sees, e.g. 2026-11-21T10:59:00\n"
+    "  --locale NAME   how dates and times are written, e.g. de_DE.UTF-8\n"
+    "  SCRIPT          a file of lines; without it they come from standard input\n";
+
+int Play(const apps::CommandLine& line, std::istream& script) {
+  const std::filesystem::path root = line.Option("--root").value_or(platform::DefaultRoot().string());
+  platform::PosixMachine machine(root, line.Option("--locale").value_or(""));
+  if (const auto now = line.Option("--now")) {
+    const auto moment = platform::ParseIsoDateTime(*now);
+    if (!moment) throw apps::UsageError("\"" + *now + "\" is no time");
+    machine.clock.Set(*moment);
+  }
+  apps::SimulatedBench bench(machine,
+                             [](std::chrono::milliseconds time) { std::this_thread::sleep_for(time); });
+  platform::ScriptedInterface screen(platform::LinesOf(script), platform::JsonLines(std::cout));
+  platform::Desktop desktop(screen);
+  std::unique_ptr<shell::FrmVeritane> program;
+  const int exit_status = screen.Run(
+      desktop,
+      {.start =
+           [&] {
+             program = std::make_unique<shell::FrmVeritane>(
+                 desktop, machine.Facilities(),
+                 [&](const std::string& prog_id) { return bench.Create(prog_id); });
+             program->Form_Load();
+           },
+       .setInstrument =
+           [&](const std::vector<std::string>& words) { return console::SetInstrument(bench, words); },
+       .setClock = [&](const platform::DateTime& now) { machine.clock.Set(now); }});
+  std::cout.flush();
+  if (!std::cout) throw std::runtime_error("the events could not be written");
+  return exit_status;
+}
+
+int Run(const apps::CommandLine& line) {
+  if (line.Words().empty()) return Play(line, std::cin);
+  std::ifstream script(line.Words()[0], std::ios::binary);
+  if (!script) throw apps::UsageError("the script " + line.Words()[0] + " cannot be opened");
+  return Play(line, script);
+}
+
+}  // namespace
+
+int main(int argument_count, char** arguments) {
+  try {
+    return Run(apps::CommandLine(argument_count, arguments, {"--root", "--now", "--locale"}, 1));
+  } catch (const apps::UsageError& error) {
+    std::cerr << "veritane-console: " << error.what() << '\n' << kUsage;
+    return 1;
+  } catch (const std::exception& error) {
+    std::cerr << "veritane-console: " << error.what() << '\n';
+    return 1;
+  }
+}

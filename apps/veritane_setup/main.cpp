@@ -1,0 +1,42 @@
+// veritane-setup: lays out the data folder as the installer does.
+#include <iostream>
+
+#include "apps/command_line.h"
+#include "apps/veritane_setup/data_layout.h"
+#include "platform/posix/posix_machine.h"
+#include "platform/run_time_error.h"
+
+namespace {
+
+constexpr const char* kUsage =
+    "usage: veritane-setup [--root DIR] [--mode measure|demo]\n"
+    "  --root DIR  the data root; drive C is its folder drive_c\n"
+    "  --mode      whether the program measures or shows stored spectra (unchanged without this option)\n";
+
+int SetUp(const veritane::apps::CommandLine& line) {
+  const std::string mode = line.Option("--mode").value_or("");
+  if (!mode.empty() && mode != "measure" && mode != "demo")
+    throw veritane::apps::UsageError("no mode \"" + mode + "\"");
+  const std::filesystem::path root =
+      line.Option("--root").value_or(veritane::platform::DefaultRoot().string());
+  std::filesystem::create_directories(root / "drive_c");
+  veritane::platform::PosixMachine machine(root, "");
+  const auto made = veritane::setup::LayOutData(machine.Facilities());
+  if (!made.empty()) std::cout << "Laid out " << made.size() << " files in " << root.string() << '\n';
+  if (!mode.empty()) veritane::setup::SetDemonstrationMode(machine.Facilities(), mode == "demo");
+  return 0;
+}
+
+}  // namespace
+
+int main(int argument_count, char** arguments) {
+  try {
+    return SetUp(veritane::apps::CommandLine(argument_count, arguments, {"--root", "--mode"}, 0));
+  } catch (const veritane::apps::UsageError& error) {
+    std::cerr << "veritane-setup: " << error.what() << '\n' << kUsage;
+    return 2;
+  } catch (const std::exception& error) {
+    std::cerr << "veritane-setup: " << error.what() << '\n';
+    return 1;
+  }
+}

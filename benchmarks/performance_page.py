@@ -1,0 +1,82 @@
+#!/usr/bin/python3
+"""Writes docs/performance.md from the results of the benchmarks and of numpy_comparison.py.
+
+    performance_page.py BENCHMARKS.json NUMPY.json COMPILER PAGE
+"""
+import json
+import pathlib
+import platform
+import sys
+
+ROWS = {
+    "EuclideanComparisonWithPreparation": "Euclidean comparison with preparation of the sample, 3,601 points",
+    "FourierComparisonWithPreparation": "Fourier comparison of two transforms of 3,601 points",
+    "WriteDocumentOf50Spectra": "Document of 50 spectra of 3,601 points as text",
+    "ReadDocumentOf50Spectra": "The same document read back",
+    "LoadProductTableOf10000Rows": "Product table of 10,000 rows",
+    "FindLastOf10000Products": "The last of these products looked up",
+}
+NANOSECONDS = {"ns": 1, "us": 1e3, "ms": 1e6, "s": 1e9}
+
+
+def time_text(nanoseconds):
+    """A time with three digits and its unit."""
+    for unit, size in (("ms", 1e6), ("µs", 1e3)):
+        if nanoseconds >= size:
+            return f"{nanoseconds / size:.3g} {unit}"
+    return f"{nanoseconds:.3g} ns"
+
+
+def processor():
+    """The processor's name as the system gives it."""
+    for line in pathlib.Path("/proc/cpuinfo").read_text().splitlines():
+        if line.startswith("model name"):
+            return line.split(":", 1)[1].strip()
+    return platform.processor()
+
+
+def main():
+    benchmarks = json.loads(pathlib.Path(sys.argv[1]).read_text())
+    numpy = json.loads(pathlib.Path(sys.argv[2]).read_text())
+    compiler, page = sys.argv[3], pathlib.Path(sys.argv[4])
+
+    times, qualities = {}, set()
+    for run in benchmarks["benchmarks"]:
+        if run.get("error_occurred"):
+            sys.exit(f"{run['run_name']}: {run['error_message']}")
+        if run["run_type"] == "iteration":
+            times.setdefault(run["run_name"], []).append(run["cpu_time"] * NANOSECONDS[run["time_unit"]])
+            if "quality" in run:
+                qualities.add(round(run["quality"], 2))
+    if qualities != {numpy["quality"]}:
+        sys.exit(f"the comparisons disagree: {qualities} and {numpy['quality']}")
+    if times.keys() != ROWS.keys():
+        sys.exit(f"benchmarks and page disagree: {sorted(times.keys() ^ ROWS.keys())}")
+
+    context = benchmarks["context"]
+    lines = [
+        "# Performance", "",
+        "Written by `benchmarks/run_benchmarks.sh`; run it again to renew the figures.", "",
+        f"- Machine: {processor()}, {context['num_cpus']} processors, {platform.system()} {platform.machine()}",
+        f"- Compiler: {compiler}, preset \"benchmark\" (`-O3`, strict floating-point arithmetic)",
+        f"- Date: {context['date'][:10]}; load average at the start: {context['load_avg'][0]:.2f}", "",
+        "| | median | best |", "|---|---:|---:|",
+    ]
+    for name, title in ROWS.items():
+        runs = sorted(times[name])
+        lines.append(f"| {title} | {time_text(runs[len(runs) // 2])} | {time_text(runs[0])} |")
+    lines.append(f"| The same Euclidean comparison in numpy {numpy['numpy']} | {time_text(numpy['median_ns'])} | "
+                 f"{time_text(numpy['best_ns'])} |")
+    euclidean = sorted(times["EuclideanComparisonWithPreparation"])
+    lines += [
+        "",
+        f"Both Euclidean comparisons copy the sample, fit and subtract its baseline, normalise it, apply two null "
+        f"regions and correlate it with the Standard; both find {numpy['quality']} %. The program takes "
+        f"{euclidean[0] / numpy['best_ns']:.2f} of numpy's time (best runs).", "",
+        "Times are processor time over repetitions of one run each; documents and tables are in memory.", "",
+    ]
+    page.write_text("\n".join(lines), encoding="utf-8")
+
+
+if __name__ == "__main__":
+    main()

@@ -1,0 +1,208 @@
+// Forms as windows: making them, showing and hiding, and their place on the screen.
+#include "platform/wx/form_window.h"
+
+#include <wx/dialog.h>
+#include <wx/frame.h>
+#include <wx/gauge.h>
+#include <wx/panel.h>
+
+#include <map>
+
+#include "platform/controls.h"
+#include "platform/wx/layout_parts.h"
+#include "platform/wx/layouts.h"
+#include "platform/wx/wx_text.h"
+
+namespace veritane::platform {
+
+namespace {
+
+wxTopLevelWindow* MakeWindow(const Form& form, bool is_status, wxWindow* main_window) {
+  const wxString title = ToWx(form.Caption());
+  if (main_window == nullptr) return new wxFrame(nullptr, wxID_ANY, title);
+  if (is_status) {
+    // No close button, and no place in the task bar: it comes and goes with the work.
+    return new wxFrame(main_window, wxID_ANY, title, wxDefaultPosition, wxDefaultSize,
+                       wxCAPTION | wxFRAME_FLOAT_ON_PARENT | wxFRAME_NO_TASKBAR);
+  }
+  return new wxDialog(main_window, wxID_ANY, title, wxDefaultPosition, wxDefaultSize,
+                      wxDEFAULT_DIALOG_STYLE | wxRESIZE_BORDER);
+}
+
+// Tab goes through the controls in the form's order, whatever order the layout made them in.
+void OrderTabs(const std::vector<std::shared_ptr<ControlView>>& views) {
+  std::map<wxWindow*, wxWindow*> last_of_parent;
+  for (const auto& view : views) {
+    wxWindow* window = view->Window();
+    wxWindow*& last = last_of_parent[window->GetParent()];
+    if (last != nullptr) window->MoveAfterInTabOrder(last);
+    last = window;
+  }
+}
+
+}  // namespace
+
+FormWindow::FormWindow(Form& form, ActionGate& gate, wxWindow* main_window)
+    : form_(form),
+      gate_(gate),
+      is_main_(main_window == nullptr),
+      is_status_(form.Name() == "frmStatus"),
+      window_(MakeWindow(form, is_status_, main_window)),
+      root_(new wxPanel(window_)),
+      alive_(std::make_shared<FormWindow*>(this)) {
+  window_->SetName(ToWx(form.Name()));
+  BuildControls();
+  window_->Bind(wxEVT_CLOSE_WINDOW, &FormWindow::OnClose, this);
+  window_->Bind(wxEVT_CHILD_FOCUS, &FormWindow::OnChildFocus, this);
+  window_->Bind(wxEVT_CHAR_HOOK, &FormWindow::OnCharHook, this);
+  form_.Watch([weak = std::weak_ptr(alive_)](Form::Change change) {
+    if (const auto alive = weak.lock()) (*alive)->Follow(change);
+  });
+  if (form_.Shown()) Follow(Form::Change::kShown);
+}
+
+FormWindow::~FormWindow() {
+  // The views go before their widgets, so that nothing follows a widget that is gone.
+  is_built_ = false;
+  views_.clear();
+  window_->Destroy();
+}
+
+void FormWindow::BuildControls() {
+  FormBuilder builder(form_, *this);
+  wxSizer* sizer = LayoutOf(form_.Name())(builder, root_);
+  AppendRemaining(builder, sizer);
+  gauge_ = builder.Gauge();
+  views_ = builder.TakeViews();
+  root_->SetSizer(sizer);
+  auto* whole = new wxBoxSizer(wxVERTICAL);
+  whole->Add(root_, wxSizerFlags(1).Expand());
+  window_->SetSizer(whole);
+  OrderTabs(views_);
+  FollowPanels();
+  is_built_ = true;
+  FitToContent();
+}
+
+// What no layout knows of is still there to be used.
+void FormWindow::AppendRemaining(FormBuilder& builder, wxSizer* sizer) {
+  for (const Control* control : builder.Remaining()) {
+    if (control->Kind() == ControlKind::kFrame || control->Kind() == ControlKind::kTabs) continue;
+    sizer->Add(builder.Add(control->Name(), root_), wxSizerFlags().Expand().Border(wxALL, Gap(root_)));
+  }
+}
+
+// The keyboard goes to a panel when it comes to the front.
+void FormWindow::FollowPanels() {
+  for (const auto& view : views_) {
+    Control& control = view->Model();
+    if (control.Kind() != ControlKind::kFrame || control.EnclosingFrame() != nullptr) continue;
+    control.Watch([this, &control, weak = std::weak_ptr(alive_)](Property property) {
+      if (weak.expired() || property != Property::kVisible || !control.Visible()) return;
+      FocusFirst(&control);
+    });
+  }
+}
+
+void FormWindow::FitToContent() {
+  // No window may be smaller than what all its panels need, so that switching panels clips nothing.
+  std::vector<wxWindow*> hidden;
+  for (wxWindow* child : root_->GetChildren()) {
+    if (!child->IsShown()) hidden.push_back(child);
+  }
+  wxSize needed = root_->GetSizer()->CalcMin();
+  if (is_main_) {
+    for (wxWindow* child : root_->GetChildren()) needed.IncTo(child->GetSizer()->CalcMin());
+  }
+  window_->SetMinClientSize(needed);
+  wxSize size = needed;
+  if (is_main_) size.IncTo({FormBuilder::Columns(root_, 110), FormBuilder::Line(root_) * 42});
+  window_->SetClientSize(size);
+  window_->Layout();
+}
+
+bool FormWindow::Perform(const std::function<void()>& action) {
+  if (ControlView* view = FocusedView()) view->BringUpToDate();
+  return gate_.Perform(form_, action);
+}
+
+void FormWindow::Arrange() {
+  if (!is_built_ || is_arranging_) return;
+  is_arranging_ = true;
+  // Several captions often change together; they are arranged once.
+  window_->CallAfter([this, weak = std::weak_ptr(alive_)] {
+    if (weak.expired()) return;
+    is_arranging_ = false;
+    const wxSize needed = root_->GetSizer()->CalcMin();
+    wxSize least = window_->GetMinClientSize();
+    least.IncTo(needed);
+    if (least != window_->GetMinClientSize()) {
+      window_->SetMinClientSize(least);
+      wxSize size = window_->GetClientSize();
+      size.IncTo(least);
+      if (size != window_->GetClientSize()) window_->SetClientSize(size);
+    }
+    root_->Layout();
+    window_->Layout();
+    for (const auto& view : views_) {
+      if (view->Window()->GetSizer() != nullptr) view->Window()->Layout();
+    }
+  });
+}
+
+void FormWindow::Follow(Form::Change change) {
+  switch (change) {
+    case Form::Change::kCaption:
+      window_->SetTitle(ToWx(form_.Caption()));
+      break;
+    case Form::Change::kShown:
+      Appear();
+      break;
+    case Form::Change::kHidden:
+      EndModal();
+      window_->Hide();
+      break;
+  }
+}
+
+void FormWindow::Appear() {
+  if (is_main_) {
+    window_->CentreOnScreen();
+    window_->Show();
+    FocusFirst(nullptr);
+    return;
+  }
+  window_->CentreOnParent();
+  if (is_status_) {
+    window_->ShowWithoutActivating();
+    return;
+  }
+  FocusFirst(nullptr);
+  // A modal form begins to run later, but is on screen while it is being prepared.
+  window_->Show();
+  window_->Raise();
+}
+
+void FormWindow::RunModal() {
+  auto* dialog = dynamic_cast<wxDialog*>(window_);
+  if (dialog == nullptr || !form_.Shown()) return;
+  const ActionGate::NestedLoop loop(gate_, ActionGate::Allow::kForms);
+  dialog->ShowModal();
+}
+
+void FormWindow::EndModal() {
+  auto* dialog = dynamic_cast<wxDialog*>(window_);
+  if (dialog != nullptr && dialog->IsModal()) dialog->EndModal(wxID_CANCEL);
+}
+
+void FormWindow::Pulse() {
+  if (gauge_ != nullptr && window_->IsShown()) gauge_->Pulse();
+}
+
+void FormWindow::OnClose(wxCloseEvent& event) {
+  // The form decides; the window goes when the form hides.
+  if (event.CanVeto()) event.Veto();
+  Perform([this] { form_.Close(); });
+}
+
+}  // namespace veritane::platform

@@ -1,0 +1,125 @@
+// The window's side of the program: forms, boxes, pointer, end.
+#include "platform/wx/wx_user_interface.h"
+
+#include <wx/app.h>
+#include <wx/cursor.h>
+#include <wx/evtloop.h>
+#include <wx/filedlg.h>
+#include <wx/utils.h>
+
+#include <algorithm>
+#include <cstdio>
+
+#include "platform/form.h"
+#include "platform/run_time_error.h"
+#include "platform/wx/file_filter.h"
+#include "platform/wx/form_window.h"
+#include "platform/wx/message_dialog.h"
+#include "platform/wx/wx_text.h"
+
+namespace veritane::platform {
+
+WxUserInterface::WxUserInterface(PathMapping paths) : paths_(std::move(paths)) {}
+
+WxUserInterface::~WxUserInterface() {
+  // Dialogs go before the window that they lie over.
+  while (!windows_.empty()) windows_.pop_back();
+}
+
+void WxUserInterface::Attach(Form& form) {
+  windows_.push_back(std::make_unique<FormWindow>(form, gate_, MainWindow()));
+}
+
+wxWindow* WxUserInterface::MainWindow() const {
+  return windows_.empty() ? nullptr : windows_.front()->Window();
+}
+
+wxWindow* WxUserInterface::FrontWindow() const {
+  for (auto window = windows_.rbegin(); window != windows_.rend(); ++window) {
+    const Form& form = (*window)->Model();
+    if (form.Shown() && form.Modal() && !form.Screen().IsBlocked(form)) return (*window)->Window();
+  }
+  wxWindow* main = MainWindow();
+  return main != nullptr && main->IsShown() ? main : nullptr;
+}
+
+FormWindow* WxUserInterface::WindowOf(const Form& form) const {
+  const auto found = std::find_if(windows_.begin(), windows_.end(),
+                                  [&form](const auto& window) { return &window->Model() == &form; });
+  return found == windows_.end() ? nullptr : found->get();
+}
+
+void WxUserInterface::RunModal(Form& form) {
+  FormWindow* window = WindowOf(form);
+  if (window == nullptr || ended_) return;
+  window->RunModal();
+}
+
+MessageAnswer WxUserInterface::ShowMessage(const Message& message) {
+  if (ended_) return MessageDialog::QuietAnswer(message.buttons);
+  const ActionGate::NestedLoop loop(gate_, ActionGate::Allow::kBoxOnly);
+  MessageDialog dialog(FrontWindow(), message);
+  open_boxes_.push_back(&dialog);
+  dialog.ShowModal();
+  open_boxes_.pop_back();
+  return dialog.Answer();
+}
+
+std::optional<std::string> WxUserInterface::ChooseFile(const FileChoice& choice) {
+  if (ended_) return std::nullopt;
+  const ActionGate::NestedLoop loop(gate_, ActionGate::Allow::kBoxOnly);
+  const std::string folder = choice.folder.empty() ? "" : paths_.toNative(choice.folder);
+  wxFileDialog dialog(FrontWindow(), ToWx(choice.title), ToWx(folder), "", ToWx(NativeFilter(choice.filter)),
+                      wxFD_OPEN | wxFD_FILE_MUST_EXIST);
+  open_boxes_.push_back(&dialog);
+  const int answer = dialog.ShowModal();
+  open_boxes_.pop_back();
+  if (answer != wxID_OK || ended_) return std::nullopt;
+  return paths_.toWindows(FromWx(dialog.GetPath()));
+}
+
+void WxUserInterface::ShowPointer(Pointer pointer) {
+  const bool is_hourglass = pointer == Pointer::kHourglass;
+  if (is_hourglass != is_hourglass_) {
+    is_hourglass_ = is_hourglass;
+    if (is_hourglass) {
+      wxBeginBusyCursor();
+    } else {
+      wxEndBusyCursor();
+    }
+  }
+  if (is_hourglass) return;
+  // The crosshair belongs to the chart, wherever it lies.
+  wxWindow* main = MainWindow();
+  wxWindow* chart = main == nullptr ? nullptr : wxWindow::FindWindowByName("chart", main);
+  if (chart != nullptr)
+    chart->SetCursor(pointer == Pointer::kCrosshair ? wxCursor(wxCURSOR_CROSS) : wxNullCursor);
+}
+
+void WxUserInterface::ProcessPendingEvents() {
+  for (const auto& window : windows_) window->Pulse();
+  gate_.ProcessPendingEvents();
+}
+
+void WxUserInterface::NoteError(const RunTimeError& error) {
+  std::fprintf(stderr, "Veritane: run-time error %d: %s\n", error.Number(), error.what());
+}
+
+void WxUserInterface::End(int exit_status) {
+  if (ended_) return;
+  ended_ = true;
+  exit_status_ = exit_status;
+  for (wxDialog* box : open_boxes_) {
+    if (box->IsModal()) box->EndModal(wxID_CANCEL);
+  }
+  for (const auto& window : windows_) window->EndModal();
+  if (wxEventLoopBase* loop = wxTheApp->GetMainLoop()) {
+    if (loop->IsInsideRun()) loop->ScheduleExit(exit_status);
+  }
+}
+
+void WxUserInterface::RunStart(const std::function<void()>& start) {
+  gate_.RunStart(start, [this](int status) { End(status); });
+}
+
+}  // namespace veritane::platform

@@ -1,0 +1,54 @@
+// The substitute Spectrometer application in process: documents on files, measurements by a device that is
+// handed in.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "acquisition/spectrometer_app.h"
+#include "simulator/call_log.h"
+#include "simulator/measuring.h"
+#include "simulator/simulated_document.h"
+
+namespace veritane::simulator {
+
+// The error of every call after QuitApplication.
+inline constexpr int kServerGone = 462;
+
+class SimulatedSpectrometer : public acquisition::SpectrometerApp {
+public:
+  // All references outlive the application and its documents. `calls` may be shared with whoever reads it.
+  SimulatedSpectrometer(platform::FileSystem& files, platform::Clock& clock, MeasuringDevice& device,
+                        std::shared_ptr<CallLog> calls = std::make_shared<CallLog>());
+
+  // How the client waits; nothing in process ever waits for a busy server. Not an operation of the log.
+  void SetWaiting(const acquisition::AutomationWaiting& waiting) override;
+  void Interactive(bool interactive) override;
+  std::shared_ptr<acquisition::Document> OpenDocument(const std::string& path) override;
+  std::shared_ptr<acquisition::Document> NewDocument(const std::string& path) override;
+  std::shared_ptr<acquisition::CollectMethod> LoadCollectMethod(const std::string& path) override;
+  // The document opened or created last that is still open; error 5 when there is none.
+  std::shared_ptr<acquisition::Document> ActiveDocument() override;
+  void BeginPrint() override;
+  // Closes what is open without saving.
+  void QuitApplication() override;
+
+  // Receives the progress of collections and alignments, 0 to 1.
+  void OnProgress(std::function<void(double fraction)> progress);
+  // The operations called since the last taking, e.g. "OpenDocument(C:\…)".
+  std::vector<std::string> TakeCalls() { return around_->calls->Take(); }
+  bool IsInteractive() const { return interactive_; }
+
+private:
+  void RequireRunning() const;
+  void Remember(const std::shared_ptr<SimulatedDocument>& document);
+
+  std::shared_ptr<DocumentSurroundings> around_;
+  std::vector<std::shared_ptr<SimulatedDocument>> documents_;
+  bool interactive_ = true;
+  bool running_ = true;
+};
+
+}  // namespace veritane::simulator

@@ -1,0 +1,97 @@
+// The compartment's file.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "tests/simulator/instrument_rig.h"
+#include "tests/support/errors.h"
+
+namespace veritane::simulator::instrument_tests {
+namespace {
+
+constexpr const char* kPath = InstrumentRig::kPath;
+
+TEST(Compartment, WithoutAFileIsEmptyAndQuiet) {
+  MemoryFiles files;
+  EXPECT_EQ(Compartment(files, kPath).Read(), CompartmentState{});
+  EXPECT_EQ(Compartment(files, kPath).TakeFault(), 0);
+  EXPECT_TRUE(files.contents.empty());
+}
+
+TEST(Compartment, IsReadAsWritten) {
+  MemoryFiles files;
+  CompartmentState state;
+  state.sample = "Z:\\spectra\\film = 3.jdx";
+  state.accessory = "ATR";
+  state.fault = 70000;
+  state.faultCount = 3;
+  state.noise = 2.5;
+  state.duration = 0;
+  state.seed = 4294967295U;
+  Compartment(files, kPath).Write(state);
+  EXPECT_EQ(Compartment(files, kPath).Read(), state);
+  state.seed.reset();
+  Compartment(files, kPath).Write(state);
+  EXPECT_EQ(Compartment(files, kPath).Read(), state);
+}
+
+TEST(Compartment, TakesHandWrittenFiles) {
+  MemoryFiles files;
+  files.contents[kPath] = "# by hand\nsample = Aspirin\nSEED=RANDOM\nNoise =\nColour = green";
+  const CompartmentState state = Compartment(files, kPath).Read();
+  EXPECT_EQ(state.sample, "Aspirin");
+  EXPECT_EQ(state.seed, std::nullopt);
+  EXPECT_EQ(state.noise, 1);
+}
+
+TEST(Compartment, AFaultIsTakenAsOftenAsItsCount) {
+  MemoryFiles files;
+  CompartmentState state;
+  state.sample = "caffeine";
+  state.fault = 5;
+  state.faultCount = 2;
+  Compartment(files, kPath).Write(state);
+  // Each call is a program of its own that looks at the same file.
+  EXPECT_EQ(Compartment(files, kPath).TakeFault(), 5);
+  EXPECT_EQ(Compartment(files, kPath).Read().faultCount, 1);
+  EXPECT_EQ(Compartment(files, kPath).TakeFault(), 5);
+  EXPECT_EQ(Compartment(files, kPath).TakeFault(), 0);
+  EXPECT_EQ(Compartment(files, kPath).Read().sample, "caffeine");
+}
+
+TEST(Compartment, AFaultThatCannotBeCountedIsNotTaken) {
+  MemoryFiles files;
+  CompartmentState state;
+  state.fault = 5;
+  state.faultCount = 2;
+  Compartment compartment(files, kPath);
+  compartment.Write(state);
+  files.failWrites = true;
+  EXPECT_EQ(tests::ErrorOf([&] { compartment.TakeFault(); }), 61);
+  EXPECT_EQ(compartment.Read(), state);
+}
+
+TEST(Compartment, ValuesThatMakeNoSenseAreNamedWithFileAndLine) {
+  MemoryFiles files;
+  for (const char* line : {"Noise = much", "Noise = -1", "Duration = 1.5", "Duration = -1", "Fault = x",
+                           "FaultCount = -1", "Seed = 1e12", "Seed = none", "just words"}) {
+    files.contents[kPath] = std::string("Sample = caffeine\r\n") + line + "\r\n";
+    try {
+      Compartment(files, kPath).Read();
+      ADD_FAILURE() << "was read: " << line;
+    } catch (const platform::RunTimeError& error) {
+      EXPECT_THAT(error.what(),
+                  ::testing::AllOf(::testing::HasSubstr(kPath), ::testing::HasSubstr("line 2")));
+    }
+  }
+}
+
+TEST(Compartment, ANameOfSeveralLinesIsRefused) {
+  MemoryFiles files;
+  CompartmentState state;
+  state.sample = "empty\r\nFault = 5";
+  EXPECT_EQ(tests::ErrorOf([&] { Compartment(files, kPath).Write(state); }), 5);
+  EXPECT_TRUE(files.contents.empty());
+}
+
+}  // namespace
+}  // namespace veritane::simulator::instrument_tests
