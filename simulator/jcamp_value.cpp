@@ -1,6 +1,7 @@
 // Parameters and times in labels.
 #include "simulator/jcamp_value.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -177,10 +178,16 @@ std::string PlainLine(std::string_view text) {
 }
 
 bool IsLongDate(std::string_view text) {
-  return text.size() == 19 && text[4] == '/' && text[7] == '/' && text[10] == ' ' &&
-         platform::ParseIsoDateTime(std::string(text.substr(0, 4)) + "-" + std::string(text.substr(5, 2)) +
-                                    "-" + std::string(text.substr(8, 2)) + "T" + std::string(text.substr(11)))
-             .has_value();
+  constexpr std::string_view kForm = "0000/00/00 00:00:00";
+  const bool fits = text.size() == kForm.size() &&
+                    std::equal(text.begin(), text.end(), kForm.begin(), [](char c, char form) {
+                      return form == '0' ? c >= '0' && c <= '9' : c == form;
+                    });
+  if (!fits) return false;
+  std::string iso(text);
+  iso[4] = iso[7] = '-';
+  iso[10] = 'T';
+  return platform::ParseIsoDateTime(iso).has_value();
 }
 
 std::string TimeFromLongDate(std::string_view long_date) {

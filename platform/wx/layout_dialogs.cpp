@@ -120,8 +120,6 @@ wxSizer* LayOutSelectSpectrum(FormBuilder& builder, wxWindow* root) {
 wxSizer* LayOutResults(FormBuilder& builder, wxWindow* root) {
   auto* content = new wxBoxSizer(wxVERTICAL);
   wxWindow* text = builder.Add("txtResults", root);
-  // Reports are tables of blanks and digits.
-  text->SetFont(wxFont(wxFontInfo(text->GetFont().GetFractionalPointSize()).Family(wxFONTFAMILY_TELETYPE)));
   text->SetMinSize({FormBuilder::Columns(root, 80), FormBuilder::Line(root) * 22});
   content->Add(text, wxSizerFlags(1).Expand());
   return Dialog(root, content, ButtonRow(root, {builder.Add("cmdPrint", root)}));

@@ -111,6 +111,10 @@ TextBoxView::TextBoxView(TextBox& box, ViewOwner& owner, wxWindow* parent)
     : TypedTextView(box, owner),
       widget_(new wxTextCtrl(parent, wxID_ANY, "", wxDefaultPosition, wxDefaultSize, StyleOf(box))),
       keeps_enter_(box.isMultiLine && !box.isReadOnly) {
+  // Reports are tables of blanks and digits. The font comes before the text: GTK cannot change it safely afterwards.
+  if (box.isMultiLine && box.isReadOnly) {
+    widget_->SetFont(wxFont(wxFontInfo(widget_->GetFont().GetFractionalPointSize()).Family(wxFONTFAMILY_TELETYPE)));
+  }
   BindTo(widget_, widget_);
 }
 

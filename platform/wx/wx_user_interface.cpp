@@ -113,9 +113,7 @@ void WxUserInterface::End(int exit_status) {
     if (box->IsModal()) box->EndModal(wxID_CANCEL);
   }
   for (const auto& window : windows_) window->EndModal();
-  if (wxEventLoopBase* loop = wxTheApp->GetMainLoop()) {
-    if (loop->IsInsideRun()) loop->ScheduleExit(exit_status);
-  }
+  if (wxEventLoopBase* loop = wxTheApp->GetMainLoop()) loop->ScheduleExit(exit_status);
 }
 
 void WxUserInterface::RunStart(const std::function<void()>& start) {

@@ -1,6 +1,8 @@
 // Small JCAMP-DX texts for the tests of the reader.
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <string>
 #include <vector>
 
@@ -16,22 +18,23 @@ struct SampleBlock {
   std::string points = "4";
   std::string xFactor = "1";
   std::string yFactor = "1";
-  std::string more;  // further labels
+  std::string more = "";  // further labels
   std::string table = "(X++(Y..Y))\n1 10 20 30 40\n";
   std::string label = "XYDATA";
 
   std::string Text() const {
     return "##TITLE= " + title + "\n##JCAMP-DX= 4.24\n##DATA TYPE= INFRARED SPECTRUM\n##XUNITS= 1/CM\n" +
-           "##YUNITS= ABSORBANCE\n##XFACTOR= " + xFactor + "\n##YFACTOR= " + yFactor + "\n##FIRSTX= " + firstX +
-           "\n##LASTX= " + lastX + "\n##NPOINTS= " + points + "\n" + more + "##" + label + "= " + table +
-           "##END=\n";
+           "##YUNITS= ABSORBANCE\n##XFACTOR= " + xFactor + "\n##YFACTOR= " + yFactor +
+           "\n##FIRSTX= " + firstX + "\n##LASTX= " + lastX + "\n##NPOINTS= " + points + "\n" + more + "##" +
+           label + "= " + table + "##END=\n";
   }
 };
 
 // The only spectrum of a text.
 inline JcampSpectrum OnlySpectrum(const std::string& text) {
-  JcampFile file = ReadJcamp(text);
-  return file.spectra.size() == 1 ? file.spectra.front() : JcampSpectrum{.title = "not one spectrum"};
+  const JcampFile file = ReadJcamp(text);
+  EXPECT_EQ(file.spectra.size(), 1u);
+  return file.spectra.front();
 }
 
 // The ordinates of `lines` as a table of (X++(Y..Y)) from 1 in steps of 1, without scaling.

@@ -4,6 +4,7 @@
 // form_gallery FOLDER    (needs a display, and the program "import" of ImageMagick)
 #include <wx/app.h>
 #include <wx/dialog.h>
+#include <wx/timer.h>
 #include <wx/utils.h>
 
 #include <cmath>
@@ -290,10 +291,12 @@ class Gallery {
   }
 
   void ShowMessage(const std::string& name, const platform::Message& message) {
-    wxTheApp->CallAfter([this, name] {
+    wxTimer photographer;
+    photographer.Bind(wxEVT_TIMER, [this, name](wxTimerEvent&) {
       Save(name);
       if (auto* box = dynamic_cast<wxDialog*>(wxWindow::FindWindowByName("message"))) box->EndModal(wxID_OK);
     });
+    photographer.StartOnce(300);
     desktop_.ShowMessage(message);
   }
 

@@ -1,0 +1,100 @@
+// Setting up the program for the tests.
+#include "tests/shell/program_fixture.h"
+
+#include <cmath>
+#include <fstream>
+#include <iterator>
+
+#include "simulator/jcamp_writer.h"
+#include "simulator/stored_spectrum.h"
+
+namespace veritane::tests {
+
+namespace fs = std::filesystem;
+
+ProgramTest::ProgramTest() {
+  const fs::path drive = folder_.Path() / "drive_c";
+  fs::create_directories(drive / "ProgramData" / "Kestrova" / "Veritane" / "Standards");
+  fs::create_directories(drive / "ProgramData" / "Kestrova" / "Veritane" / "Samples");
+  fs::create_directories(drive / "Program");
+  machine_.clock.Set({.year = 2026, .month = 11, .day = 21, .hour = 10, .minute = 59, .second = 0});
+  Write(Data("Meths.tbl"), " 1 \r\n" + Standard("Disc.clm") + "\r\n");
+  WriteProducts({"ASPIRIN-1,Disc,Euclidean,"});
+  run_.program.start = [this] {
+    const platform::Machine machine{.files = machine_.files,
+                                    .registry = machine_.registry,
+                                    .folders = folders_,
+                                    .user = machine_.user,
+                                    .clock = machine_.clock,
+                                    .regional = machine_.regional};
+    program_ = std::make_unique<shell::FrmVeritane>(
+        run_.Screen(), machine, [this](const std::string& prog_id) { return bench_.Create(prog_id); });
+    program_->Form_Load();
+  };
+  run_.program.setClock = [this](const platform::DateTime& now) { machine_.clock.Set(now); };
+}
+
+void ProgramTest::WriteSettings(bool demonstration, const std::string& threshold,
+                                const std::string& background) {
+  Write(Data("settings.ini"), std::string(demonstration ? "1" : "0") + "\r\n0\r\n\r\n" + background +
+                                  "\r\n0\r\n" + threshold + "\r\n0\r\n\r\n1\r\n1\r\n");
+}
+
+void ProgramTest::WriteProducts(const std::vector<std::string>& rows) {
+  std::string text = " " + std::to_string(rows.size()) + " \r\n";
+  for (const std::string& row : rows) text += row + "\r\n";
+  Write(Data("Meth.tbl"), text);
+}
+
+void ProgramTest::WriteSpectrum(const std::string& path, std::int32_t lower, double spacing,
+                                std::vector<double> values) {
+  simulator::StoredSpectrum spectrum;
+  spectrum.name = "stored";
+  spectrum.spacing = spacing;
+  spectrum.ordinates = {.lower = lower, .values = std::move(values)};
+  const simulator::StoredSpectrum* const only = &spectrum;
+  Write(path, simulator::WriteJcamp({&only, 1}));
+}
+
+void ProgramTest::WriteSpectra(const std::string& path, int count, std::vector<double> values) {
+  simulator::StoredSpectrum spectrum;
+  spectrum.name = "stored";
+  spectrum.spacing = 4;
+  spectrum.ordinates = {.lower = 100, .values = std::move(values)};
+  const std::vector<const simulator::StoredSpectrum*> all(static_cast<std::size_t>(count), &spectrum);
+  Write(path, simulator::WriteJcamp(all));
+}
+
+void ProgramTest::CopyTestData(const std::string& name, const std::string& path) {
+  std::ifstream file(fs::path(VERITANE_TEST_DATA) / name, std::ios::binary);
+  ASSERT_TRUE(file) << name;
+  Write(path, std::string(std::istreambuf_iterator<char>(file), {}));
+}
+
+ProgramTest::Steps ProgramTest::EnterSample(const std::string& product, const std::string& name,
+                                            const std::string& operator_name) {
+  return {"click frmVeritane.cmdSample", "set frmSamp.cmbStandards \"" + product + "\"",
+          "type frmSamp.txtSampName \"" + name + "\"",
+          "type frmSamp.txtOperatorName \"" + operator_name + "\"", "click frmSamp.cmdProductIDOkay"};
+}
+
+platform::Events ProgramTest::RunDemonstration(const std::string& product, const std::string& name) {
+  Steps steps = EnterSample(product, name);
+  // The background is announced, shown as done, and the sample is asked for.
+  for (int box = 0; box < 3; ++box) steps.push_back("answer OK");
+  return Play(std::move(steps));
+}
+
+std::vector<double> Bands(std::size_t points, double shift) {
+  std::vector<double> values(points);
+  for (std::size_t i = 0; i < points; ++i) {
+    const double x = static_cast<double>(i);
+    const auto band = [x](double centre, double width, double height) {
+      return height / (1 + std::pow((x - centre) / width, 2));
+    };
+    values[i] = band(60 + shift, 6, 1) + band(150 + shift, 9, 0.6) + band(260 - shift, 5, 0.8) + 0.0005 * x;
+  }
+  return values;
+}
+
+}  // namespace veritane::tests

@@ -1,0 +1,83 @@
+// The whole program on a data folder of its own, played from lines: what a laboratory has before it, without
+// a window.
+#pragma once
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "apps/simulated_bench.h"
+#include "platform/posix/posix_machine.h"
+#include "platform/scripted/script_run.h"
+#include "shell/frm_veritane.h"
+#include "tests/support/temporary_folder.h"
+
+namespace veritane::tests {
+
+// Folders as the tests want them: the program's own folder lies below the data root too.
+class TestFolders : public platform::ShellFolders {
+public:
+  std::string CommonApplicationData(bool create) const override {
+    return commonDataMissing && !create ? "" : "C:\\ProgramData";
+  }
+  std::string ProgramFolder() const override { return "C:\\Program"; }
+
+  bool commonDataMissing = false;
+};
+
+class ProgramTest : public ::testing::Test {
+protected:
+  using Steps = std::vector<platform::ScriptRun::Step>;
+
+  // Lays out an empty data folder: both tables with one method and the products given, no settings.
+  ProgramTest();
+
+  // Windows paths.
+  static std::string Data(const std::string& leaf) { return "C:\\ProgramData\\Kestrova\\Veritane\\" + leaf; }
+  static std::string Standard(const std::string& leaf) { return Data("Standards\\" + leaf); }
+  static std::string Sample(const std::string& leaf) { return Data("Samples\\" + leaf); }
+
+  void Write(const std::string& path, const std::string& text) { machine_.files.WriteBytes(path, text); }
+  std::string Read(const std::string& path) const { return machine_.files.ReadBytes(path); }
+  bool Exists(const std::string& path) const { return machine_.files.FileExists(path); }
+
+  // Ten lines of settings; the threshold and whether the program demonstrates.
+  void WriteSettings(bool demonstration, const std::string& threshold = "90",
+                     const std::string& background = "1");
+  // The product table with these rows ("ID,method,algorithm,file").
+  void WriteProducts(const std::vector<std::string>& rows);
+  // A spectrum file with the given ordinates from point `lower` on.
+  void WriteSpectrum(const std::string& path, std::int32_t lower, double spacing, std::vector<double> values);
+  // The same, several spectra alike.
+  void WriteSpectra(const std::string& path, int count, std::vector<double> values);
+  // A data file of the tests under another name.
+  void CopyTestData(const std::string& name, const std::string& path);
+
+  // Starts the program with the machine as it is and plays the steps.
+  platform::Events Play(Steps steps) { return run_.Lines(std::move(steps)); }
+  // The steps of one sample of a product, up to and with the OK of the dialog.
+  static Steps EnterSample(const std::string& product, const std::string& name = "Lot 7",
+                           const std::string& operator_name = "Ann");
+  // A sample in demonstration mode, all boxes answered.
+  platform::Events RunDemonstration(const std::string& product, const std::string& name = "Lot 7");
+
+  std::string Caption(const std::string& control) { return run_.Get(control)["caption"]; }
+  std::string Verdict() { return run_.Get("frmVeritane.chart")["labels"][platform::Chart::kVerdictLabel]; }
+  bool IsVisible(const std::string& control) { return run_.Get(control)["visible"]; }
+  std::vector<std::string> Calls() { return bench_.Calls().Take(); }
+
+  TemporaryFolder folder_;
+  platform::PosixMachine machine_{folder_.Path(), "C"};
+  TestFolders folders_;
+  apps::SimulatedBench bench_{machine_, [](std::chrono::milliseconds) {}};
+  platform::ScriptRun run_;
+  std::unique_ptr<shell::FrmVeritane> program_;
+};
+
+// A spectrum with some bands on a slope: nothing about it is symmetric or flat.
+std::vector<double> Bands(std::size_t points, double shift = 0);
+
+}  // namespace veritane::tests
