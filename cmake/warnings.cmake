@@ -2,5 +2,5 @@
 option(VERITANE_WERROR "Warnings are errors" ON)
 
 add_library(veritane_warnings INTERFACE)
-target_compile_options(veritane_warnings INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wshadow
+target_compile_options(veritane_warnings INTERFACE -Wno-restrict -Wall -Wextra -Wpedantic -Wconversion -Wshadow
                        $<$<BOOL:${VERITANE_WERROR}>:-Werror>)

@@ -101,11 +101,13 @@ private:
     surface_.EndClip();
   }
 
+  // All lines first: a text stays readable where the line to a text above it passes by.
   void PaintMarkers() {
     for (const PlacedMarker& marker : layout_.markers) {
       surface_.Line({marker.x, marker.top}, {marker.x, bottom_}, hair_ * 1.2, kMarkerLine);
+    }
+    for (const PlacedMarker& marker : layout_.markers) {
       if (marker.text.text.empty()) continue;
-      // White behind the text keeps it readable where leader lines of texts above pass by.
       const double height = unit_ * 0.9;
       const TextSize size = surface_.Measure(marker.text.text, height, TextWeight::kNormal);
       surface_.FillRectangle(marker.text.at, size.width, size.height, kPaper);

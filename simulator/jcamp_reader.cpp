@@ -148,6 +148,8 @@ private:
 }  // namespace
 
 JcampFile ReadJcamp(std::string_view text) {
+  constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+  if (text.starts_with(kByteOrderMark)) text.remove_prefix(kByteOrderMark.size());
   return FileReader(text).Read();
 }
 

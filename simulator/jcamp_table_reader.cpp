@@ -137,7 +137,8 @@ double JcampTableReader::Number() {
   const char* const start = *at_ == '+' ? at_ + 1 : at_;
   double value = 0;
   const auto [stop, error] = std::from_chars(start, end_, value, std::chars_format::fixed);
-  if (stop == start || !(IsDigit(*start) || *start == '-' || *start == '.')) {
+  const bool signed_twice = *at_ == '+' && start < end_ && *start == '-';
+  if (stop == start || signed_twice || !(IsDigit(*start) || *start == '-' || *start == '.')) {
     Refuse("this is no number");
   }
   if (stop < end_ && ((*stop == ',' && CommaIsDecimal()) || (IsExponentMark(*stop) && IsExponent(stop)))) {

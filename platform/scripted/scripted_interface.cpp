@@ -17,9 +17,10 @@ namespace {
 
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
-// The line of the status window is reported by itself.
-constexpr std::string_view kStatusForm = "frmStatus";
-constexpr std::string_view kStatusLabel = "lblStatus";
+// The line of the status window is reported by itself, each time it comes on screen and when it changes
+// there.
+const std::string kStatusForm = "frmStatus";
+const std::string kStatusLabel = "lblStatus";
 
 }  // namespace
 
@@ -130,9 +131,14 @@ void ScriptedInterface::NotePrint(const std::string& kind, const std::string& fi
   Emit({{"event", "print"}, {"kind", kind}, {"file", file}});
 }
 
+void ScriptedInterface::EmitStatus(const Control& label) {
+  Emit({{"event", "status"}, {"text", label.Caption()}});
+}
+
 void ScriptedInterface::Attach(Form& form) {
   form.Watch([this, &form](Form::Change change) {
     if (change != Form::Change::kCaption) Emit(FormEvent(form));
+    if (change == Form::Change::kShown && form.Name() == kStatusForm) EmitStatus(*form.Find(kStatusLabel));
   });
   for (Control* control : form.Controls()) {
     if (control->Kind() == ControlKind::kFrame && control->EnclosingFrame() == nullptr) {
@@ -143,8 +149,7 @@ void ScriptedInterface::Attach(Form& form) {
     }
     if (form.Name() == kStatusForm && control->Name() == kStatusLabel) {
       control->Watch([this, control](Property property) {
-        if (property != Property::kCaption) return;
-        Emit({{"event", "status"}, {"text", control->Caption()}});
+        if (property == Property::kCaption && control->Owner().Shown()) EmitStatus(*control);
       });
     }
   }

@@ -92,6 +92,7 @@ private:
   static const std::vector<Command>& Commands();
 
   void Emit(const nlohmann::ordered_json& event);
+  void EmitStatus(const Control& label);
   void Stop(const std::string& reason);
   // Plays a line while a dialog is on screen; unwinds when there is none left to answer it.
   void PlayForDialog(const std::string& dialog);

@@ -35,11 +35,11 @@ void Yield() {
 }
 
 bool IsInput(const wxEvent& event) {
-  static const std::array kInputs = {
-      wxEventType(wxEVT_KEY_DOWN),    wxEventType(wxEVT_CHAR),         wxEventType(wxEVT_CHAR_HOOK),
-      wxEventType(wxEVT_LEFT_DOWN),   wxEventType(wxEVT_LEFT_DCLICK),  wxEventType(wxEVT_RIGHT_DOWN),
-      wxEventType(wxEVT_MIDDLE_DOWN), wxEventType(wxEVT_RIGHT_DCLICK), wxEventType(wxEVT_MIDDLE_DCLICK),
-      wxEventType(wxEVT_MOUSEWHEEL)};
+  static const std::array kInputs = {wxEventType(wxEVT_KEY_DOWN),      wxEventType(wxEVT_CHAR),
+                                     wxEventType(wxEVT_CHAR_HOOK),     wxEventType(wxEVT_LEFT_DOWN),
+                                     wxEventType(wxEVT_LEFT_DCLICK),   wxEventType(wxEVT_RIGHT_DOWN),
+                                     wxEventType(wxEVT_MIDDLE_DOWN),   wxEventType(wxEVT_RIGHT_DCLICK),
+                                     wxEventType(wxEVT_MIDDLE_DCLICK), wxEventType(wxEVT_MOUSEWHEEL)};
   return std::find(kInputs.begin(), kInputs.end(), event.GetEventType()) != kInputs.end();
 }
 

@@ -28,6 +28,8 @@ void ControlView::Follow(Property property) {
       break;
     case Property::kVisible:
       window_->Show(control_.Visible());
+      // What appears gets its place at once; the toolkit complains about windows without a size.
+      window_->GetParent()->Layout();
       owner_.Arrange();
       break;
     case Property::kFocus:

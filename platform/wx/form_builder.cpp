@@ -108,7 +108,6 @@ wxWindow* FormBuilder::AddConfirmedList(const std::string& name, wxWindow* paren
 wxStaticBoxSizer* FormBuilder::AddGroup(const std::string& name, wxWindow* parent) {
   auto& frame = dynamic_cast<Frame&>(Find(name));
   auto* sizer = new wxStaticBoxSizer(wxVERTICAL, parent, "");
-  sizer->GetStaticBox()->SetOwnFont(parent->GetFont().Bold());
   Keep(std::make_shared<FrameView>(frame, owner_, nullptr), sizer->GetStaticBox());
   return sizer;
 }

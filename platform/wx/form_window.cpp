@@ -105,14 +105,10 @@ void FormWindow::FollowPanels() {
 }
 
 void FormWindow::FitToContent() {
-  // No window may be smaller than what all its panels need, so that switching panels clips nothing.
-  std::vector<wxWindow*> hidden;
-  for (wxWindow* child : root_->GetChildren()) {
-    if (!child->IsShown()) hidden.push_back(child);
-  }
+  // The window is never smaller than what its panels need, shown or hidden, so that switching them clips nothing.
   wxSize needed = root_->GetSizer()->CalcMin();
-  if (is_main_) {
-    for (wxWindow* child : root_->GetChildren()) needed.IncTo(child->GetSizer()->CalcMin());
+  for (const wxWindow* child : root_->GetChildren()) {
+    if (wxSizer* sizer = child->GetSizer()) needed.IncTo(sizer->CalcMin());
   }
   window_->SetMinClientSize(needed);
   wxSize size = needed;
@@ -144,9 +140,6 @@ void FormWindow::Arrange() {
     }
     root_->Layout();
     window_->Layout();
-    for (const auto& view : views_) {
-      if (view->Window()->GetSizer() != nullptr) view->Window()->Layout();
-    }
   });
 }
 

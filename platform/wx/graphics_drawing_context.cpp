@@ -12,9 +12,6 @@ namespace veritane::platform {
 
 namespace {
 
-// The letters' size in a line of text of height 1.
-constexpr double kLetterSize = 0.86;
-
 wxColour ToWx(Colour colour) {
   return {colour.red, colour.green, colour.blue, colour.alpha};
 }
@@ -31,7 +28,7 @@ GraphicsDrawingContext::GraphicsDrawingContext(wxGraphicsContext& graphics, doub
 
 void GraphicsDrawingContext::UseFont(double height, TextWeight weight, Colour colour) const {
   const int flags = weight == TextWeight::kBold ? wxFONTFLAG_BOLD : wxFONTFLAG_DEFAULT;
-  graphics_.SetFont(graphics_.CreateFont(height * kLetterSize, face_, flags, ToWx(colour)));
+  graphics_.SetFont(graphics_.CreateFont(height, face_, flags, ToWx(colour)));
 }
 
 void GraphicsDrawingContext::UsePen(double width, Colour colour) {

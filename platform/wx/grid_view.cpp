@@ -93,6 +93,10 @@ GridView::GridView(Grid& grid, ViewOwner& owner, wxWindow* parent)
   widget_->SetCellHighlightPenWidth(0);
   widget_->SetTabBehaviour(wxGrid::Tab_Leave);
   widget_->SetGridLineColour(wxSystemSettings::GetColour(wxSYS_COLOUR_3DLIGHT));
+  widget_->Bind(wxEVT_SIZE, [this](wxSizeEvent& event) {
+    event.Skip();
+    widget_->CallAfter([this] { StretchLastColumn(); });
+  });
   widget_->Bind(wxEVT_GRID_SELECT_CELL, &GridView::OnSelectCell, this);
 }
 
@@ -138,8 +142,20 @@ void GridView::FitColumns() {
     int width = dc.GetTextExtent(widget_->GetColLabelValue(column)).x;
     dc.SetFont(widget_->GetDefaultCellFont());
     for (std::size_t i = 0; i < measured; ++i) width = std::max(width, dc.GetTextExtent(ToWx(texts[i])).x);
-    widget_->SetColSize(column, std::max(width + margin, margin * 5));
+    last_column_width_ = std::max(width + margin, margin * 5);
+    widget_->SetColSize(column, last_column_width_);
   }
+  StretchLastColumn();
+}
+
+void GridView::StretchLastColumn() {
+  const int last = widget_->GetNumberCols() - 1;
+  if (last < 0) return;
+  int others = 0;
+  for (int column = 0; column < last; ++column) others += widget_->GetColSize(column);
+  const int left_over = widget_->GetGridWindow()->GetClientSize().x - others;
+  const int width = std::max(last_column_width_, left_over);
+  if (width != widget_->GetColSize(last)) widget_->SetColSize(last, width);
 }
 
 void GridView::Follow(Property property) {

@@ -22,11 +22,14 @@ private:
   void ShowCells();
   void ShowCurrentRow();
   void FitColumns();
+  void StretchLastColumn();
   void OnSelectCell(wxGridEvent& event);
 
   Grid& grid_;
   wxGrid* widget_;
   wxGridTableBase* table_;
+  // What the last column needs; it takes the width that is left over as well.
+  int last_column_width_ = 0;
   // Cells often change many at once; the widget catches up when the change is over.
   bool is_catching_up_ = false;
   // The widget's selection is being moved by the program.

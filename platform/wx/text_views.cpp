@@ -66,17 +66,30 @@ void TypedTextView::ShowText() {
   if (!box_.isMultiLine) entry_->SetInsertionPointEnd();
 }
 
+void TypedTextView::ShowState() {
+  ShowText();
+  ShowHighlight();
+}
+
+void TypedTextView::ShowHighlight() {
+  const long begin = PositionOf(box_.HighlightStart());
+  const long end = PositionOf(box_.HighlightStart() + box_.HighlightLength());
+  long shown_begin = 0;
+  long shown_end = 0;
+  entry_->GetSelection(&shown_begin, &shown_end);
+  if (begin != shown_begin || end != shown_end) entry_->SetSelection(begin, end);
+}
+
 void TypedTextView::Follow(Property property) {
   if (property == Property::kHighlight) {
-    const long begin = PositionOf(box_.HighlightStart());
-    const long end = PositionOf(box_.HighlightStart() + box_.HighlightLength());
-    long shown_begin = 0;
-    long shown_end = 0;
-    entry_->GetSelection(&shown_begin, &shown_end);
-    if (begin != shown_begin || end != shown_end) entry_->SetSelection(begin, end);
-    return;
+    ShowHighlight();
+  } else if (property == Property::kText) {
+    ShowText();
+  } else if (property == Property::kItems || property == Property::kCaption) {
+    ShowState();
+  } else {
+    ControlView::Follow(property);
   }
-  ControlView::Follow(property);
 }
 
 void TypedTextView::BringUpToDate() {
@@ -111,9 +124,11 @@ TextBoxView::TextBoxView(TextBox& box, ViewOwner& owner, wxWindow* parent)
     : TypedTextView(box, owner),
       widget_(new wxTextCtrl(parent, wxID_ANY, "", wxDefaultPosition, wxDefaultSize, StyleOf(box))),
       keeps_enter_(box.isMultiLine && !box.isReadOnly) {
-  // Reports are tables of blanks and digits. The font comes before the text: GTK cannot change it safely afterwards.
+  // Reports are tables of blanks and digits. The font comes before the text: GTK cannot change it safely
+  // afterwards.
   if (box.isMultiLine && box.isReadOnly) {
-    widget_->SetFont(wxFont(wxFontInfo(widget_->GetFont().GetFractionalPointSize()).Family(wxFONTFAMILY_TELETYPE)));
+    widget_->SetFont(
+        wxFont(wxFontInfo(widget_->GetFont().GetFractionalPointSize()).Family(wxFONTFAMILY_TELETYPE)));
   }
   BindTo(widget_, widget_);
 }
@@ -140,13 +155,8 @@ void EditableComboView::ShowState() {
 }
 
 void EditableComboView::Follow(Property property) {
-  // The text follows of itself; setting the selection would raise nothing but also show nothing new.
-  if (property == Property::kSelected) return;
-  if (property == Property::kText) {
-    ShowText();
-  } else {
-    TypedTextView::Follow(property);
-  }
+  // The text follows of itself; the selection shows nothing beside it.
+  if (property != Property::kSelected) TypedTextView::Follow(property);
 }
 
 }  // namespace veritane::platform

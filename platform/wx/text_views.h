@@ -20,9 +20,10 @@ public:
 protected:
   // `entry` is the text side of `widget`.
   void BindTo(wxWindow* widget, wxTextEntry* entry);
-  void ShowState() override { ShowText(); }
+  void ShowState() override;
   void Follow(Property property) override;
   void ShowText();
+  void ShowHighlight();
   virtual void PassText(const std::string& text) { box_.SetText(text); }
   wxTextEntry* Entry() const { return entry_; }
 

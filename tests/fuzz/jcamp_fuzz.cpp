@@ -1,5 +1,5 @@
-// Feeds arbitrary bytes to the reader of spectrum files. What it opens must be whole and must survive saving and
-// reading again to the last bit; what it refuses must be refused with a RunTimeError.
+// Feeds arbitrary bytes to the reader of spectrum files. What it opens must be whole and must survive saving
+// and reading again to the last bit; what it refuses must be refused with a RunTimeError.
 #include <cstdint>
 #include <cstdlib>
 #include <string_view>

@@ -33,6 +33,14 @@ TEST(MaterialMatrix, EveryMaterialMatchesItselfAndNoOther) {
   }
 }
 
+TEST(MaterialMatrix, AnEmptyCompartmentMatchesNothing) {
+  InstrumentRig rig;
+  const std::vector<double> nothing = rig.Absorbance("empty");
+  for (const Material& material : Materials().subspan(1)) {
+    EXPECT_LT(MatchQuality(rig.Absorbance(std::string(material.key)), nothing), 70) << material.key;
+  }
+}
+
 double SelfMatch(int scans, double noise, const std::string& sample = "paracetamol") {
   CompartmentState state = InstrumentRig::Seeded(3);
   InstrumentRig rig(state);

@@ -23,7 +23,9 @@ public:
   bool FileExists(const std::string& path) const override { return contents.count(path) > 0; }
   std::string ReadBytes(const std::string& path) const override {
     if (failReads) throw platform::RunTimeError(platform::ErrorNumber::kPermissionDenied, path);
-    return contents.at(path);
+    const auto found = contents.find(path);
+    if (found == contents.end()) throw platform::RunTimeError(platform::ErrorNumber::kFileNotFound, path);
+    return found->second;
   }
   void WriteBytes(const std::string& path, std::string_view bytes) override {
     if (failWrites) throw platform::RunTimeError(platform::ErrorNumber::kDiskFull, path);

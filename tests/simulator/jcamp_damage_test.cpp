@@ -40,8 +40,8 @@ SampleBlock LongBlock() {
 }
 
 TEST(JcampDamage, AFaultNamesTheLineAndQuotesIt) {
-  EXPECT_THAT(TableFault("1 10 20\n3 3x0 40\n"), AllOf(HasSubstr("line 12: "), HasSubstr("\"3 3x0 40\"")));
-  EXPECT_THAT(TableFault("1 10 20\r\n3 30 4!\r\n"), AllOf(HasSubstr("line 12: "), HasSubstr("\"3 30 4!\"")));
+  EXPECT_THAT(TableFault("1 10 20\n3 3x0 40\n"), AllOf(HasSubstr("line 13: "), HasSubstr("\"3 3x0 40\"")));
+  EXPECT_THAT(TableFault("1 10 20\r\n3 30 4!\r\n"), AllOf(HasSubstr("line 13: "), HasSubstr("\"3 30 4!\"")));
 }
 
 TEST(JcampDamage, WhatNoFormAllowsIsRefused) {
@@ -50,7 +50,7 @@ TEST(JcampDamage, WhatNoFormAllowsIsRefused) {
   EXPECT_THAT(TableFault("1A0TT\n"), HasSubstr("a repetition without anything"));
   EXPECT_THAT(TableFault("1A0\n2T\n"), HasSubstr("a repetition without anything"));
   EXPECT_THAT(TableFault("1\n"), HasSubstr("a line without ordinates"));
-  EXPECT_THAT(TableFault("1 +-10\n"), HasSubstr("a number"));
+  EXPECT_THAT(TableFault("1 +-10\n"), HasSubstr("no number"));
   EXPECT_THAT(TableFault("1 1e999\n"), HasSubstr("cannot be held"));
   EXPECT_THAT(TableFault(""), HasSubstr("the table is empty"));
 }

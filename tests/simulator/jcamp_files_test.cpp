@@ -2,6 +2,8 @@
 // the tables with a regular expression and added whole numbers, scaled in decimal arithmetic.
 #include <gmock/gmock.h>
 
+#include <algorithm>
+#include <cmath>
 #include <fstream>
 #include <iterator>
 #include <numeric>

@@ -120,6 +120,10 @@ TEST(JcampForms, ValuesMayRunOverSeveralLinesAndMayBeLatin1) {
   EXPECT_EQ(spectrum.parameters, (std::vector<NamedValue>{{"URL", "http://x"}}));
 }
 
+TEST(JcampForms, AByteOrderMarkIsNoPartOfTheFirstLabel) {
+  EXPECT_EQ(OnlySpectrum("\xEF\xBB\xBF" + SampleBlock().Text()).title, "sample");
+}
+
 TEST(JcampForms, DatesBecomeOneTime) {
   const auto time_of = [](const std::string& labels) {
     SampleBlock block;
@@ -130,6 +134,8 @@ TEST(JcampForms, DatesBecomeOneTime) {
   EXPECT_EQ(time_of("##LONGDATE= 2001/02/03 04:05:06.1234 -0500\n"), "2001/02/03 04:05:06");
   EXPECT_EQ(time_of("##DATE= 97/01/28\n##TIME= 10:00:00\n"), "1997/01/28 10:00:00");
   EXPECT_EQ(time_of("##DATE= 28 Jan 1997\n##TIME= 10.00\n"), "28 Jan 1997 10.00");
+  EXPECT_EQ(time_of("##DATE= 98/02/28\n##TIME= 10:00:0\x87\n"), "1998/02/28 10:00:0\xE2\x80\xA1")
+      << "a damaged second is no second";
   EXPECT_EQ(time_of(""), "");
 }
 
@@ -176,6 +182,8 @@ TEST(JcampForms, ACompoundFileOpensWhatCanBeShownAndSaysWhatCannot) {
   EXPECT_THAT(file.leftOut[1], HasSubstr("missing points"));
   EXPECT_THAT(AllWarnings(file.spectra[0]), HasSubstr("\"holes\""));
   EXPECT_THAT(FaultOf(peaks), HasSubstr("PEAK TABLE"));
+  EXPECT_THAT(FaultOf(peaks.substr(peaks.find("##PEAK"))), HasSubstr("PEAK TABLE"))
+      << "also without its TITLE";
   EXPECT_THAT(FaultOf(holes.Text()), HasSubstr("missing points"));
 }
 

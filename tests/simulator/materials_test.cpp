@@ -49,7 +49,7 @@ TEST_P(Peaks, LieWhereTheLiteratureHasThem) {
 INSTANTIATE_TEST_SUITE_P(
     Published, Peaks,
     ::testing::Values(
-        // Certified values of the wavenumber standard SRM 1921 (polystyrene film).
+        // The wavenumbers of polystyrene film that serve to calibrate instruments.
         PublishedPeaks{"polystyrene",
                        1.5,
                        {539.8, 841.9, 906.6, 1028.3, 1069.1, 1154.5, 1583.0, 1601.2, 2850.1, 3001.4, 3026.4,

@@ -1,5 +1,5 @@
-// Shows every form of the program with sample data, one after the other, and saves a picture of each: to look at,
-// after a change of the layouts. Not a test.
+// Shows every form of the program with sample data, one after the other, and saves a picture of each: to look
+// at, after a change of the layouts. Not a test.
 //
 // form_gallery FOLDER    (needs a display, and the program "import" of ImageMagick)
 #include <wx/app.h>
@@ -35,7 +35,7 @@ using platform::Form;
 
 // Forms of rooms that the gallery does not link.
 class PasswordForm : public Form {
- public:
+public:
   explicit PasswordForm(Desktop& desktop) : Form(desktop, "frmPassword") {
     SetCaption("Password");
     lblPassword.SetCaption(" Enter Password");
@@ -49,7 +49,7 @@ class PasswordForm : public Form {
 };
 
 class PredictionForm : public Form {
- public:
+public:
   explicit PredictionForm(Desktop& desktop) : Form(desktop, "MainForm") {
     SetCaption("Prediction");
     lblCalFileName.SetCaption("C:\\ProgramData\\Veritane\\Standards\\moisture in tablets.cal");
@@ -98,7 +98,8 @@ const std::map<std::string, std::string> kMainCaptions = {
     {"cmdCollectStdNow", "Collect &Standard Spectrum No&w"},
     {"lblThreshold", "Pass/Fail Threshold (0-100%)"},
     {"cmdParse", "De&fine Product ID/Barcode Identifier"},
-    {"lblPrintTemplate", "C:\\ProgramData\\Veritane\\Templates\\Laboratory report with chart and signature.bpt"},
+    {"lblPrintTemplate",
+     "C:\\ProgramData\\Veritane\\Templates\\Laboratory report with chart and signature.bpt"},
     {"fraReprocess", "Reprocess"},
     {"cmdStandard", "Sele&ct Standard"},
     {"lblStdName", "C:\\ProgramData\\Veritane\\Standards\\R&D\\Paracetamol 500 mg.bsp"},
@@ -117,7 +118,8 @@ const std::map<std::string, std::string> kMainCaptions = {
     {"cmdExit", "E&xit"},
     {"lblReadout", "1685.2,0.9312"},
     {"lblResult",
-     "Sample Name: Lot 4711-B, drum 3 of 12  97.35%.  Saturday November 21 2026 at 10:59:00  Operator= Maria Lindqvist"},
+     "Sample Name: Lot 4711-B, drum 3 of 12  97.35%.  Saturday November 21 2026 at 10:59:00  Operator= Maria "
+     "Lindqvist"},
 };
 
 // A spectrum of some bands with a little noise.
@@ -125,9 +127,15 @@ ChartSeries Spectrum(const std::string& title, double shift, double scale) {
   ChartSeries series{.title = title, .x = {}, .y = {}};
   for (double wavenumber = 400; wavenumber <= 4000; wavenumber += 0.125) {
     double value = 0.03 + 0.00002 * (wavenumber - 400);
-    for (const auto& [centre, width, height] :
-         {std::tuple{698.0, 6.0, 0.9}, {757.0, 8.0, 0.7}, {1028.0, 9.0, 0.3}, {1452.0, 9.0, 0.55}, {1493.0, 7.0, 0.6},
-          {1601.0, 6.0, 0.4}, {2849.0, 16.0, 0.4}, {2922.0, 22.0, 0.75}, {3026.0, 14.0, 0.6}}) {
+    for (const auto& [centre, width, height] : {std::tuple{698.0, 6.0, 0.9},
+                                                {757.0, 8.0, 0.7},
+                                                {1028.0, 9.0, 0.3},
+                                                {1452.0, 9.0, 0.55},
+                                                {1493.0, 7.0, 0.6},
+                                                {1601.0, 6.0, 0.4},
+                                                {2849.0, 16.0, 0.4},
+                                                {2922.0, 22.0, 0.75},
+                                                {3026.0, 14.0, 0.6}}) {
       const double distance = (wavenumber - centre - shift) / width;
       value += height * scale / (1 + distance * distance);
     }
@@ -146,13 +154,14 @@ void FillChart(platform::Chart& chart) {
   chart.SetY({-0.08, 1.1});
   chart.SetY2({-0.08, 1.1});
   chart.SetTitles("Wavenumber (cm⁻¹)", "Absorbance (normalised)");
-  chart.SetHeader({"Standard: Paracetamol 500 mg, collected Friday November 20 2026", "Collect method: Tablet ATR"});
+  chart.SetHeader(
+      {"Standard: Paracetamol 500 mg, collected Friday November 20 2026", "Collect method: Tablet ATR"});
   chart.SetLabel(platform::Chart::kVerdictLabel, "PASS");
   chart.SetVerdictColour(platform::VerdictColour::kPass);
 }
 
 class Gallery {
- public:
+public:
   Gallery(platform::WxUserInterface& ui, std::filesystem::path folder)
       : ui_(ui), folder_(std::move(folder)), desktop_(ui), main_(desktop_) {
     CaptionMain();
@@ -168,23 +177,25 @@ class Gallery {
       Save(form->Name());
       form->Hide();
     }
-    ShowMessage("message_ok", {" Ready for Sample. Please put the tablet on the crystal and press it down."
-                               " Click OK to scan Sample.",
-                               " Notice", platform::MessageIcon::kExclamation, platform::MessageButtons::kOk});
+    ShowMessage("message_ok",
+                {" Ready for Sample. Please put the tablet on the crystal and press it down."
+                 " Click OK to scan Sample.",
+                 " Notice", platform::MessageIcon::kExclamation, platform::MessageButtons::kOk});
     ShowMessage("message_yes_no",
-                {"Are you sure you want to delete R&D 7? Standard spectra, Sample spectra, and Histogram file will be "
+                {"Are you sure you want to delete R&D 7? Standard spectra, Sample spectra, and Histogram "
+                 "file will be "
                  "deleted.",
                  "Delete Row...", platform::MessageIcon::kQuestion, platform::MessageButtons::kYesNo});
     ShowMessage("message_short", {" Access Denied", " Notice", platform::MessageIcon::kCritical});
     desktop_.End(0);
   }
 
- private:
+private:
   void CaptionMain() {
     main_.SetCaption("Veritane 1.0.0");
     for (const auto& [name, caption] : kMainCaptions) main_.Find(name)->SetCaption(caption);
-    const char* tabs[] = {"Securit&y",   "&Background",     "Collect Meth&ods", "S&tandards",
-                          "Opt&ions",    "&Reprocess Data", "Expert &Mode"};
+    const char* tabs[] = {"Securit&y", "&Background",     "Collect Meth&ods", "S&tandards",
+                          "Opt&ions",  "&Reprocess Data", "Expert &Mode"};
     for (int page = 0; page < shell::kTabCount; ++page) main_.SSTab1.SetPageCaption(page, tabs[page]);
     main_.optNoPassword.Check();
     main_.optBackInterval.Check();
@@ -257,12 +268,15 @@ class Gallery {
     prompts_.cmdOK.SetCaption("O&K");
     parse_.SetCaption("Define Product ID/Barcode Identifier");
     parse_.lblInstruction.SetCaption(
-        "Type in representative Product ID or scan in a representative Barcode. Use the mouse to hilight that portion "
-        "of the Product ID that identifies the general product type (ie. ignore date fields, batch number fields etc.)");
+        "Type in representative Product ID or scan in a representative Barcode. Use the mouse to hilight "
+        "that portion "
+        "of the Product ID that identifies the general product type (ie. ignore date fields, batch number "
+        "fields etc.)");
     parse_.cmdOK.SetCaption("O&K");
     parse_.txtTmpProductID.SetText("LOT123-ASPIRIN-2024");
     parse_.txtTmpProductID.Highlight(7, 7);
-    results_.txtResults.SetText("Lumivar comparison\r\n\r\nBand        Standard     Sample\r\n1601.2      0.4012       0.3987\r\n");
+    results_.txtResults.SetText(
+        "Lumivar comparison\r\n\r\nBand        Standard     Sample\r\n1601.2      0.4012       0.3987\r\n");
   }
 
   void ShowMain() {
@@ -279,10 +293,17 @@ class Gallery {
     Save("main_spectrum_pass");
     main_.chart.SetLabel(platform::Chart::kVerdictLabel, "FAIL");
     main_.chart.SetVerdictColour(platform::VerdictColour::kFail);
-    main_.chart.SetMarkers({{698, "698.0"}, {757, "757.0"}, {1028, "1028.0"}, {1452, "1452.0"}, {1493, "1493.0"},
-                            {1601, "1601.0"}, {2922, "2922.0"}, {3026, "3026.0"}});
+    main_.chart.SetMarkers({{698, "698.0"},
+                            {757, "757.0"},
+                            {1028, "1028.0"},
+                            {1452, "1452.0"},
+                            {1493, "1493.0"},
+                            {1601, "1601.0"},
+                            {2922, "2922.0"},
+                            {3026, "3026.0"}});
     main_.chart.SetRegions({{2280, 2400, "Null region"}, {640, 660, ""}});
-    ChartSeries second{.title = "Difference", .x = {400, 1500, 2500, 4000}, .y = {0.1, 0.9, 0.3, 0.5}, .onSecondAxis = true};
+    ChartSeries second{
+        .title = "Difference", .x = {400, 1500, 2500, 4000}, .y = {0.1, 0.9, 0.3, 0.5}, .onSecondAxis = true};
     main_.chart.SetSeries(2, second);
     main_.chart.SetY2({0, 5});
     Save("main_spectrum_fail");
@@ -313,7 +334,10 @@ class Gallery {
   std::filesystem::path folder_;
   Desktop desktop_;
   shell::MainControls main_;
-  identification::FrmSamp samp_{desktop_, [] { return std::vector<std::string>{"Paracetamol 500 mg", "Caffeine"}; },
+  identification::FrmSamp samp_{desktop_,
+                                [] {
+                                  return std::vector<std::string>{"Paracetamol 500 mg", "Caffeine"};
+                                },
                                 [] { return std::string("Maria Lindqvist"); }};
   PasswordForm password_{desktop_};
   acquisition::FrmCollectStd collect_{desktop_};

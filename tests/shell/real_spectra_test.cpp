@@ -1,0 +1,99 @@
+// Measured spectra through the whole run, against a calculation of the tests' own in higher precision.
+#include <cmath>
+
+#include "platform/number_text.h"
+#include "tests/identification/reference.h"
+#include "tests/shell/program_fixture.h"
+
+namespace veritane::tests {
+namespace {
+
+using ::testing::HasSubstr;
+namespace reference = identification::reference;
+
+// The measured polymers whose spectra begin at 400 cm⁻¹, as polystyrene's does.
+const std::vector<std::string> kSameStart{"polystyrene", "pet",           "phenoxy-resin",
+                                          "pmma",        "polybutadiene", "polycarbonate"};
+
+class RealSpectraTest : public ProgramTest {
+protected:
+  void SetUp() override {
+    WriteSettings(true);
+    WriteProducts({"PS,Disc,Euclidean,", "PS-FT,Disc,Fourier,"});
+    CopyTestData("ftir/polystyrene.jdx", Standard("PS.bsp"));
+    CopyTestData("ftir/polystyrene.jdx", Standard("PS-FT.bsp"));
+    CopyTestData("ftir/polystyrene.jdx", Standard("back.bsp"));
+  }
+
+  // The recorded match quality of a demonstration run with this file as the sample.
+  std::string Recorded(const std::string& product, const std::string& material) {
+    CopyTestData("ftir/" + material + ".jdx", Standard("aspirin.bsp"));
+    if (program_ != nullptr) Play({"click frmVeritane.cmdBacktoMainMenu"});
+    RunDemonstration(product, material);
+    const std::string record = Read(Sample(product + ".his"));
+    const std::string line = record.substr(record.rfind("\r\n", record.size() - 3) + 2);
+    const std::size_t end = line.rfind(',');
+    const std::size_t begin = line.rfind(',', end - 1) + 1;
+    return line.substr(begin, end - begin);
+  }
+  // The real part of the discrete Fourier transform by its definition.
+  static state::Ordinates Transform(const std::vector<double>& values) {
+    const std::size_t n = values.size();
+    const long double turn = 2 * std::acos(-1.0L) / static_cast<long double>(n);
+    state::Ordinates transform{.lower = 0, .values = std::vector<double>(n)};
+    for (std::size_t k = 0; k < n; ++k) {
+      long double sum = 0;
+      for (std::size_t i = 0; i < n; ++i)
+        sum += values[i] * std::cos(turn * static_cast<long double>(i * k % n));
+      transform.values[k] = static_cast<double>(sum);
+    }
+    return transform;
+  }
+};
+
+TEST_F(RealSpectraTest, IdenticalSpectraGiveExactlyOneHundredAndOthersWhatTheirDefinitionSays) {
+  const state::SpectrumBuffer standard = reference::MeasuredSpectrum("polystyrene");
+  for (const std::string& material : kSameStart) {
+    const state::SpectrumBuffer sample = reference::MeasuredSpectrum(material);
+    const std::string euclidean = Recorded("PS", material);
+    const std::string fourier = Recorded("PS-FT", material);
+    if (material == "polystyrene") {
+      EXPECT_EQ(euclidean, " 100");
+      EXPECT_EQ(fourier, " 100");
+      continue;
+    }
+    EXPECT_NEAR(platform::LeadingNumber(euclidean), reference::EuclideanQuality(standard, sample, {}),
+                0.00501)
+        << material;
+    EXPECT_NEAR(platform::LeadingNumber(fourier),
+                reference::FourierQuality(Transform(standard.Data.values), Transform(sample.Data.values)),
+                0.00501)
+        << material;
+    EXPECT_EQ(Verdict(), "FAIL") << material;
+  }
+}
+
+TEST_F(RealSpectraTest, SpectraOfAnotherStartOrSpacingAreRefused) {
+  Steps steps = EnterSample("PS");
+  for (int box = 0; box < 4; ++box) steps.push_back("answer OK");
+  CopyTestData("ftir/ldpe.jdx", Standard("aspirin.bsp"));
+  EXPECT_THAT(std::string(Play(steps).Last("message")["text"]), HasSubstr("have different starting points"));
+  CopyTestData("jcamp/pacdec1.jdx", Standard("aspirin.bsp"));
+  EXPECT_THAT(std::string(Play(steps).Last("message")["text"]),
+              HasSubstr("using different spectral resolutions"));
+  EXPECT_TRUE(machine_.files.ListFiles(Data("Samples")).empty());
+}
+
+TEST_F(RealSpectraTest, ADamagedStandardIsNamedAndEndsTheRun) {
+  const std::string whole = Read(Standard("PS.bsp"));
+  Write(Standard("PS.bsp"), whole.substr(0, 4000));
+  Steps steps = EnterSample("PS");
+  steps.push_back("answer OK");
+  const auto events = Play(steps);
+  ASSERT_FALSE(events.Last("error").is_null());
+  EXPECT_THAT(std::string(events.Last("message")["text"]), HasSubstr("PS.bsp"));
+  EXPECT_TRUE(IsVisible("frmVeritane.cmdSample"));
+}
+
+}  // namespace
+}  // namespace veritane::tests

@@ -1,0 +1,350 @@
+// Documents of the simulated Spectrometer application as the program uses them.
+#include <gmock/gmock.h>
+
+#include <cmath>
+
+#include "simulator/simulated_spectrometer.h"
+#include "simulator/spectrum_file.h"
+#include "simulator/transform.h"
+#include "tests/simulator/memory_file_system.h"
+#include "tests/simulator/queued_device.h"
+#include "tests/support/errors.h"
+
+namespace veritane::simulator {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+using tests::ErrorOf;
+
+class StandingClock : public platform::Clock {
+public:
+  std::chrono::system_clock::time_point Now() const override { return {}; }
+  platform::DateTime ToLocal(std::chrono::system_clock::time_point) const override {
+    return {2026, 11, 21, 10, 59, 7};
+  }
+};
+
+class Documents : public ::testing::Test {
+protected:
+  Documents() { files.WriteBytes(kMethod, "scans 4"); }
+
+  // A stored document with one spectrum for each of `names`.
+  void Store(const std::string& path, const std::vector<std::string>& names) {
+    const auto document = app.NewDocument(path);
+    const auto method = app.LoadCollectMethod(kMethod);
+    for (const std::string& name : names) {
+      device.Queue({1, 2, 3}, name);
+      ASSERT_EQ(document->CollectInto(*method), 0);
+    }
+    document->CloseDocument(true);
+    app.TakeCalls();
+  }
+
+  std::string NameAt(const std::string& path, std::int16_t index) {
+    const auto document = app.OpenDocument(path);
+    const auto value = document->GetSpectrumAt(index)->GetParameter("SpectName")->Value();
+    document->CloseDocument(false);
+    return std::get<std::string>(value);
+  }
+
+  static constexpr const char* kMethod = "C:\\m.clm";
+  static constexpr const char* kFile = "C:\\s\\a.bsp";
+  MemoryFileSystem files;
+  StandingClock clock;
+  QueuedDevice device;
+  SimulatedSpectrometer app{files, clock, device};
+};
+
+TEST_F(Documents, ACollectedSpectrumReachesTheDiskWhenTheDocumentIsClosedWithSaving) {
+  const auto document = app.NewDocument(kFile);
+  const auto method = app.LoadCollectMethod(kMethod);
+  device.Queue({0.5, -0.0, 1e-300});
+  EXPECT_EQ(document->CollectInto(*method), 0);
+  EXPECT_FALSE(files.FileExists(kFile));
+  const auto spectrum = document->GetSpectrum();
+  spectrum->GetParameter("SpectName")->SetValue(std::string("Lot 4711"));
+  document->CloseDocument(true);
+
+  const auto again = app.OpenDocument(kFile);
+  EXPECT_EQ(again->GetSpectrumCount(), 1);
+  const auto data = again->GetSpectrum()->SpectrumData();
+  EXPECT_EQ(data->Spacing(), 2);
+  EXPECT_EQ(data->NumberOfPoints(), 3);
+  EXPECT_EQ(data->Values().lower, 400);
+  EXPECT_THAT(data->Values().values, ElementsAre(0.5, -0.0, 1e-300));
+  EXPECT_EQ(again->GetSpectrum()->GetParameter("SpectName")->Value(),
+            acquisition::ParameterValue("Lot 4711"));
+  EXPECT_EQ(again->GetSpectrum()->GetParameter("Time")->Value(),
+            acquisition::ParameterValue("2026/11/21 10:59:07"));
+}
+
+TEST_F(Documents, InstrumentErrorsAreReturnedAndAppendNothing) {
+  const auto document = app.NewDocument(kFile);
+  const auto method = app.LoadCollectMethod(kMethod);
+  device.QueueError(11079);
+  device.QueueError(5);
+  device.Queue({1});
+  EXPECT_EQ(document->CollectInto(*method), 11079);
+  EXPECT_EQ(document->CollectInto(*method), 5);
+  EXPECT_EQ(document->GetSpectrumCount(), 0);
+  EXPECT_EQ(ErrorOf([&] { document->GetSpectrum(); }), 9);
+  EXPECT_EQ(document->CollectInto(*method), 0);
+  EXPECT_EQ(document->GetSpectrumCount(), 1);
+  device.alignments = {7, 0};
+  EXPECT_EQ(document->AutoAlign(*method), 7);
+  EXPECT_EQ(document->AutoAlign(*method), 0);
+}
+
+TEST_F(Documents, ASpectrumOfNoNumbersIsADeviceFault) {
+  const auto document = app.NewDocument(kFile);
+  const auto method = app.LoadCollectMethod(kMethod);
+  device.Queue({1, std::nan(""), 3});
+  device.Queue({});
+  EXPECT_EQ(ErrorOf([&] { document->CollectInto(*method); }), 57);
+  EXPECT_EQ(ErrorOf([&] { document->CollectInto(*method); }), 57);
+  EXPECT_EQ(document->GetSpectrumCount(), 0);
+}
+
+TEST_F(Documents, TheDeviceIsHandedTheMethodAndTheBackground) {
+  Store("C:\\s\\back.bsp", {"background"});
+  const auto document = app.NewDocument(kFile);
+  const auto method = app.LoadCollectMethod(kMethod);
+  double progress = 0;
+  app.OnProgress([&](double fraction) { progress = fraction; });
+  method->SetBackgroundFile("C:\\s\\back.bsp(1)");
+  method->SetCollectOption("NI");
+  device.Queue({1});
+  document->CollectInto(*method);
+  EXPECT_EQ(progress, 1);
+  const CollectRequest& request = device.requests.back();
+  EXPECT_EQ(request.methodText, "scans 4");
+  EXPECT_EQ(request.option, "NI");
+  ASSERT_TRUE(request.background);
+  EXPECT_EQ(request.background->name, "background");
+
+  for (const char* missing : {"C:\\s\\back.bsp(2)", "C:\\s\\none.bsp(1)", "C:\\m.clm(1)"}) {
+    method->SetBackgroundFile(missing);
+    device.Queue({1});
+    document->CollectInto(*method);
+    EXPECT_FALSE(device.requests.back().background) << missing;
+    EXPECT_NE(device.requests.back().backgroundFault, "") << missing;
+  }
+}
+
+TEST_F(Documents, ClosingWithoutSavingOrWithoutChangesLeavesTheFileAsItWas) {
+  Store(kFile, {"first"});
+  const std::string before = files.ReadBytes(kFile);
+  const int writes = files.writes;
+  auto document = app.OpenDocument(kFile);
+  document->GetSpectrum()->GetParameter("SpectName")->SetValue(std::string("changed"));
+  document->CloseDocument(false);
+  document = app.OpenDocument(kFile);
+  document->SelectSpectrum(1);
+  document->CloseDocument(true);
+  app.OpenDocument(kFile)->CloseDocument();
+  EXPECT_EQ(files.ReadBytes(kFile), before);
+  EXPECT_EQ(files.writes, writes);
+}
+
+TEST_F(Documents, ARefusedSaveLeavesDocumentAndFileAsTheyWere) {
+  Store(kFile, {"first"});
+  const std::string before = files.ReadBytes(kFile);
+  const auto document = app.OpenDocument(kFile);
+  device.Queue({4, 5, 6}, "second");
+  document->CollectInto(*app.LoadCollectMethod(kMethod));
+  files.writeFault = 61;
+  EXPECT_EQ(ErrorOf([&] { document->CloseDocument(true); }), 61);
+  EXPECT_EQ(ErrorOf([&] { document->SaveDocumentAs("C:\\s\\b.bsp"); }), 61);
+  EXPECT_EQ(files.ReadBytes(kFile), before);
+  EXPECT_FALSE(files.FileExists("C:\\s\\b.bsp"));
+  files.writeFault = 0;
+  EXPECT_EQ(document->GetSpectrumCount(), 2);
+  document->CloseDocument(true);
+  EXPECT_EQ(NameAt(kFile, 2), "second") << "the path was still the old one";
+}
+
+TEST_F(Documents, SaveAsMovesTheDocumentToItsNewPath) {
+  Store(kFile, {"first"});
+  const std::string before = files.ReadBytes(kFile);
+  const auto document = app.OpenDocument(kFile);
+  document->SaveDocumentAs("C:\\s\\full.bsp");
+  device.Queue({4}, "second");
+  document->CollectInto(*app.LoadCollectMethod(kMethod));
+  document->CloseDocument(true);
+  EXPECT_EQ(files.ReadBytes(kFile), before);
+  EXPECT_EQ(NameAt("C:\\s\\full.bsp", 2), "second");
+}
+
+TEST_F(Documents, AnEmptyDocumentNeverReplacesAFile) {
+  Store(kFile, {"first"});
+  const auto document = app.NewDocument(kFile);
+  EXPECT_EQ(ErrorOf([&] { document->CloseDocument(true); }), 5);
+  document->CloseDocument(false);
+  EXPECT_EQ(NameAt(kFile, 1), "first");
+}
+
+TEST_F(Documents, TwoDocumentsOnOnePathCannotOverwriteEachOther) {
+  Store(kFile, {"first"});
+  const auto method = app.LoadCollectMethod(kMethod);
+  const auto one = app.OpenDocument(kFile);
+  const auto other = app.OpenDocument("c:\\S\\A.bsp");
+  device.Queue({4}, "of one");
+  device.Queue({5}, "of the other");
+  one->CollectInto(*method);
+  other->CollectInto(*method);
+  one->CloseDocument(true);
+  EXPECT_EQ(ErrorOf([&] { other->CloseDocument(true); }), 55);
+  EXPECT_EQ(ErrorOf([&] { other->SaveDocumentAs(kFile); }), 55);
+  other->SaveDocumentAs("C:\\s\\other.bsp");
+  EXPECT_EQ(NameAt(kFile, 2), "of one");
+  EXPECT_EQ(NameAt("C:\\s\\other.bsp", 2), "of the other");
+}
+
+TEST_F(Documents, AFileThatCouldNotBeOpenedWholeIsNotSavedOver) {
+  const std::string peaks = "##TITLE= p\n##PEAK TABLE= (XY..XY)\n1,2\n##END=\n";
+  Store(kFile, {"first"});
+  const std::string mixed =
+      "##TITLE= l\n##DATA TYPE= LINK\n##BLOCKS= 2\n" + peaks + files.ReadBytes(kFile) + "##END=\n";
+  files.WriteBytes(kFile, mixed);
+  const auto document = app.OpenDocument(kFile);
+  document->GetSpectrum()->GetParameter("SpectName")->SetValue(std::string("changed"));
+  EXPECT_EQ(ErrorOf([&] { document->CloseDocument(true); }), 5);
+  EXPECT_EQ(files.ReadBytes(kFile), mixed);
+  document->SaveDocumentAs("C:\\s\\new.bsp");
+  EXPECT_EQ(NameAt("C:\\s\\new.bsp", 1), "changed");
+}
+
+TEST_F(Documents, WhatCannotBeOpenedSaysWhichFileAndWhy) {
+  EXPECT_EQ(ErrorOf([&] { app.OpenDocument("C:\\none.bsp"); }), 53);
+  EXPECT_EQ(ErrorOf([&] { app.LoadCollectMethod("C:\\none.clm"); }), 53);
+  try {
+    app.OpenDocument(kMethod);
+    FAIL();
+  } catch (const platform::RunTimeError& error) {
+    EXPECT_EQ(error.Number(), kInvalidFileFormat);
+    EXPECT_THAT(error.what(), HasSubstr("C:\\m.clm: "));
+  }
+}
+
+TEST_F(Documents, SpectraAreNumberedFromOneAndSelectionStopsAtTheLast) {
+  Store(kFile, {"first", "second"});
+  const auto document = app.OpenDocument(kFile);
+  const auto current = [&] {
+    return std::get<std::string>(document->GetSpectrum()->GetParameter("SpectName")->Value());
+  };
+  EXPECT_EQ(current(), "first");
+  document->SelectSpectrum(2);
+  EXPECT_EQ(current(), "second");
+  document->SelectSpectrum(1);
+  document->SelectSpectrum(99);
+  EXPECT_EQ(current(), "second");
+  EXPECT_EQ(ErrorOf([&] { document->SelectSpectrum(0); }), 9);
+  EXPECT_EQ(ErrorOf([&] { document->GetSpectrumAt(0); }), 9);
+  EXPECT_EQ(ErrorOf([&] { document->GetSpectrumAt(3); }), 9);
+}
+
+TEST_F(Documents, ParametersExistOnceAddedAndKeepTheirValues) {
+  Store(kFile, {"first"});
+  auto document = app.OpenDocument(kFile);
+  auto spectrum = document->GetSpectrum();
+  EXPECT_EQ(ErrorOf([&] { spectrum->GetParameter("Comparison"); }), 5);
+  spectrum->GetParameterList()->AddParameter("Comparison", 1);
+  spectrum->GetParameter("Comparison")->SetValue(97.35);
+  spectrum->GetParameterList()->AddParameter("Comparison", 1);
+  EXPECT_EQ(spectrum->GetParameter("Comparison")->Value(), acquisition::ParameterValue(97.35));
+  EXPECT_EQ(ErrorOf([&] { spectrum->GetParameter("Time")->SetValue(1.0); }), 13);
+  document->CloseDocument(true);
+  document = app.OpenDocument(kFile);
+  EXPECT_EQ(document->GetSpectrum()->GetParameter("Comparison")->Value(), acquisition::ParameterValue(97.35));
+}
+
+TEST_F(Documents, TheTransformReplacesTheCurrentSpectrumAndHeldOnesStayReadable) {
+  Store(kFile, {"first"});
+  const auto document = app.OpenDocument(kFile);
+  const auto held = document->GetSpectrum();
+  const auto operation = document->CreateOperation("Unary");
+  EXPECT_EQ(ErrorOf([&] { document->ApplyOperation(*operation); }), 5) << "no operation was chosen";
+  operation->SetOperation(6);
+  document->ApplyOperation(*operation);
+  const auto transformed = document->GetSpectrum()->SpectrumData()->Values();
+  EXPECT_EQ(transformed.lower, 0);
+  EXPECT_EQ(transformed.values, RealFourierTransform({1, 2, 3}));
+  EXPECT_EQ(ErrorOf([&] { document->CreateOperation("Binary"); }), 5);
+  document->CloseDocument(false);
+  EXPECT_THAT(held->SpectrumData()->Values().values, ElementsAre(1, 2, 3));
+  EXPECT_EQ(ErrorOf([&] { held->GetParameter("SpectName")->SetValue(std::string("late")); }), 5);
+}
+
+TEST_F(Documents, AClosedDocumentAndAnApplicationThatQuitRefuseEveryUse) {
+  Store(kFile, {"first"});
+  const auto closed = app.OpenDocument(kFile);
+  closed->CloseDocument(false);
+  EXPECT_EQ(ErrorOf([&] { closed->CloseDocument(true); }), 5);
+  EXPECT_EQ(ErrorOf([&] { closed->GetSpectrum(); }), 5);
+  EXPECT_EQ(ErrorOf([&] { closed->GetSpectrumCount(); }), 5);
+  const auto open = app.OpenDocument(kFile);
+  app.QuitApplication();
+  EXPECT_EQ(ErrorOf([&] { open->GetSpectrum(); }), 5);
+  EXPECT_EQ(ErrorOf([&] { app.OpenDocument(kFile); }), kServerGone);
+  EXPECT_EQ(ErrorOf([&] { app.Interactive(true); }), kServerGone);
+}
+
+TEST_F(Documents, TheActiveDocumentIsTheLastOneStillOpen) {
+  EXPECT_EQ(ErrorOf([&] { app.ActiveDocument(); }), 5);
+  Store(kFile, {"first"});
+  const auto first = app.OpenDocument(kFile);
+  const auto second = app.NewDocument("C:\\s\\b.bsp");
+  EXPECT_EQ(app.ActiveDocument(), second);
+  second->CloseDocument(false);
+  EXPECT_EQ(app.ActiveDocument(), first);
+}
+
+TEST_F(Documents, MarkersAndViewsAreKeptAsAskedFor) {
+  Store(kFile, {"first"});
+  const auto document = std::dynamic_pointer_cast<SimulatedDocument>(app.OpenDocument(kFile));
+  ASSERT_TRUE(document);
+  const auto marker = document->GetSpectrum()->GetMarkerList()->AddMarker(1700);
+  marker->SetKind(2);
+  marker->SetStyle(0);
+  marker->SetDefinition(2, 2, 1650.5);
+  document->SetDocumentShown(-1);
+  document->PrepareSampleView();
+  const StoredMarker& stored = document->Spectra().at(0)->markers.at(0);
+  EXPECT_EQ(stored.x, 1700);
+  EXPECT_EQ(stored.kind, 2);
+  EXPECT_EQ(stored.lowerBound, 1650.5);
+  EXPECT_EQ(document->View().shown, -1);
+  EXPECT_TRUE(document->View().sampleView);
+  document->GetSpectrum()->GetMarkerList()->ClearMarkers();
+  EXPECT_EQ(ErrorOf([&] { marker->SetKind(1); }), 5);
+  EXPECT_EQ(ErrorOf([&] { document->OpenPrintTemplate("C:\\none.bpt"); }), 53);
+  const auto print = document->OpenPrintTemplate(kMethod);
+  EXPECT_EQ(ErrorOf([&] { print->PrintDoc(); }), 5);
+}
+
+TEST_F(Documents, EveryCallIsLoggedWithItsArguments) {
+  Store(kFile, {"first"});
+  app.Interactive(false);
+  const auto document = app.OpenDocument(kFile);
+  const auto method = app.LoadCollectMethod(kMethod);
+  method->SetBackgroundFile("C:\\s\\a.bsp(1)");
+  method->SetCollectOption("NI");
+  device.Queue({1});
+  document->CollectInto(*method);
+  document->GetSpectrumAt(1)->GetParameter("Time");
+  const auto operation = document->CreateOperation("Unary");
+  operation->SetOperation(6);
+  document->ApplyOperation(*operation);
+  document->SelectSpectrum(1);
+  document->CloseDocument(false);
+  EXPECT_THAT(app.TakeCalls(),
+              ElementsAre("Interactive(false)", "OpenDocument(C:\\s\\a.bsp)", "LoadCollectMethod(C:\\m.clm)",
+                          "SetBackgroundFile(C:\\s\\a.bsp(1))", "SetCollectOption(NI)", "CollectInto",
+                          "GetSpectrumAt(1)", "GetParameter(Time)", "CreateOperation(Unary)",
+                          "ApplyOperation(6)", "SelectSpectrum(1)", "CloseDocument(false)"));
+  EXPECT_THAT(app.TakeCalls(), ::testing::IsEmpty());
+}
+
+}  // namespace
+}  // namespace veritane::simulator

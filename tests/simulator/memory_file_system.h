@@ -1,0 +1,54 @@
+// Files in memory for the tests of documents, with faults on demand.
+#pragma once
+
+#include <map>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/file_system.h"
+#include "platform/run_time_error.h"
+#include "platform/windows_path.h"
+
+namespace veritane::simulator {
+
+class MemoryFileSystem : public platform::FileSystem {
+public:
+  // The number that the next writes raise, leaving the files as they are; 0 for none.
+  int writeFault = 0;
+  int writes = 0;
+
+  bool FileExists(const std::string& path) const override { return files_.contains(Key(path)); }
+  bool FolderExists(const std::string&) const override { return true; }
+  void CreateFolder(const std::string& path) override { Unexpected(path); }
+
+  std::string ReadBytes(const std::string& path) const override {
+    const auto found = files_.find(Key(path));
+    if (found == files_.end()) throw platform::RunTimeError(platform::ErrorNumber::kFileNotFound, path);
+    return found->second;
+  }
+  void WriteBytes(const std::string& path, std::string_view bytes) override {
+    if (writeFault != 0) throw platform::RunTimeError(writeFault, "injected");
+    ++writes;
+    files_[Key(path)] = bytes;
+  }
+  std::unique_ptr<platform::AppendingFile> OpenForAppending(const std::string& path) override {
+    Unexpected(path);
+  }
+  void DeleteFile(const std::string& path) override { files_.erase(Key(path)); }
+  void MoveFile(const std::string& from, const std::string&) override { Unexpected(from); }
+  platform::DateTime LastModified(const std::string& path) const override { Unexpected(path); }
+  std::vector<std::string> ListFiles(const std::string& folder) const override { Unexpected(folder); }
+
+private:
+  static std::string Key(const std::string& path) { return platform::UpperCase(path); }
+  // Documents have no business with these.
+  [[noreturn]] static void Unexpected(const std::string& path) {
+    throw platform::RunTimeError(platform::ErrorNumber::kInvalidCall, "unexpected operation on " + path);
+  }
+
+  std::map<std::string, std::string> files_;
+};
+
+}  // namespace veritane::simulator
