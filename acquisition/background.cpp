@@ -61,6 +61,9 @@ CollectOutcome CollectBackground(Bench& bench) {
     session.Open(bench.state.folders.InStandards("back.bsp"));
   } else {
     session.Create(bench.state.BackGroundName);
+  }
+  // A demonstration measures nothing, so a method that is not there does not stop it.
+  if (!is_demonstration || bench.machine.files.FileExists(bench.state.clmFile)) {
     PrepareScan(bench, bench.state.clmFile, "");
   }
   const CollectOutcome outcome = CollectIntoDocument(bench);

@@ -17,6 +17,10 @@ constexpr std::size_t kMarkerRows = 4;
 AxisLimits Drawable(AxisLimits limits) {
   if (!std::isfinite(limits.minimum) || !std::isfinite(limits.maximum)) return {0, 1};
   if (limits.minimum > limits.maximum) std::swap(limits.minimum, limits.maximum);
+  // Their difference must be a number too.
+  constexpr double kFarthest = 1e300;
+  limits.minimum = std::clamp(limits.minimum, -kFarthest, kFarthest);
+  limits.maximum = std::clamp(limits.maximum, -kFarthest, kFarthest);
   if (limits.minimum < limits.maximum) return limits;
   const double margin = std::max(std::abs(limits.minimum) * 0.1, 1e-9);
   return {limits.minimum - margin, limits.maximum + margin};

@@ -38,9 +38,14 @@ std::optional<std::pair<Point, Point>> ClipLine(Point from, Point to, const Box&
       !narrow(dy, box.bottom - from.y)) {
     return std::nullopt;
   }
-  // A whole end stays as it is, bit for bit, so that lines join.
-  const Point begin = enter > 0 ? Point{from.x + enter * dx, from.y + enter * dy} : from;
-  const Point end = leave < 1 ? Point{from.x + leave * dx, from.y + leave * dy} : to;
+  // A whole end stays as it is, bit for bit, so that lines join. A cut one is kept inside against rounding,
+  // which is coarse where the other end lies very far away.
+  const auto at = [&](double part) {
+    return Point{std::clamp(from.x + part * dx, box.left, box.right),
+                 std::clamp(from.y + part * dy, box.top, box.bottom)};
+  };
+  const Point begin = enter > 0 ? at(enter) : from;
+  const Point end = leave < 1 ? at(leave) : to;
   return std::pair{begin, end};
 }
 

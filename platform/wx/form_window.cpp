@@ -2,6 +2,7 @@
 #include "platform/wx/form_window.h"
 
 #include <wx/dialog.h>
+#include <wx/display.h>
 #include <wx/frame.h>
 #include <wx/gauge.h>
 #include <wx/panel.h>
@@ -62,10 +63,11 @@ FormWindow::FormWindow(Form& form, ActionGate& gate, wxWindow* main_window)
 }
 
 FormWindow::~FormWindow() {
-  // The views go before their widgets, so that nothing follows a widget that is gone.
   is_built_ = false;
-  views_.clear();
-  window_->Destroy();
+  alive_.reset();
+  // The widgets go before their views: on its way out a window still reports that it lost the focus.
+  window_->Hide();
+  delete window_;
 }
 
 void FormWindow::BuildControls() {
@@ -104,20 +106,32 @@ void FormWindow::FollowPanels() {
   }
 }
 
+// A window that does not fit on the screen could not even be moved.
+wxSize FormWindow::LargestSize() const {
+  return wxDisplay(window_).GetClientArea().GetSize() - wxSize(0, FormBuilder::Line(root_) * 2);
+}
+
 void FormWindow::FitToContent() {
-  // The window is never smaller than what its panels need, shown or hidden, so that switching them clips nothing.
+  // The window is never smaller than what its panels need, shown or hidden, so that switching them clips
+  // nothing.
   wxSize needed = root_->GetSizer()->CalcMin();
   for (const wxWindow* child : root_->GetChildren()) {
     if (wxSizer* sizer = child->GetSizer()) needed.IncTo(sizer->CalcMin());
   }
-  window_->SetMinClientSize(needed);
   wxSize size = needed;
   if (is_main_) size.IncTo({FormBuilder::Columns(root_, 110), FormBuilder::Line(root_) * 42});
+  // A window that does not fit on the screen could not even be moved.
+  const wxSize screen =
+      wxDisplay(window_).GetClientArea().GetSize() - wxSize(0, FormBuilder::Line(root_) * 2);
+  needed.DecTo(screen);
+  size.DecTo(screen);
+  window_->SetMinClientSize(needed);
   window_->SetClientSize(size);
   window_->Layout();
 }
 
 bool FormWindow::Perform(const std::function<void()>& action) {
+  if (!is_built_) return false;
   if (ControlView* view = FocusedView()) view->BringUpToDate();
   return gate_.Perform(form_, action);
 }
@@ -132,6 +146,7 @@ void FormWindow::Arrange() {
     const wxSize needed = root_->GetSizer()->CalcMin();
     wxSize least = window_->GetMinClientSize();
     least.IncTo(needed);
+    least.DecTo(LargestSize());
     if (least != window_->GetMinClientSize()) {
       window_->SetMinClientSize(least);
       wxSize size = window_->GetClientSize();

@@ -40,6 +40,7 @@ private:
   void AppendRemaining(class FormBuilder& builder, wxSizer* sizer);
   void FollowPanels();
   void FitToContent();
+  wxSize LargestSize() const;
   void Follow(Form::Change change);
   void Appear();
   void FocusFirst(const Control* panel);

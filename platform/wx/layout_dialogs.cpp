@@ -29,7 +29,7 @@ wxSizer* LayOutPassword(FormBuilder& builder, wxWindow* root) {
   auto* content = new wxBoxSizer(wxVERTICAL);
   content->Add(builder.Add("lblPassword", root));
   wxWindow* box = builder.Add("txtPassword", root);
-  box->SetMinSize({FormBuilder::Columns(root, 36), -1});
+  SetLeastWidth(box, FormBuilder::Columns(root, 36));
   content->Add(box, wxSizerFlags().Expand().Border(wxTOP, Gap(root)));
   return Dialog(root, content, ButtonRow(root, {builder.Add("cmdPasswordOK", root)}));
 }
@@ -83,7 +83,7 @@ wxSizer* LayOutPrompts(FormBuilder& builder, wxWindow* root) {
   const auto add = [&](const std::string& label, const std::string& box) {
     content->Add(builder.Add(label, root));
     wxWindow* field = builder.Add(box, root);
-    field->SetMinSize({FormBuilder::Columns(root, 64), -1});
+    SetLeastWidth(field, FormBuilder::Columns(root, 64));
     content->Add(field, wxSizerFlags().Expand().Border(wxTOP, Gap(root) / 2));
   };
   add("lblBackgroundPrompt", "txtBackgroundPrompt");
@@ -96,7 +96,7 @@ wxSizer* LayOutSelectMethod(FormBuilder& builder, wxWindow* root) {
   auto* content = new wxBoxSizer(wxVERTICAL);
   content->Add(builder.Add("lblSelectMethod", root));
   wxWindow* methods = builder.Add("cmbSelectMethod", root);
-  methods->SetMinSize({FormBuilder::Columns(root, 44), -1});
+  SetLeastWidth(methods, FormBuilder::Columns(root, 44));
   content->Add(methods, wxSizerFlags().Expand().Border(wxTOP, Gap(root)));
   wxWindow* okay = builder.Add("cmdSelectMethodOK", root);
   return Dialog(root, content, ButtonRow(root, {okay, builder.Add("cmdSelectMethodCancel", root)}));
@@ -128,7 +128,7 @@ wxSizer* LayOutResults(FormBuilder& builder, wxWindow* root) {
 wxSizer* LayOutPrediction(FormBuilder& builder, wxWindow* root) {
   auto* file = new wxBoxSizer(wxHORIZONTAL);
   wxWindow* name = builder.AddData("lblCalFileName", root);
-  name->SetMinSize({FormBuilder::Columns(root, 48), -1});
+  SetLeastWidth(name, FormBuilder::Columns(root, 48));
   file->Add(name, wxSizerFlags(1).CentreVertical());
   file->Add(ButtonRow(root, {builder.Add("cmdNewCalFile", root)}),
             wxSizerFlags().CentreVertical().Border(wxLEFT, WideGap(root)));

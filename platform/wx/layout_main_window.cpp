@@ -68,7 +68,7 @@ wxWindow* LayOutSpectrumPanel(FormBuilder& builder, wxWindow* parent) {
   chart->SetMinSize({FormBuilder::Columns(panel, 60), FormBuilder::Line(panel) * 16});
   wxWindow* readout = builder.AddData("lblReadout", panel);
   // Wide enough for "10000.0, -0.0000", so that nothing moves while the pointer does.
-  readout->SetMinSize({FormBuilder::Columns(panel, 20), -1});
+  SetLeastWidth(readout, FormBuilder::Columns(panel, 20));
   wxWindow* result = builder.AddProse("lblResult", panel, FormBuilder::Columns(panel, 40));
   result->SetFont(result->GetFont().Bold());
 

@@ -18,6 +18,10 @@ void MakeEquallyWide(std::initializer_list<wxWindow*> buttons) {
 
 }  // namespace
 
+void SetLeastWidth(wxWindow* widget, int width) {
+  widget->SetMinSize({width, widget->GetMinSize().y});
+}
+
 wxFlexGridSizer* FieldTable(const wxWindow* window) {
   auto* table = new wxFlexGridSizer(2, Gap(window) * 5 / 4, WideGap(window));
   table->AddGrowableCol(1);
@@ -25,7 +29,7 @@ wxFlexGridSizer* FieldTable(const wxWindow* window) {
 }
 
 void AddField(wxFlexGridSizer* table, wxWindow* label, wxWindow* field, int least_width) {
-  field->SetMinSize({least_width, -1});
+  SetLeastWidth(field, least_width);
   table->Add(label, wxSizerFlags().CentreVertical());
   table->Add(field, wxSizerFlags(1).Expand().CentreVertical());
 }

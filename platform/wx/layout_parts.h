@@ -17,6 +17,8 @@ inline int Gap(const wxWindow* window) {
   return FormBuilder::Line(window) / 2;
 }
 
+// Makes the widget at least this wide; its least height stays.
+void SetLeastWidth(wxWindow* widget, int width);
 // Two columns: labels, and fields that take the width that is left.
 wxFlexGridSizer* FieldTable(const wxWindow* window);
 void AddField(wxFlexGridSizer* table, wxWindow* label, wxWindow* field, int least_width);

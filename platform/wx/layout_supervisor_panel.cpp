@@ -40,7 +40,7 @@ wxSizer* LayOutBackground(FormBuilder& builder, wxWindow* page) {
   auto* interval = new wxBoxSizer(wxHORIZONTAL);
   interval->Add(builder.Add("optBackInterval", box), wxSizerFlags().CentreVertical());
   wxWindow* hours = builder.Add("txtbackInterval", box);
-  hours->SetMinSize({FormBuilder::Columns(box, 10), -1});
+  SetLeastWidth(hours, FormBuilder::Columns(box, 10));
   interval->Add(hours, wxSizerFlags().CentreVertical().Border(wxLEFT | wxRIGHT, Gap(box)));
   interval->Add(builder.Add("lblHours", box), wxSizerFlags().CentreVertical());
   options->Add(interval, wxSizerFlags().Border(wxTOP | wxBOTTOM, Gap(box) / 2));
@@ -115,7 +115,7 @@ wxSizer* LayOutOptions(FormBuilder& builder, wxWindow* page) {
   auto* threshold = new wxBoxSizer(wxHORIZONTAL);
   threshold->Add(builder.Add("lblThreshold", page), wxSizerFlags().CentreVertical());
   wxWindow* box = builder.Add("txtThreshold", page);
-  box->SetMinSize({FormBuilder::Columns(page, 12), -1});
+  SetLeastWidth(box, FormBuilder::Columns(page, 12));
   threshold->Add(box, wxSizerFlags().CentreVertical().Border(wxLEFT, WideGap(page)));
   wxSizer* parse = ButtonRow(page, {builder.Add("cmdParse", page)});
 
@@ -147,14 +147,14 @@ wxSizer* LayOutReprocess(FormBuilder& builder, wxWindow* page) {
   wxFlexGridSizer* table = FieldTable(box);
   const auto add_choice = [&](const std::string& button_name, const std::string& file_name) {
     wxWindow* button = builder.Add(button_name, box);
-    button->SetMinSize({FormBuilder::Columns(box, 24), -1});
+    SetLeastWidth(button, FormBuilder::Columns(box, 24));
     AddField(table, button, builder.AddData(file_name, box), width);
   };
   add_choice("cmdStandard", "lblStdName");
   add_choice("cmdSamp", "lblSampleName");
   wxWindow* label = builder.Add("lblReprocessAlgorithm", box);
   wxWindow* algorithm = builder.Add("cmbAlg", box);
-  algorithm->SetMinSize({FormBuilder::Columns(box, 24), -1});
+  SetLeastWidth(algorithm, FormBuilder::Columns(box, 24));
   table->Add(label, wxSizerFlags().CentreVertical());
   table->Add(algorithm, wxSizerFlags().CentreVertical());
   auto* content = new wxBoxSizer(wxVERTICAL);

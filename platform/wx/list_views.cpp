@@ -19,7 +19,7 @@ ListBoxView::ListBoxView(ListBox& list, ViewOwner& owner, wxWindow* parent, Choo
     : ControlView(list, owner),
       list_(list),
       choose_(choose),
-      widget_(new wxListBox(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize, 0, nullptr,
+      widget_(new wxListBox(parent, wxID_ANY, wxDefaultPosition, wxSize(100, 100), 0, nullptr,
                             wxLB_SINGLE | wxLB_HSCROLL | wxLB_NEEDED_SB)) {
   if (choose == Choose::kOnMove) {
     widget_->Bind(wxEVT_LISTBOX, [this](wxCommandEvent& event) {

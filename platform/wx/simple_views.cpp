@@ -107,7 +107,9 @@ void FrameView::ShowState() {
 }
 
 TabsView::TabsView(TabControl& tabs, ViewOwner& owner, wxWindow* parent)
-    : ControlView(tabs, owner), tabs_(tabs), widget_(new wxNotebook(parent, wxID_ANY)) {
+    : ControlView(tabs, owner),
+      tabs_(tabs),
+      widget_(new wxNotebook(parent, wxID_ANY, wxDefaultPosition, wxSize(200, 100))) {
   for (int page = 0; page < tabs.PageCount(); ++page) {
     widget_->AddPage(new wxPanel(widget_), ToWx(tabs.PageCaption(page)));
   }

@@ -25,6 +25,11 @@ long StyleOf(const TextBox& box) {
   return style;
 }
 
+// With a large font GTK asks for less than the letters need.
+int EntryHeight(const wxWindow* widget) {
+  return widget->GetCharHeight() * 9 / 5;
+}
+
 }  // namespace
 
 void TypedTextView::BindTo(wxWindow* widget, wxTextEntry* entry) {
@@ -82,7 +87,7 @@ void TypedTextView::ShowHighlight() {
 
 void TypedTextView::Follow(Property property) {
   if (property == Property::kHighlight) {
-    ShowHighlight();
+    if (!is_reporting_) ShowHighlight();
   } else if (property == Property::kText) {
     ShowText();
   } else if (property == Property::kItems || property == Property::kCaption) {
@@ -93,12 +98,17 @@ void TypedTextView::Follow(Property property) {
 }
 
 void TypedTextView::BringUpToDate() {
+  // In the middle of a change the positions belong to a text that the box does not have yet.
+  if (entry_->GetValue() != ShownText(box_.Text())) return;
   long begin = 0;
   long end = 0;
   entry_->GetSelection(&begin, &end);
   const int start = CharactersBefore(begin);
   const int length = CharactersBefore(end) - start;
-  if (start != box_.HighlightStart() || length != box_.HighlightLength()) box_.Highlight(start, length);
+  if (start == box_.HighlightStart() && length == box_.HighlightLength()) return;
+  is_reporting_ = true;
+  box_.Highlight(start, length);
+  is_reporting_ = false;
 }
 
 void TypedTextView::TakeFocus() {
@@ -130,11 +140,13 @@ TextBoxView::TextBoxView(TextBox& box, ViewOwner& owner, wxWindow* parent)
     widget_->SetFont(
         wxFont(wxFontInfo(widget_->GetFont().GetFractionalPointSize()).Family(wxFONTFAMILY_TELETYPE)));
   }
+  if (!box.isMultiLine) widget_->SetMinSize({-1, EntryHeight(widget_)});
   BindTo(widget_, widget_);
 }
 
 EditableComboView::EditableComboView(ComboBox& combo, ViewOwner& owner, wxWindow* parent)
     : TypedTextView(combo, owner), combo_(combo), widget_(new wxComboBox(parent, wxID_ANY)) {
+  widget_->SetMinSize({-1, EntryHeight(widget_)});
   BindTo(widget_, widget_);
   widget_->Bind(wxEVT_COMBOBOX, [this](wxCommandEvent& event) {
     const int index = event.GetSelection();

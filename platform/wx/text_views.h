@@ -36,6 +36,8 @@ private:
 
   TextBox& box_;
   wxTextEntry* entry_ = nullptr;
+  // The highlighted part is on its way from the widget to the box.
+  bool is_reporting_ = false;
 };
 
 class TextBoxView : public TypedTextView {

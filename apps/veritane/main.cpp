@@ -1,0 +1,72 @@
+// veritane: the program in its window.
+#include <iostream>
+#include <memory>
+#include <thread>
+
+#include "apps/command_line.h"
+#include "apps/simulated_bench.h"
+#include "platform/run_time_error.h"
+#include "platform/wx/wx_user_interface.h"
+#include "shell/frm_veritane.h"
+
+namespace {
+
+using namespace veritane;
+
+// What exists while the window does.
+struct Program {
+  Program(platform::PosixMachine& machine, platform::WxUserInterface& screen)
+      : desktop(screen),
+        bench(machine, [this](std::chrono::milliseconds time) { WaitAlive(time); }),
+        main(desktop, machine.Facilities(),
+             [this](const std::string& prog_id) { return bench.Create(prog_id); }) {}
+
+  // A measurement takes its time, but the windows go on being drawn.
+  void WaitAlive(std::chrono::milliseconds time) {
+    constexpr std::chrono::milliseconds kStep{20};
+    const auto end = std::chrono::steady_clock::now() + time;
+    while (std::chrono::steady_clock::now() < end) {
+      desktop.ProcessPendingEvents();
+      std::this_thread::sleep_for(kStep);
+    }
+  }
+
+  platform::Desktop desktop;
+  apps::SimulatedBench bench;
+  shell::FrmVeritane main;
+};
+
+int Run(int argument_count, char** arguments) {
+  platform::PosixMachine machine(platform::DefaultRoot(), "");
+  std::unique_ptr<Program> program;
+  const platform::PathMapping paths{
+      .toNative = [&](const std::string& path) { return machine.paths.ToNative(path).string(); },
+      .toWindows = [&](const std::string& path) { return machine.paths.ToWindows(path); }};
+  return platform::RunInWindow(argument_count, arguments, paths, [&](platform::WxUserInterface& screen) {
+    program = std::make_unique<Program>(machine, screen);
+    try {
+      program->main.Form_Load();
+    } catch (const platform::RunTimeError& error) {
+      screen.NoteError(error);
+      screen.ShowMessage({.text = "Veritane cannot start. " + std::string(error.what()),
+                          .title = "Veritane",
+                          .icon = platform::MessageIcon::kCritical});
+      program->desktop.End(1);
+    }
+  });
+}
+
+}  // namespace
+
+int main(int argument_count, char** arguments) {
+  try {
+    const apps::CommandLine line(argument_count, arguments, {}, 0);
+    return Run(argument_count, arguments);
+  } catch (const apps::UsageError& error) {
+    std::cerr << "veritane: " << error.what() << "\nusage: veritane\n";
+    return 2;
+  } catch (const std::exception& error) {
+    std::cerr << "veritane: " << error.what() << '\n';
+    return 1;
+  }
+}

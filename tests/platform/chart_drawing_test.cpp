@@ -1,0 +1,290 @@
+// What a drawn chart shows, seen by a surface that remembers what was drawn on it.
+#include "platform/chart_drawing.h"
+
+#include <gmock/gmock.h>
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+#include "platform/chart_trace.h"
+#include "platform/desktop.h"
+#include "platform/form.h"
+#include "platform/utf8.h"
+
+namespace veritane::platform {
+namespace {
+
+class NoInterface : public UserInterface {
+public:
+  void Attach(Form&) override {}
+  void RunModal(Form&) override {}
+  MessageAnswer ShowMessage(const Message&) override { return MessageAnswer::kOk; }
+  std::optional<std::string> ChooseFile(const FileChoice&) override { return std::nullopt; }
+  void ShowPointer(Pointer) override {}
+  void ProcessPendingEvents() override {}
+  void NoteError(const RunTimeError&) override {}
+  void End(int) override {}
+};
+
+// Every character is half as wide as it is high.
+class Recorder : public DrawingContext {
+public:
+  struct DrawnText {
+    std::string text;
+    Point at;
+    double height;
+    TextWeight weight;
+    Colour colour;
+  };
+  struct DrawnLine {
+    std::vector<Point> points;
+    Colour colour;
+  };
+
+  explicit Recorder(double width = 1000, double height = 600, double font = 16)
+      : width_(width), height_(height), font_(font) {}
+
+  double Width() const override { return width_; }
+  double Height() const override { return height_; }
+  double FontHeight() const override { return font_; }
+  TextSize Measure(const std::string& text, double height, TextWeight) const override {
+    return {static_cast<double>(CharacterCount(text)) * height / 2, height};
+  }
+  void Text(const std::string& text, Point at, double height, TextWeight weight, Colour colour) override {
+    texts.push_back({text, at, height, weight, colour});
+  }
+  void TextUpwards(const std::string& text, Point at, double height, Colour colour) override {
+    texts.push_back({text, at, height, TextWeight::kNormal, colour});
+  }
+  void Line(Point, Point, double, Colour) override {}
+  void Polyline(std::span<const Point> points, double, Colour colour) override {
+    lines.push_back({{points.begin(), points.end()}, colour});
+  }
+  void FillRectangle(Point, double, double, Colour) override {}
+  void BeginClip(Point, double, double) override { ++open_clips; }
+  void EndClip() override { --open_clips; }
+
+  const DrawnText* Find(const std::string& text) const {
+    const auto found =
+        std::find_if(texts.begin(), texts.end(), [&](const auto& drawn) { return drawn.text == text; });
+    return found == texts.end() ? nullptr : &*found;
+  }
+
+  std::vector<DrawnText> texts;
+  std::vector<DrawnLine> lines;
+  int open_clips = 0;
+
+private:
+  double width_;
+  double height_;
+  double font_;
+};
+
+class ChartDrawingTest : public ::testing::Test {
+protected:
+  ChartDrawingTest() {
+    chart_.SetX({400, 4000});
+    chart_.SetY({0, 1});
+  }
+
+  NoInterface no_interface_;
+  Desktop desktop_{no_interface_};
+  Form form_{desktop_, "form"};
+  Chart chart_{form_, "chart"};
+};
+
+TEST_F(ChartDrawingTest, WavenumbersFallFromLeftToRightAndPixelsReadBackAsData) {
+  Recorder surface;
+  const ChartLayout layout = DrawChart(chart_, surface);
+  EXPECT_EQ(layout.PixelX(4000), layout.plot.left);
+  EXPECT_NEAR(layout.PixelX(400), layout.plot.left + layout.plot.width, 1e-9);
+  EXPECT_LT(layout.PixelY(1, false), layout.PixelY(0, false));
+  chart_.SetPlotArea(layout.plot);
+  const auto back = chart_.PixelToData(layout.PixelX(1685.25), layout.PixelY(0.625, false));
+  EXPECT_NEAR(back.x, 1685.25, 1e-9);
+  EXPECT_NEAR(back.y, 0.625, 1e-12);
+  EXPECT_LT(surface.Find("4000")->at.x, surface.Find("500")->at.x);
+  EXPECT_EQ(surface.open_clips, 0);
+}
+
+TEST_F(ChartDrawingTest, NoPeakOfALongTraceIsLost) {
+  ChartSeries series{.title = "Sample", .x = {}, .y = {}};
+  for (int i = 0; i < 32000; ++i) {
+    series.x.push_back(400 + 3600.0 * i / 31999);
+    series.y.push_back(i == 12345 ? 0.95 : i == 23456 ? 0.05 : 0.5);
+  }
+  chart_.SetSeries(0, series);
+  Recorder surface;
+  const ChartLayout layout = DrawChart(chart_, surface);
+  ASSERT_EQ(surface.lines.size(), 1U);
+  const auto& points = surface.lines[0].points;
+  EXPECT_LT(points.size(), 10000U);
+  const auto has = [&](double x, double y) {
+    return std::any_of(points.begin(), points.end(), [&](Point p) {
+      return std::abs(p.x - layout.PixelX(x)) < 1e-6 && std::abs(p.y - layout.PixelY(y, false)) < 1e-6;
+    });
+  };
+  EXPECT_TRUE(has(series.x[12345], 0.95));
+  EXPECT_TRUE(has(series.x[23456], 0.05));
+  EXPECT_TRUE(has(400, 0.5) && has(4000, 0.5));
+}
+
+TEST_F(ChartDrawingTest, AValueThatIsNotANumberBreaksTheLine) {
+  const double nan = std::numeric_limits<double>::quiet_NaN();
+  const double infinite = std::numeric_limits<double>::infinity();
+  chart_.SetSeries(
+      0, {.title = "a", .x = {500, 1000, 1500, 2000, 2500, 3000}, .y = {0.1, 0.2, nan, 0.3, infinite, 0.4}});
+  Recorder surface;
+  DrawChart(chart_, surface);
+  ASSERT_EQ(surface.lines.size(), 3U);
+  EXPECT_EQ(surface.lines[0].points.size(), 2U);
+  for (const auto& line : surface.lines) {
+    for (const Point& point : line.points) EXPECT_TRUE(std::isfinite(point.x) && std::isfinite(point.y));
+  }
+}
+
+TEST_F(ChartDrawingTest, LinesEndAtThePlotHoweverFarTheValuesLie) {
+  chart_.SetSeries(0, {.title = "a", .x = {-1e9, 1000, 2000, 1e9}, .y = {0.5, 1e300, -1e300, 0.5}});
+  chart_.SetSeries(1, {.title = "b", .x = {5000, 6000}, .y = {0.5, 0.5}});
+  Recorder surface;
+  const ChartLayout layout = DrawChart(chart_, surface);
+  const double margin = surface.FontHeight();
+  ASSERT_FALSE(surface.lines.empty());
+  for (const auto& line : surface.lines) {
+    EXPECT_EQ(line.colour.red, SeriesColour(0).red);
+    for (const Point& point : line.points) {
+      EXPECT_GE(point.x, layout.plot.left - margin);
+      EXPECT_LE(point.x, layout.plot.left + layout.plot.width + margin);
+      EXPECT_GE(point.y, layout.plot.top - margin);
+      EXPECT_LE(point.y, layout.plot.top + layout.plot.height + margin);
+    }
+  }
+}
+
+TEST_F(ChartDrawingTest, AZoomedLineCrossesThePlotBetweenItsPoints) {
+  chart_.SetSeries(0, {.title = "a", .x = {400, 4000}, .y = {0, 1}});
+  chart_.Zoom({2000, 2400}, {0.4, 0.6});
+  Recorder surface;
+  const ChartLayout layout = DrawChart(chart_, surface);
+  ASSERT_EQ(surface.lines.size(), 1U);
+  // On a straight line y = (x - 400) / 3600.
+  const Point first = surface.lines[0].points.front();
+  const Point last = surface.lines[0].points.back();
+  const double slope = (last.y - first.y) / (last.x - first.x);
+  const double expected =
+      (layout.PixelY(1, false) - layout.PixelY(0, false)) / (layout.PixelX(4000) - layout.PixelX(400));
+  EXPECT_NEAR(slope, expected, 1e-9);
+}
+
+TEST_F(ChartDrawingTest, TheLegendNamesOnlySeriesWithTitleAndPoints) {
+  chart_.SetSeries(0, {.title = "Standard", .x = {500, 600}, .y = {0, 1}});
+  chart_.SetSeries(1, {.title = "", .x = {500, 600}, .y = {0, 1}});
+  chart_.SetSeries(2, {.title = "Empty", .x = {}, .y = {}});
+  Recorder surface;
+  const ChartLayout layout = DrawChart(chart_, surface);
+  ASSERT_EQ(layout.legend.size(), 1U);
+  EXPECT_NE(surface.Find("Standard"), nullptr);
+  EXPECT_EQ(surface.Find("Empty"), nullptr);
+}
+
+TEST_F(ChartDrawingTest, TheVerdictIsAWordInLargeBoldLettersOfItsColour) {
+  chart_.SetLabel(Chart::kVerdictLabel, "FAIL");
+  chart_.SetVerdictColour(VerdictColour::kFail);
+  Recorder failed;
+  DrawChart(chart_, failed);
+  const auto* fail = failed.Find("FAIL");
+  ASSERT_NE(fail, nullptr);
+  EXPECT_GE(fail->height, 2 * failed.FontHeight());
+  EXPECT_EQ(fail->weight, TextWeight::kBold);
+  EXPECT_GT(fail->colour.red, 2 * fail->colour.green);
+  chart_.SetLabel(Chart::kVerdictLabel, "PASS");
+  chart_.SetVerdictColour(VerdictColour::kPass);
+  Recorder passed;
+  DrawChart(chart_, passed);
+  ASSERT_NE(passed.Find("PASS"), nullptr);
+  EXPECT_GT(passed.Find("PASS")->colour.green, 2 * passed.Find("PASS")->colour.red);
+}
+
+TEST_F(ChartDrawingTest, NoTwoTextsAboveThePlotOverlap) {
+  std::vector<ChartMarker> markers;
+  for (int i = 0; i < 40; ++i) markers.push_back({1000.0 + 17 * i, std::to_string(1000 + 17 * i)});
+  chart_.SetMarkers(markers);
+  chart_.SetHeader({std::string(400, 'x'), "second line"});
+  chart_.SetLabel(0, "first label");
+  chart_.SetLabel(Chart::kVerdictLabel, "PASS");
+  for (int i = 0; i < 9; ++i) {
+    chart_.SetSeries(static_cast<std::size_t>(i),
+                     {.title = "A series with a long name " + std::to_string(i), .x = {500}, .y = {1}});
+  }
+  Recorder surface;
+  const ChartLayout layout = DrawChart(chart_, surface);
+  std::vector<Recorder::DrawnText> above;
+  for (const auto& text : surface.texts) {
+    if (text.at.y + text.height <= layout.plot.top) above.push_back(text);
+  }
+  EXPECT_GT(above.size(), 15U);
+  for (std::size_t i = 0; i < above.size(); ++i) {
+    for (std::size_t j = 0; j < i; ++j) {
+      const auto& a = above[i];
+      const auto& b = above[j];
+      const bool beside = a.at.x + surface.Measure(a.text, a.height, a.weight).width <= b.at.x ||
+                          b.at.x + surface.Measure(b.text, b.height, b.weight).width <= a.at.x;
+      EXPECT_TRUE(beside || a.at.y + a.height * 0.99 <= b.at.y || b.at.y + b.height * 0.99 <= a.at.y)
+          << a.text << " / " << b.text;
+    }
+  }
+  EXPECT_EQ(layout.markers.size(), 40U);
+}
+
+TEST_F(ChartDrawingTest, TheSecondAxisShowsWhenASeriesUsesItAndFollowsTheZoom) {
+  chart_.SetSeries(0, {.title = "a", .x = {500, 600}, .y = {0, 1}});
+  chart_.SetY2({0, 10});
+  Recorder surface;
+  EXPECT_FALSE(LayOutChart(chart_, surface).has_second_axis);
+  chart_.SetSeries(1, {.title = "b", .x = {500, 600}, .y = {0, 10}, .onSecondAxis = true});
+  EXPECT_TRUE(LayOutChart(chart_, surface).has_second_axis);
+  chart_.Zoom({400, 1000}, {0.5, 1});
+  const ChartLayout zoomed = LayOutChart(chart_, surface);
+  EXPECT_DOUBLE_EQ(zoomed.view_y2.minimum, 5);
+  EXPECT_DOUBLE_EQ(zoomed.view_y2.maximum, 10);
+}
+
+TEST_F(ChartDrawingTest, AnyLimitsAndAnySurfaceCanBeDrawn) {
+  const double nan = std::numeric_limits<double>::quiet_NaN();
+  chart_.SetSeries(0, {.title = "a", .x = {500, 600}, .y = {0, 1}, .onSecondAxis = true});
+  chart_.SetMarkers({{nan, "x"}, {550, "550"}});
+  chart_.SetRegions({{nan, 3, ""}, {600, 500, "reversed"}});
+  chart_.SetLabel(Chart::kVerdictLabel, "PASS");
+  for (const AxisLimits limits :
+       {AxisLimits{5, 5}, AxisLimits{nan, 1}, AxisLimits{2, 1}, AxisLimits{-1e308, 1e308}}) {
+    chart_.SetX(limits);
+    chart_.SetY(limits);
+    chart_.SetY2(limits);
+    for (const double size : {1.0, 40.0, 3000.0}) {
+      Recorder surface(size, size, 16);
+      const ChartLayout layout = DrawChart(chart_, surface);
+      EXPECT_GE(layout.plot.width, 1);
+      EXPECT_GE(layout.plot.height, 1);
+      EXPECT_EQ(surface.open_clips, 0);
+      for (const auto& text : surface.texts)
+        EXPECT_TRUE(std::isfinite(text.at.x) && std::isfinite(text.at.y));
+    }
+  }
+}
+
+TEST_F(ChartDrawingTest, APageAndAScreenLookAlike) {
+  chart_.SetTitles("Wavenumber", "Absorbance");
+  chart_.SetHeader({"one"});
+  Recorder screen(1000, 600, 16);
+  Recorder page(500, 300, 8);
+  const PlotArea large = DrawChart(chart_, screen).plot;
+  const PlotArea small = DrawChart(chart_, page).plot;
+  EXPECT_NEAR(large.left, small.left * 2, 1e-9);
+  EXPECT_NEAR(large.top, small.top * 2, 1e-9);
+  EXPECT_NEAR(large.width, small.width * 2, 1e-9);
+  EXPECT_NEAR(large.height, small.height * 2, 1e-9);
+}
+
+}  // namespace
+}  // namespace veritane::platform
