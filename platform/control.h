@@ -85,9 +85,6 @@ public:
   const std::string& ToolTip() const { return tool_tip_; }
   void SetToolTip(const std::string& text) { tool_tip_ = text; }
 
-  // Raised when the pointer moves over the control. The chart has a richer event of its own.
-  std::function<void()> OnPointerMove;
-
   // Calls `watcher` after each change from now on, before the control's own event. Watchers stay for good.
   void Watch(std::function<void(Property)> watcher);
 

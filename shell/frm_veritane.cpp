@@ -53,7 +53,6 @@ FrmVeritane::FrmVeritane(platform::Desktop& desktop, const platform::Machine& ma
       fraSpectrum.SetVisible(spectrum);
     };
   });
-  desktop.AttachForms();
 }
 
 void FrmVeritane::ConnectOperatorHandlers() {
@@ -67,9 +66,6 @@ void FrmVeritane::ConnectSpectrumHandlers() {
   cmdNextSample.OnClick = [this] { cmdNextSample_Click(); };
   cmdResetLimits.OnClick = [this] { cmdResetLimits_Click(); };
   cmdBacktoMainMenu.OnClick = [this] { cmdBacktoMainMenu_Click(); };
-  for (platform::Button* button : {&cmdBacktoMainMenu, &cmdPrint, &cmdResetLimits, &cmdScreenCopy}) {
-    button->OnPointerMove = [this] { Screen().SetMousePointer(platform::Pointer::kDefault); };
-  }
 }
 
 void FrmVeritane::DisableWhatIsNotThereYet() {

@@ -34,6 +34,7 @@ void FrmVeritane::Form_Load() {
   state::MakeTablesConcrete(machine_.files, state_.folderSet, state::DataFolderBelow(common));
   LoadScreenTexts(dialogs_, *this);
   PrepareGrid();
+  Screen().AttachForms();
   DeleteStalePrintView();
   ShowVersionTitle();
   Screen().SetMousePointer(Pointer::kHourglass);

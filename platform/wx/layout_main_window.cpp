@@ -1,5 +1,6 @@
 // The main window: its three panels in one place, the operator's panel, and the spectrum panel.
 #include <wx/stattext.h>
+#include <wx/wrapsizer.h>
 
 #include "platform/wx/layout_parts.h"
 #include "platform/wx/layouts.h"
@@ -82,13 +83,11 @@ wxWindow* LayOutSpectrumPanel(FormBuilder& builder, wxWindow* parent) {
   wxWindow* copy = builder.Add("cmdScreenCopy", panel);
   wxWindow* back = builder.Add("cmdBacktoMainMenu", panel);
   next->SetFont(next->GetFont().Bold());
-  auto* buttons = new wxBoxSizer(wxHORIZONTAL);
-  buttons->Add(ButtonRow(panel, {next}), wxSizerFlags().CentreVertical());
-  buttons->AddSpacer(WideGap(panel) * 2);
-  buttons->Add(ButtonRow(panel, {reset, print, copy}), wxSizerFlags().CentreVertical());
-  buttons->AddSpacer(WideGap(panel) * 2);
-  buttons->AddStretchSpacer();
-  buttons->Add(ButtonRow(panel, {back}), wxSizerFlags().CentreVertical());
+  // With large fonts the row is wider than a screen; it then goes on in a second one.
+  auto* buttons = new wxWrapSizer(wxHORIZONTAL, wxREMOVE_LEADING_SPACES);
+  for (wxWindow* button : {next, reset, print, copy, back}) {
+    buttons->Add(button, wxSizerFlags().Border(wxRIGHT | wxBOTTOM, Gap(panel)));
+  }
 
   const int gap = Gap(panel);
   auto* inside = new wxBoxSizer(wxVERTICAL);

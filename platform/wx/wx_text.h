@@ -11,7 +11,7 @@ namespace veritane::platform {
 wxString ToWx(const std::string& text);
 std::string FromWx(const wxString& text);
 
-// The letter behind a caption's single "&", in upper case; 0 when it has none. Some captions have several.
+// Whether `letter` follows an "&" of the caption, in either case. Some captions have several; "&&" is none.
 bool HasAccessKey(const std::string& caption, wxUniChar letter);
 
 }  // namespace veritane::platform
