@@ -1,6 +1,8 @@
 // Reading and writing the methods list.
 #include "acquisition/method_list.h"
 
+#include <algorithm>
+
 #include "platform/number_text.h"
 #include "platform/text_file.h"
 #include "platform/windows_path.h"
@@ -11,6 +13,7 @@ std::vector<std::string> ReadMethodList(std::string_view bytes) {
   platform::TextReader reader(bytes);
   const int count = reader.ReadInt16();
   std::vector<std::string> paths;
+  paths.reserve(static_cast<std::size_t>(std::max(count, 0)));
   for (int i = 0; i < count; ++i) paths.push_back(reader.ReadLine());
   return paths;
 }

@@ -1,6 +1,8 @@
 // Reading, searching, writing and showing the product table.
 #include "acquisition/product_table.h"
 
+#include <algorithm>
+
 #include "platform/number_text.h"
 #include "platform/text_file.h"
 #include "platform/windows_path.h"
@@ -32,6 +34,7 @@ std::vector<Product> ReadProductTable(std::string_view bytes) {
   TextReader reader(bytes);
   const int count = reader.ReadInt16();
   std::vector<Product> products;
+  products.reserve(static_cast<std::size_t>(std::max(count, 0)));
   for (int row = 0; row < count; ++row) products.push_back(ReadRow(reader));
   return products;
 }

@@ -2,5 +2,6 @@
 option(VERITANE_WERROR "Warnings are errors" ON)
 
 add_library(veritane_warnings INTERFACE)
-target_compile_options(veritane_warnings INTERFACE -Wno-restrict -Wall -Wextra -Wpedantic -Wconversion -Wshadow
-                       $<$<BOOL:${VERITANE_WERROR}>:-Werror>)
+# GCC 12 sees overlapping copies (-Wrestrict) in plain sums of strings where there are none.
+target_compile_options(veritane_warnings INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wshadow
+                       $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict> $<$<BOOL:${VERITANE_WERROR}>:-Werror>)

@@ -4,7 +4,6 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
-#include <ranges>
 
 #include "identification/correlation_bounds.h"
 #include "platform/run_time_error.h"
@@ -26,14 +25,13 @@ void ApplyNullRegions(state::Ordinates& ordinates, double resolution, std::span<
     }
   }
 
-  // Wavenumbers rise with the point number, so each band is one run of points.
-  const auto point_numbers = std::views::iota(ordinates.lower, ordinates.Upper() + 1);
-  const auto wavenumber = [resolution](std::int32_t point_number) { return point_number * resolution; };
   for (const NullRegion& region : regions) {
-    const auto [low, high] = std::minmax(region.start, region.end);
-    const auto first = std::ranges::lower_bound(point_numbers, low, {}, wavenumber) - point_numbers.begin();
-    const auto behind = std::ranges::upper_bound(point_numbers, high, {}, wavenumber) - point_numbers.begin();
-    std::fill(ordinates.values.begin() + first, ordinates.values.begin() + behind, 0.0);
+    const double low = std::min(region.start, region.end);
+    const double high = std::max(region.start, region.end);
+    for (std::size_t i = 0; i < ordinates.Size(); ++i) {
+      const double wavenumber = (ordinates.lower + static_cast<double>(i)) * resolution;
+      if (wavenumber >= low && wavenumber <= high) ordinates.values[i] = 0;
+    }
   }
 }
 

@@ -27,8 +27,8 @@ int DayOfWeek(const DateTime& moment) {
 }
 
 std::int64_t WallClockSeconds(const DateTime& moment) {
-  return Days(moment).time_since_epoch().count() * kSecondsPerDay + moment.hour * 3600 + moment.minute * 60 +
-         moment.second;
+  return Days(moment).time_since_epoch().count() * kSecondsPerDay + std::int64_t{moment.hour} * 3600 +
+         std::int64_t{moment.minute} * 60 + moment.second;
 }
 
 DateTime FromWallClockSeconds(std::int64_t seconds) {

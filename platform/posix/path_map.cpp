@@ -14,7 +14,7 @@ namespace {
 
 // The entry of `folder` that is called `name`, in any mix of case; `folder / name` when there is none.
 fs::path FindName(const fs::path& folder, const std::string& name) {
-  const fs::path exact = folder / name;
+  fs::path exact = folder / name;
   std::error_code error;
   if (fs::exists(fs::symlink_status(exact, error))) return exact;
   const std::string wanted = UpperCase(name);
@@ -38,7 +38,7 @@ fs::path EnvironmentPath(const char* name) {
 
 }  // namespace
 
-PathMap::PathMap(fs::path root) : root_(fs::absolute(root).lexically_normal()) {
+PathMap::PathMap(const fs::path& root) : root_(fs::absolute(root).lexically_normal()) {
   if (root_.filename().empty()) root_ = root_.parent_path();
 }
 
@@ -51,7 +51,8 @@ bool PathMap::Names(const std::string& windows_path) const {
 fs::path PathMap::ToNative(const std::string& windows_path) const {
   const std::string drive = DriveOf(windows_path);
   if (!Names(windows_path)) {
-    throw RunTimeError(drive.empty() ? ErrorNumber::kBadFileNumber : ErrorNumber::kPathNotFound, windows_path);
+    throw RunTimeError(drive.empty() ? ErrorNumber::kBadFileNumber : ErrorNumber::kPathNotFound,
+                       windows_path);
   }
   fs::path native;
   std::size_t position = 0;
@@ -85,10 +86,11 @@ std::string PathMap::ToWindows(const fs::path& native_path) const {
 }
 
 fs::path DefaultRoot() {
-  if (const fs::path home = EnvironmentPath("VERITANE_HOME"); !home.empty()) return home;
+  if (fs::path root = EnvironmentPath("VERITANE_HOME"); !root.empty()) return root;
   if (const fs::path data = EnvironmentPath("XDG_DATA_HOME"); !data.empty()) return data / "veritane";
-  const fs::path home = EnvironmentPath("HOME");
-  return (home.empty() ? fs::current_path() : home) / ".local" / "share" / "veritane";
+  fs::path home = EnvironmentPath("HOME");
+  if (home.empty()) home = fs::current_path();
+  return home / ".local" / "share" / "veritane";
 }
 
 }  // namespace veritane::platform

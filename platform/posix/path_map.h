@@ -10,7 +10,7 @@ namespace veritane::platform {
 class PathMap {
 public:
   // `root` is the data root; its subfolder "drive_c" is drive C.
-  explicit PathMap(std::filesystem::path root);
+  explicit PathMap(const std::filesystem::path& root);
 
   const std::filesystem::path& Root() const { return root_; }
 
