@@ -9,8 +9,8 @@
 
 namespace veritane::acquisition {
 
-std::vector<std::string> ReadMethodList(std::string_view bytes) {
-  platform::TextReader reader(bytes);
+std::vector<std::string> ReadMethodList(std::string_view bytes, const std::string& path) {
+  platform::TextReader reader(bytes, path);
   const int count = reader.ReadInt16();
   std::vector<std::string> paths;
   paths.reserve(static_cast<std::size_t>(std::max(count, 0)));
@@ -33,7 +33,7 @@ std::string MethodShortName(const std::string& path, const std::string& previous
 
 void LoadMethodList(const platform::FileSystem& files, const std::string& path, state::ProgramState& state,
                     const MethodListControls& controls) {
-  std::vector<std::string> paths = ReadMethodList(files.ReadBytes(path));
+  std::vector<std::string> paths = ReadMethodList(files.ReadBytes(path), path);
   std::vector<std::string> names;
   std::string name;
   for (const std::string& method : paths) {

@@ -12,7 +12,7 @@
 namespace veritane::acquisition {
 
 // The full paths of the list's text. Errors 62 and 13 as for every table.
-std::vector<std::string> ReadMethodList(std::string_view bytes);
+std::vector<std::string> ReadMethodList(std::string_view bytes, const std::string& path = "");
 
 // The list's text: the count, then a path a line.
 std::string MethodListText(const std::vector<std::string>& paths);

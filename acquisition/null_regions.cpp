@@ -15,7 +15,7 @@ void LoadNullRegions(const platform::FileSystem& files, state::ProgramState& sta
   state.nullRegions.clear();
   const std::string path = NullRegionPath(state.folders, state.clmName);
   if (!files.FileExists(path)) return;
-  platform::TextReader reader(files.ReadBytes(path));
+  platform::TextReader reader(files.ReadBytes(path), path);
   const int count = reader.ReadInt16();
   for (int region = 0; region < count; ++region) {
     // "2400 - 2300": the start before the first hyphen, the end behind it.

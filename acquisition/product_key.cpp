@@ -11,7 +11,7 @@ std::string ProductKey(const platform::FileSystem& files, const state::DataFolde
                        const std::string& product_id) {
   const std::string path = folders.InStandards("ProductID.par");
   if (!files.FileExists(path)) return product_id;
-  platform::TextReader reader(files.ReadBytes(path));
+  platform::TextReader reader(files.ReadBytes(path), path);
   const int start = reader.ReadInt16();
   const int length = reader.ReadInt16();
   if (start < 1 || length < 0) throw platform::RunTimeError(platform::ErrorNumber::kInvalidCall, path);

@@ -30,8 +30,8 @@ Product ReadRow(TextReader& reader) {
 
 }  // namespace
 
-std::vector<Product> ReadProductTable(std::string_view bytes) {
-  TextReader reader(bytes);
+std::vector<Product> ReadProductTable(std::string_view bytes, const std::string& path) {
+  TextReader reader(bytes, path);
   const int count = reader.ReadInt16();
   std::vector<Product> products;
   products.reserve(static_cast<std::size_t>(std::max(count, 0)));
@@ -39,9 +39,9 @@ std::vector<Product> ReadProductTable(std::string_view bytes) {
   return products;
 }
 
-std::optional<Product> FindProduct(std::string_view bytes, const std::string& key) {
+std::optional<Product> FindProduct(std::string_view bytes, const std::string& key, const std::string& path) {
   const std::string wanted = platform::UpperCase(key);
-  TextReader reader(bytes);
+  TextReader reader(bytes, path);
   const int count = reader.ReadInt16();
   for (int row = 0; row < count; ++row) {
     Product product = ReadRow(reader);
@@ -62,7 +62,7 @@ std::string ProductTableText(const std::vector<Product>& products) {
 
 void LoadProductTable(const platform::FileSystem& files, const std::string& path, platform::Grid& grid) {
   std::vector<std::vector<std::string>> rows;
-  for (Product& product : ReadProductTable(files.ReadBytes(path))) {
+  for (Product& product : ReadProductTable(files.ReadBytes(path), path)) {
     rows.push_back({std::move(product.productId), std::move(product.collectMethod),
                     std::move(product.algorithm), std::move(product.additionalFile)});
   }
@@ -71,8 +71,9 @@ void LoadProductTable(const platform::FileSystem& files, const std::string& path
                  Text(TextId::kAlgorithmHeader) + " |<File Name");
   grid.SetBody(std::move(rows));
   if (grid.RowCount() < 2) return;
+  const bool is_there_already = grid.Row() == 1 && grid.Column() == 0;
   grid.SetCurrentCell(1, 0);
-  if (grid.OnRowColChange) grid.OnRowColChange();
+  if (is_there_already && grid.OnRowColChange) grid.OnRowColChange();
 }
 
 }  // namespace veritane::acquisition

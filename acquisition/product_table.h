@@ -19,12 +19,13 @@ struct Product {
   bool operator==(const Product&) const = default;
 };
 
-// All rows of the table's text. Error 62 when the text ends before the counted rows, 13 when the count is no
-// number.
-std::vector<Product> ReadProductTable(std::string_view bytes);
+// All rows of the table's text; `path` is for the text of errors. Error 62 when the text ends before the
+// counted rows, 13 when the count is no number.
+std::vector<Product> ReadProductTable(std::string_view bytes, const std::string& path = "");
 
 // The first row whose Product ID is `key`, without regard to case. Rows behind it are not read.
-std::optional<Product> FindProduct(std::string_view bytes, const std::string& key);
+std::optional<Product> FindProduct(std::string_view bytes, const std::string& key,
+                                   const std::string& path = "");
 
 // The table's text: the count, then a line a product.
 std::string ProductTableText(const std::vector<Product>& products);

@@ -13,9 +13,9 @@ Prompts LoadPrompts(const platform::FileSystem& files, const state::DataFolders&
     return {.background = state::Text(state::TextId::kDefaultBackgroundPrompt),
             .sample = state::Text(state::TextId::kDefaultSamplePrompt)};
   }
-  platform::TextReader reader(files.ReadBytes(path));
+  platform::TextReader reader(files.ReadBytes(path), path);
   Prompts prompts;
-  prompts.background = reader.ReadLine();
+  prompts.background = reader.AtEnd() ? "" : reader.ReadLine();
   prompts.sample = reader.AtEnd() ? "" : reader.ReadLine();
   return prompts;
 }

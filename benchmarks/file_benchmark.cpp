@@ -34,6 +34,7 @@ std::string DocumentText(const std::vector<simulator::StoredSpectrum>& spectra) 
 void WriteDocumentOf50Spectra(benchmark::State& state) {
   const std::vector<simulator::StoredSpectrum> spectra = FiftySpectra();
   for (auto _ : state) benchmark::DoNotOptimize(DocumentText(spectra));
+  state.SetBytesProcessed(state.iterations() * static_cast<std::int64_t>(DocumentText(spectra).size()));
 }
 BENCHMARK(WriteDocumentOf50Spectra)->Unit(benchmark::kMillisecond);
 
@@ -45,6 +46,7 @@ void ReadDocumentOf50Spectra(benchmark::State& state) {
       state.SkipWithError("the document came back incomplete");
     }
   }
+  state.SetBytesProcessed(state.iterations() * static_cast<std::int64_t>(text.size()));
 }
 BENCHMARK(ReadDocumentOf50Spectra)->Unit(benchmark::kMillisecond);
 

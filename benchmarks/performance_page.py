@@ -15,6 +15,7 @@ ROWS = {
     "ReadDocumentOf50Spectra": "The same document read back",
     "LoadProductTableOf10000Rows": "Product table of 10,000 rows",
     "FindLastOf10000Products": "The last of these products looked up",
+    "CollectAgainstBackground": "A collection of 3,601 points computed by the simulated instrument",
 }
 NANOSECONDS = {"ns": 1, "us": 1e3, "ms": 1e6, "s": 1e9}
 
@@ -40,12 +41,14 @@ def main():
     numpy = json.loads(pathlib.Path(sys.argv[2]).read_text())
     compiler, page = sys.argv[3], pathlib.Path(sys.argv[4])
 
-    times, qualities = {}, set()
+    times, rates, qualities = {}, {}, set()
     for run in benchmarks["benchmarks"]:
         if run.get("error_occurred"):
             sys.exit(f"{run['run_name']}: {run['error_message']}")
         if run["run_type"] == "iteration":
             times.setdefault(run["run_name"], []).append(run["cpu_time"] * NANOSECONDS[run["time_unit"]])
+            if "bytes_per_second" in run:
+                rates.setdefault(run["run_name"], []).append(run["bytes_per_second"] / 1e6)
             if "quality" in run:
                 qualities.add(round(run["quality"], 2))
     if qualities != {numpy["quality"]}:
@@ -60,13 +63,15 @@ def main():
         f"- Machine: {processor()}, {context['num_cpus']} processors, {platform.system()} {platform.machine()}",
         f"- Compiler: {compiler}, preset \"benchmark\" (`-O3`, strict floating-point arithmetic)",
         f"- Date: {context['date'][:10]}; load average at the start: {context['load_avg'][0]:.2f}", "",
-        "| | median | best |", "|---|---:|---:|",
+        "| | median | best | median rate |", "|---|---:|---:|---:|",
     ]
     for name, title in ROWS.items():
         runs = sorted(times[name])
-        lines.append(f"| {title} | {time_text(runs[len(runs) // 2])} | {time_text(runs[0])} |")
+        rate = sorted(rates.get(name, []))
+        rate_text = f"{rate[len(rate) // 2]:.0f} MB/s" if rate else ""
+        lines.append(f"| {title} | {time_text(runs[len(runs) // 2])} | {time_text(runs[0])} | {rate_text} |")
     lines.append(f"| The same Euclidean comparison in numpy {numpy['numpy']} | {time_text(numpy['median_ns'])} | "
-                 f"{time_text(numpy['best_ns'])} |")
+                 f"{time_text(numpy['best_ns'])} | |")
     euclidean = sorted(times["EuclideanComparisonWithPreparation"])
     lines += [
         "",

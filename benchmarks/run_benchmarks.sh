@@ -1,16 +1,14 @@
 #!/bin/sh
 # Builds the preset "benchmark", runs all benchmarks and the same comparison in numpy, and writes
-# docs/performance.md. Installs python3-numpy where it is missing (as root, on Debian).
+# docs/performance.md. Run it on a machine that does nothing else.
 set -eu
 cd "$(dirname "$0")/.."
 
-/usr/bin/python3 -c 'import numpy' 2>/dev/null || apt-get install -y --no-install-recommends python3-numpy
+packaging/install_dependencies build check
+packaging/build benchmark
 results=$(mktemp -d)
 trap 'rm -rf "$results"' EXIT
 
-# GCC 12 warns of overlapping copies inside std::string at -O3 where there are none; warnings count elsewhere.
-cmake --preset benchmark -DVERITANE_WERROR=OFF
-cmake --build --preset benchmark --target veritane_benchmarks
 build/benchmark/bin/veritane_benchmarks --benchmark_repetitions=15 --benchmark_min_time=0.1 \
   --benchmark_out="$results/benchmarks.json" --benchmark_out_format=json
 /usr/bin/python3 benchmarks/numpy_comparison.py > "$results/numpy.json"

@@ -25,13 +25,24 @@ void ApplyNullRegions(state::Ordinates& ordinates, double resolution, std::span<
     }
   }
 
+  // Wavenumbers rise with the point number, so each band is one run of points.
+  const double points = static_cast<double>(ordinates.Size());
+  // How many points come before the first one for which `is_behind` holds; `estimate` is off by rounding at
+  // most.
+  const auto points_before = [&](double estimate, auto is_behind) {
+    double count = std::clamp(std::floor(estimate) - ordinates.lower, 0.0, points);
+    while (count > 0 && is_behind((ordinates.lower + count - 1) * resolution)) --count;
+    while (count < points && !is_behind((ordinates.lower + count) * resolution)) ++count;
+    return static_cast<std::ptrdiff_t>(count);
+  };
   for (const NullRegion& region : regions) {
     const double low = std::min(region.start, region.end);
     const double high = std::max(region.start, region.end);
-    for (std::size_t i = 0; i < ordinates.Size(); ++i) {
-      const double wavenumber = (ordinates.lower + static_cast<double>(i)) * resolution;
-      if (wavenumber >= low && wavenumber <= high) ordinates.values[i] = 0;
-    }
+    const auto first =
+        points_before(low / resolution, [low](double wavenumber) { return wavenumber >= low; });
+    const auto behind =
+        points_before(high / resolution, [high](double wavenumber) { return wavenumber > high; });
+    std::fill(ordinates.values.begin() + first, ordinates.values.begin() + behind, 0.0);
   }
 }
 

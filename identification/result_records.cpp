@@ -33,7 +33,8 @@ void AppendHistogramLine(platform::FileSystem& files, const std::string& sample_
                          const platform::DateTime& now) {
   const std::string path = HistogramPath(sample_file);
   std::string text;
-  if (!files.FileExists(path)) text.append(kHeader).append(platform::kLineEnd);
+  if (!files.FileExists(path) || files.ReadBytes(path).empty())
+    text.append(kHeader).append(platform::kLineEnd);
   const std::string quality =
       HasMatchQuality(result.algorithm) ? platform::NumberText(result.comparison) : "";
   for (const std::string& field :

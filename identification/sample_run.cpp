@@ -1,6 +1,8 @@
 // The sample run step by step.
 #include "identification/sample_run.h"
 
+#include <set>
+
 #include "acquisition/collection.h"
 #include "acquisition/product_key.h"
 #include "acquisition/product_table.h"
@@ -55,12 +57,11 @@ SampleRun::SampleRun(acquisition::Bench& bench, FrmSamp& frm_samp, platform::App
     : bench_(bench), state_(bench.state), session_(bench.session), frm_samp_(frm_samp), log_(log) {}
 
 void SampleRun::Run(const acquisition::BackgroundSchedule& schedule) {
+  const DrivenApplication driven(bench_);
   ClearResult();
   frm_samp_.ShowModal();
   if (frm_samp_.cancelled || bench_.desktop.Ended()) return;
-  if (!FindProduct()) return;
-  const DrivenApplication driven(bench_);
-  RunForProduct(schedule);
+  if (FindProduct()) RunForProduct(schedule);
 }
 
 void SampleRun::ClearResult() {
@@ -87,6 +88,7 @@ bool SampleRun::Refuse(const std::string& text) {
 
 bool SampleRun::FindProduct() {
   const platform::FileSystem& files = bench_.machine.files;
+  const std::string table = state_.folders.appDir + state_.folderSet.methTable;
   state_.prod = acquisition::ProductKey(files, state_.folders, frm_samp_.cmbStandards.Text());
   state_.tmpRefName = state_.folders.InStandards(state_.prod);
   state_.tmpSampName = state_.folders.InSamples(state_.prod + ".bsp");
@@ -97,8 +99,10 @@ bool SampleRun::FindProduct() {
     state::Notice(bench_.desktop, TextId::kProductNotFound, MessageIcon::kCritical);
     return false;
   }
-  if (const std::string why = platform::WhyNotAFileName(state_.prod); !why.empty()) {
-    return Refuse("The Product ID \"" + state_.prod + "\" cannot name a sample file. " + why);
+  for (const std::string& name : {state_.prod, product->collectMethod}) {
+    if (const std::string why = platform::WhyNotAFileName(name); !why.empty()) {
+      return Refuse("\"" + name + "\" cannot name the product's files. " + why);
+    }
   }
   state_.clmName = product->collectMethod;
   state_.algorithm = product->algorithm;
@@ -126,16 +130,26 @@ void SampleRun::RunForProduct(const acquisition::BackgroundSchedule& schedule) {
     state_.comparison = Compare(state_);
   }
   ShowResult();
-  const platform::DateTime now = bench_.machine.clock.LocalNow();
-  AppendHistogramLine(bench_.machine.files, state_.tmpSampName,
-                      {.sampleName = frm_samp_.txtSampName.Text(),
-                       .productId = frm_samp_.cmbStandards.Text(),
-                       .algorithm = state_.algorithm,
-                       .comparison = state_.comparison,
-                       .passThreshold = state_.options.passThreshold,
-                       .operatorName = frm_samp_.txtOperatorName.Text()},
-                      bench_.machine.regional, now);
-  NameResultInSampleFile();
+  // What fails from here on is told over the result, which the operator must not lose.
+  bench_.desktop.Perform([this] { RecordResult(); });
+  bench_.desktop.Perform([this] { NameResultInSampleFile(); });
+}
+
+void SampleRun::RecordResult() {
+  try {
+    AppendHistogramLine(bench_.machine.files, state_.tmpSampName,
+                        {.sampleName = frm_samp_.txtSampName.Text(),
+                         .productId = frm_samp_.cmbStandards.Text(),
+                         .algorithm = state_.algorithm,
+                         .comparison = state_.comparison,
+                         .passThreshold = state_.options.passThreshold,
+                         .operatorName = frm_samp_.txtOperatorName.Text()},
+                        bench_.machine.regional, bench_.machine.clock.LocalNow());
+  } catch (const platform::RunTimeError& error) {
+    throw platform::RunTimeError(error.Number(), std::string(error.what()) + "\r\nThe sample is filed in " +
+                                                     state_.tmpSampName +
+                                                     ", but its result could not be recorded.");
+  }
 }
 
 void SampleRun::LoadStandard() {
@@ -177,10 +191,17 @@ bool SampleRun::OpenSampleDocument() {
 }
 
 bool SampleRun::FindRollOverName() {
-  const std::string stem =
-      state_.tmpSampName.substr(0, state_.tmpSampName.size() - std::string(".bsp").size());
+  const std::string table = state_.folders.appDir + state_.folderSet.methTable;
+  std::set<std::string> products;
+  for (const acquisition::Product& product :
+       acquisition::ReadProductTable(bench_.machine.files.ReadBytes(table), table)) {
+    products.insert(platform::UpperCase(product.productId));
+  }
   for (int number = 1; number <= kMostFullFiles; ++number) {
-    roll_over_name_ = stem + "-" + std::to_string(number) + ".bsp";
+    const std::string name = state_.prod + "-" + std::to_string(number);
+    // A product may be called what a numbered file of another is called; its spectra stay its own.
+    if (products.contains(platform::UpperCase(name))) continue;
+    roll_over_name_ = state_.folders.InSamples(name + ".bsp");
     if (!bench_.machine.files.FileExists(roll_over_name_)) return true;
   }
   bench_.desktop.ShowMessage({.text = Text(TextId::kSpectraLimit),

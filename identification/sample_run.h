@@ -37,6 +37,7 @@ private:
   bool IsConsistent();
   void FileSample();
   void ShowResult();
+  void RecordResult();
   void NameResultInSampleFile();
   bool Refuse(const std::string& text);
 

@@ -55,7 +55,9 @@ void CheckBox::SetChecked(bool checked) {
 void TextBox::SetText(const std::string& text) {
   highlight_start_ = 0;
   highlight_length_ = 0;
-  ReplaceText(text);
+  std::string shown = text;
+  if (!isMultiLine) std::erase_if(shown, [](char c) { return static_cast<unsigned char>(c) < 0x20; });
+  ReplaceText(shown);
 }
 
 void TextBox::ReplaceText(const std::string& text) {

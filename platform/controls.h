@@ -85,6 +85,7 @@ public:
   std::function<bool(int key)> OnKeyPress;
 
   const std::string& Text() const { return text_; }
+  // A box of one line takes no control characters: they are dropped.
   void SetText(const std::string& text);
 
   // Raises KeyPress; the caller inserts the character when the answer is true.

@@ -59,7 +59,7 @@ Integer ToInteger(double value) {
   const double rounded = std::nearbyint(value);
   if (!(rounded >= static_cast<double>(std::numeric_limits<Integer>::min()) &&
         rounded <= static_cast<double>(std::numeric_limits<Integer>::max()))) {
-    throw RunTimeError(ErrorNumber::kOverflow);
+    throw RunTimeError(ErrorNumber::kOverflow, std::to_string(value));
   }
   return static_cast<Integer>(rounded);
 }

@@ -39,15 +39,26 @@ std::string DecodeText(std::string_view bytes) {
   return text;
 }
 
-TextReader::TextReader(std::string_view bytes) : text_(DecodeText(bytes)) {}
+TextReader::TextReader(std::string_view bytes, std::string source)
+    : text_(DecodeText(bytes)), source_(std::move(source)) {}
+
+void TextReader::RequireMore() const {
+  if (AtEnd()) throw RunTimeError(ErrorNumber::kPastEndOfFile, source_);
+}
+
+// Where the next field begins, as the beginning of an error's text.
+std::string TextReader::Place() const {
+  return source_ + (source_.empty() ? "line " : ", line ") + std::to_string(line_) + ": ";
+}
 
 void TextReader::SkipLineEnd() {
+  ++line_;
   if (position_ < text_.size() && text_[position_] == '\r') ++position_;
   if (position_ < text_.size() && text_[position_] == '\n') ++position_;
 }
 
 std::string TextReader::ReadLine() {
-  if (AtEnd()) throw RunTimeError(ErrorNumber::kPastEndOfFile);
+  RequireMore();
   const std::size_t begin = position_;
   while (position_ < text_.size() && !IsLineEnd(text_[position_])) ++position_;
   std::string line = text_.substr(begin, position_ - begin);
@@ -56,7 +67,7 @@ std::string TextReader::ReadLine() {
 }
 
 std::string TextReader::ReadField() {
-  if (AtEnd()) throw RunTimeError(ErrorNumber::kPastEndOfFile);
+  RequireMore();
   const auto skip_blanks = [this] {
     while (position_ < text_.size() && IsBlank(text_[position_])) ++position_;
   };
@@ -83,13 +94,20 @@ std::string TextReader::ReadField() {
 }
 
 std::int16_t TextReader::ReadInt16() {
-  return ToInt16(ReadDouble());
+  const std::string place = Place();
+  const double number = ReadDouble();
+  try {
+    return ToInt16(number);
+  } catch (const RunTimeError&) {
+    throw RunTimeError(ErrorNumber::kOverflow, place + PlainNumberText(number) + " is too large");
+  }
 }
 
 double TextReader::ReadDouble() {
+  const std::string place = Place();
   const std::string field = ReadField();
   const std::optional<double> number = ParseNumber(field);
-  if (!number) throw RunTimeError(ErrorNumber::kTypeMismatch, "\"" + field + "\" is not a number");
+  if (!number) throw RunTimeError(ErrorNumber::kTypeMismatch, place + "\"" + field + "\" is not a number");
   return *number;
 }
 

@@ -17,8 +17,9 @@ std::string DecodeText(std::string_view bytes);
 // LF or CR; a missing last line end does not matter.
 class TextReader {
 public:
-  // Keeps a copy of the text. `bytes` as they come from the file.
-  explicit TextReader(std::string_view bytes);
+  // Keeps a copy of the text. `bytes` as they come from the file; `source` is its path, for the text of
+  // errors.
+  explicit TextReader(std::string_view bytes, std::string source = "");
 
   bool AtEnd() const { return position_ >= text_.size(); }
 
@@ -33,8 +34,12 @@ public:
 
 private:
   void SkipLineEnd();
+  void RequireMore() const;
+  std::string Place() const;
 
   std::string text_;
+  std::string source_;
+  int line_ = 1;
   std::size_t position_ = 0;
 };
 

@@ -34,6 +34,10 @@ std::string UpperCase(std::string_view text) {
       c -= 32;
     } else if (c >= 0xE0 && c <= 0xFE && c != 0xF7) {
       c -= 32;
+    } else if ((c >= 0x3B1 && c <= 0x3CB && c != 0x3C2) || (c >= 0x430 && c <= 0x44F)) {
+      c -= 32;
+    } else if (c >= 0x450 && c <= 0x45F) {
+      c -= 80;
     } else if (c == 0xFF) {
       c = 0x178;
     } else if ((c >= 0x100 && c <= 0x137 && c != 0x131) || (c >= 0x14A && c <= 0x177)) {

@@ -11,7 +11,7 @@ std::string LeafName(std::string_view path);
 // The text before the last "\", or "" where there is none.
 std::string FolderOf(std::string_view path);
 
-// ASCII letters and those of Latin-1 and Latin Extended-A in upper case (UTF-8 in and out); other characters
+// Latin, Greek and Cyrillic letters in upper case (UTF-8 in and out); other characters
 // as they are. Used wherever names are compared without regard to case.
 std::string UpperCase(std::string_view text);
 

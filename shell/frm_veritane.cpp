@@ -20,7 +20,7 @@ FrmVeritane::FrmVeritane(platform::Desktop& desktop, const platform::Machine& ma
             std::vector<std::string> ids;
             const std::string table = state_.folders.appDir + state_.folderSet.methTable;
             for (const acquisition::Product& product :
-                 acquisition::ReadProductTable(machine_.files.ReadBytes(table))) {
+                 acquisition::ReadProductTable(machine_.files.ReadBytes(table), table)) {
               ids.push_back(product.productId);
             }
             return ids;
@@ -79,7 +79,7 @@ void FrmVeritane::DisableWhatIsNotThereYet() {
 }
 
 void FrmVeritane::cmdSample_Click() {
-  identification::SampleRun run(bench_, dialogs_.frmSamp, *log_);
+  identification::SampleRun run(bench_, dialogs_.frmSamp, Log());
   run.Run({.beforeEverySample = optBackBeforeSample.Checked(),
            .byInterval = optBackInterval.Checked(),
            .intervalHours = platform::LeadingNumber(txtbackInterval.Text())});

@@ -65,7 +65,8 @@ private:
   void ShowVersionTitle();
   void DeleteStalePrintView();
   void CreateSpectrometerObject();
-  void OpenLog();
+  // The run log; opened when it is not open yet.
+  platform::AppendingFile& Log();
   bool LoadCalibrationMethod();
   void Calibrate();
   void FillAlgorithmLists();
@@ -78,6 +79,9 @@ private:
   bool SupervisorMayEnter();
   std::string AskPassword(state::TextId prompt);
   bool PrintOptionsAreComplete();
+  bool ThresholdIsRight();
+  bool IntervalIsRight();
+  bool SaveSettingsOrAsk();
 
   platform::Machine machine_;
   acquisition::CreateSpectrometerApp create_spectrometer_app_;

@@ -11,8 +11,10 @@ void FrmVeritane::LoadSettings() {
     state_.options = state::ReadSettings(machine_.files.ReadBytes(state_.folders.appDir + "settings.ini"));
   } catch (const platform::RunTimeError&) {
     // No file, or one that cannot be trusted in any line: begin with the defaults, and a file that can be
-    // read.
+    // read. A program that runs already goes on to measure or to demonstrate as it began.
+    const std::int16_t demo_mode = state_.formStartup == 1 ? std::int16_t{0} : state_.options.demoMode;
     state_.options = {};
+    state_.options.demoMode = demo_mode;
     SaveSettings();
   }
   ApplySettings();

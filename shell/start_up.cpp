@@ -45,7 +45,7 @@ void FrmVeritane::Form_Load() {
   state_.folders = state::SetUpFolders(machine_.folders, machine_.files, state_.folderSet);
   state_.formStartup = 1;
   LoadSettings();
-  OpenLog();
+  Log();
   if (state_.options.demoMode == 0) {
     if (!LoadCalibrationMethod()) return;
     Calibrate();
@@ -85,8 +85,9 @@ void FrmVeritane::CreateSpectrometerObject() {
                                         .busyMilliseconds = 10000});
 }
 
-void FrmVeritane::OpenLog() {
-  log_ = machine_.files.OpenForAppending(state_.folders.appDir + "log.txt");
+platform::AppendingFile& FrmVeritane::Log() {
+  if (log_ == nullptr) log_ = machine_.files.OpenForAppending(state_.folders.appDir + "log.txt");
+  return *log_;
 }
 
 // False when the program has ended for want of the method.
@@ -148,15 +149,25 @@ void FrmVeritane::LoadMethods() {
                                               &dialogs_.frmSelectMethod.cmbSelectMethod}});
 }
 
-void FrmVeritane::cmdExit_Click() {
-  log_.reset();
+// Whether the program may end: the settings are saved, or the user leaves without them.
+bool FrmVeritane::SaveSettingsOrAsk() {
   try {
     SaveSettings();
-  } catch (const platform::RunTimeError&) {
-    // The program stays, so its log has to be open again.
-    OpenLog();
-    throw;
+    return true;
+  } catch (const platform::RunTimeError& error) {
+    const auto answer =
+        Screen().ShowMessage({.text = "The settings cannot be saved. " + std::string(error.what()) +
+                                      "\r\nLeave Veritane without saving them?",
+                              .title = "Veritane",
+                              .icon = MessageIcon::kQuestion,
+                              .buttons = platform::MessageButtons::kYesNo});
+    return answer == platform::MessageAnswer::kYes;
   }
+}
+
+void FrmVeritane::cmdExit_Click() {
+  log_.reset();
+  if (!SaveSettingsOrAsk()) return;
   IgnoringErrors([this] { session_.SpectrometerApp->Interactive(true); });
   if (state_.going_to_expert == state::kFalse)
     IgnoringErrors([this] { session_.SpectrometerApp->QuitApplication(); });
@@ -165,10 +176,11 @@ void FrmVeritane::cmdExit_Click() {
 }
 
 // The window is closed by the system menu or the system. The application is asked to quit before and after
-// the log is closed, even when it was to stay open for the expert.
+// the log is closed, even when it was to stay open for the expert. Before start-up is done there is nothing
+// to save.
 void FrmVeritane::Form_QueryUnload() {
-  if (log_ == nullptr) return;
-  SaveSettings();
+  if (state_.formStartup != 0 || session_.SpectrometerApp == nullptr) return;
+  if (!SaveSettingsOrAsk()) return;
   session_.SpectrometerApp->QuitApplication();
   log_.reset();
   if (state_.going_to_expert == state::kFalse)

@@ -9,6 +9,8 @@
 #include "shell/frm_veritane.h"
 #include "shell/state/messages.h"
 
+#include <limits>
+
 namespace veritane::shell {
 
 using platform::MessageIcon;
@@ -53,7 +55,7 @@ bool FrmVeritane::SupervisorMayEnter() {
 void FrmVeritane::cmdSupervisor_Click() {
   if (!SupervisorMayEnter()) return;
   const platform::DateTime now = machine_.clock.LocalNow();
-  log_->Append(("Supervisor Mode accessed on " + machine_.regional.ShortDate(now) + " at " +
+  Log().Append(("Supervisor Mode accessed on " + machine_.regional.ShortDate(now) + " at " +
                 machine_.regional.ShortTime(now))
                    .append(platform::kLineEnd));
   Screen().SetMousePointer(Pointer::kHourglass);
@@ -67,6 +69,7 @@ void FrmVeritane::LoadProducts() {
   try {
     acquisition::LoadProductTable(machine_.files, state_.folders.appDir + state_.folderSet.methTable, grid);
   } catch (const platform::RunTimeError& error) {
+    grid.Resize(1, grid.ColumnCount());
     Screen().SetMousePointer(Pointer::kDefault);
     Screen().ShowMessage({.text = std::string("The product table cannot be read. ") + error.what(),
                           .title = state::kPlainNotice,
@@ -91,7 +94,7 @@ void FrmVeritane::lstMeths_Click() {
   const std::string path = acquisition::NullRegionPath(
       state_.folders, state_.methodShortNames.at(static_cast<std::size_t>(lstMeths.Selected())));
   if (!machine_.files.FileExists(path)) return;
-  platform::TextReader reader(machine_.files.ReadBytes(path));
+  platform::TextReader reader(machine_.files.ReadBytes(path), path);
   const int count = reader.ReadInt16();
   for (int region = 0; region < count; ++region) lstNullRegions.Add(reader.ReadLine());
 }
@@ -136,11 +139,28 @@ bool FrmVeritane::txtbackInterval_KeyPress(int key) {
   return (key >= '0' && key <= '9') || key == platform::kBackspaceKey;
 }
 
-void FrmVeritane::txtThreshold_Change() {
+bool FrmVeritane::ThresholdIsRight() {
   const std::optional<double> value = platform::ParseNumber(txtThreshold.Text());
-  if (value && *value >= 0 && *value <= 100) return;
+  if (value && state::IsThreshold(*value)) return true;
   state::Notice(Screen(), TextId::kThresholdRange, MessageIcon::kInformation);
   txtThreshold.SetFocus();
+  return false;
+}
+
+void FrmVeritane::txtThreshold_Change() {
+  ThresholdIsRight();
+}
+
+// Pasted text is not filtered key by key, so the hours are looked at once more.
+bool FrmVeritane::IntervalIsRight() {
+  constexpr double kMostHours = std::numeric_limits<std::int16_t>::max();
+  const std::optional<double> hours = platform::ParseNumber(txtbackInterval.Text());
+  if (hours && *hours >= 0 && *hours <= kMostHours) return true;
+  Screen().ShowMessage({.text = "The hours between backgrounds must be a number from 0 to 32767.",
+                        .title = state::kPlainNotice,
+                        .icon = MessageIcon::kExclamation});
+  txtbackInterval.SetFocus();
+  return false;
 }
 
 void FrmVeritane::optDefaultPrint_Click() {
@@ -180,7 +200,8 @@ bool FrmVeritane::PrintOptionsAreComplete() {
 }
 
 void FrmVeritane::cmdMainMenu_Click() {
-  if (!PrintOptionsAreComplete()) return;
+  // A value that cannot be read back would cost all settings, the password among them.
+  if (!PrintOptionsAreComplete() || !ThresholdIsRight() || !IntervalIsRight()) return;
   if (!optDefaultPrint.Checked()) {
     state_.options.printOption = 1;
     state_.options.printTemplate = lblPrintTemplate.Caption();
@@ -200,6 +221,8 @@ void FrmVeritane::cmdExpertMode_Click() {
   session_.SpectrometerApp->Interactive(true);
   state_.going_to_expert = state::kTrue;
   cmdExit_Click();
+  // Back here the program may have stayed, and its next ending is an ordinary one again.
+  if (!Screen().Ended()) state_.going_to_expert = state::kFalse;
 }
 
 }  // namespace veritane::shell

@@ -28,6 +28,11 @@ inline constexpr const char* kLumivar = "Lumivar";
 inline constexpr const char* kPls = "PLS";
 inline constexpr const char* kMarkPeaks = "Mark Peaks";
 
+// Whether a number can be a Pass/Fail threshold in percent.
+inline bool IsThreshold(double percent) {
+  return percent >= 0 && percent <= 100;
+}
+
 // What the supervisor sets and settings.ini keeps.
 struct Options {
   std::int16_t demoMode = 0;

@@ -1,7 +1,7 @@
 // Reading and writing settings.ini.
 #include "shell/state/settings_file.h"
 
-#include "platform/number_text.h"
+#include "platform/run_time_error.h"
 #include "platform/text_file.h"
 
 namespace veritane::state {
@@ -26,6 +26,7 @@ Options ReadSettings(std::string_view bytes) {
   options.backOption = reader.ReadInt16();
   options.backInterval = reader.ReadInt16();
   options.passThreshold = reader.ReadDouble();
+  if (!IsThreshold(options.passThreshold)) throw platform::RunTimeError(platform::ErrorNumber::kInvalidCall);
   options.printOption = reader.ReadInt16();
   options.printTemplate = reader.ReadField();
   options.addPassFail = reader.ReadInt16();

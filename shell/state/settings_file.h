@@ -18,8 +18,8 @@ struct ShownOptions {
 // The ten lines of the file.
 std::string SettingsText(const Options& options, const ShownOptions& shown);
 
-// Reads the first nine values. Errors 62 (too few), 13 (no number), 6 (a number that does not fit): the whole
-// file is then worth nothing.
+// Reads the first nine values. Errors 62 (too few), 13 (no number), 6 (a number that does not fit), 5 (a
+// threshold that is none): the whole file is then worth nothing.
 Options ReadSettings(std::string_view bytes);
 
 }  // namespace veritane::state

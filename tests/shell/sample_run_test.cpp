@@ -148,7 +148,7 @@ TEST_F(SampleRunTest, CancellingTheDialogInAnyWayDoesNothing) {
   Play({"click frmVeritane.cmdSample", "close frmSamp"});
   Play({"click frmVeritane.cmdSample", "key frmSamp.txtSampName Escape"});
   ExpectNothingHappened();
-  EXPECT_THAT(Calls(), IsEmpty());
+  EXPECT_THAT(Calls(), ElementsAre("Interactive(true)", "Interactive(true)", "Interactive(true)"));
 }
 
 TEST_F(SampleRunTest, NamesMustBeThereBeforeTheDialogGoes) {
@@ -260,6 +260,49 @@ TEST_F(SampleRunTest, AComparisonThatCannotBeMadeEndsInAnErrorAndNeverInAPass) {
     EXPECT_THAT(events.Refusals(), IsEmpty());
     EXPECT_FALSE(IsVisible("frmVeritane.fraSpectrum"));
   }
+}
+
+TEST_F(SampleRunTest, AResultThatCannotBeRecordedStaysOnScreenAndTheOperatorIsTold) {
+  machine_.files.CreateFolder(Sample("ASPIRIN-1.his"));
+  Steps steps = EnterSample("ASPIRIN-1");
+  for (int box = 0; box < 4; ++box) steps.push_back("answer OK");
+  const auto events = Play(steps);
+  EXPECT_EQ(events.Last("error")["number"], 75);
+  EXPECT_THAT(std::string(events.Last("message")["text"]),
+              HasSubstr("The sample is filed in " + Sample("ASPIRIN-1.bsp") +
+                        ", but its result could not be recorded."));
+  EXPECT_TRUE(IsVisible("frmVeritane.fraSpectrum"));
+  EXPECT_EQ(Verdict(), "PASS");
+}
+
+TEST_F(SampleRunTest, TextThatIsNoNameOrBreaksARecordDoesNotGetIn) {
+  WriteProducts({"ASPIRIN-1,..\\evil,Euclidean,", "A:B,Disc,Euclidean,"});
+  for (const char* product : {"ASPIRIN-1", "A:B"}) {
+    Steps steps = EnterSample(product);
+    steps.push_back("answer OK");
+    EXPECT_THAT(Play(steps).Messages(), ElementsAre(HasSubstr("cannot name the product's files"))) << product;
+  }
+  Play({"click frmVeritane.cmdSample", "set frmSamp.txtOperatorName \"Ann\rforged\"",
+        "get frmSamp.txtOperatorName",
+        [this] { EXPECT_EQ(run_.Get("frmSamp.txtOperatorName")["text"], "Annforged"); },
+        "click frmSamp.cmdSampleCancelled"});
+}
+
+TEST_F(SampleRunTest, ANumberedFileNeverTakesTheNameOfAnotherProduct) {
+  WriteProducts({"ASPIRIN-1,Disc,Euclidean,", "ASPIRIN-1-1,Disc,Euclidean,"});
+  RunDemonstration("ASPIRIN-1");
+  Play({"click frmVeritane.cmdBacktoMainMenu"});
+  RunDemonstration("ASPIRIN-1", "Lot 8");
+  EXPECT_THAT(machine_.files.ListFiles(Data("Samples")),
+              ElementsAre("ASPIRIN-1-2.bsp", "ASPIRIN-1.bsp", "ASPIRIN-1.his"));
+}
+
+TEST_F(SampleRunTest, ADamagedTableIsNamedWithItsLine) {
+  Write(Data("Meth.tbl"), " 3 \r\nASPIRIN-1,Disc,Euclidean,\r\n");
+  const auto events = Play({"click frmVeritane.cmdSample", "answer OK"});
+  EXPECT_THAT(std::string(events.Last("message")["text"]),
+              HasSubstr("Input past end of file: " + Data("Meth.tbl")));
+  EXPECT_FALSE(run_.Screen().Find("frmSamp")->Shown());
 }
 
 }  // namespace

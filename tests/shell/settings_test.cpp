@@ -44,6 +44,7 @@ INSTANTIATE_TEST_SUITE_P(Files, DamagedSettingsTest,
                                            "1\r\n1\r\nABC\r\n2\r\n4\r\n\r\n0\r\n\r\n1\r\n1\r\n",
                                            "1\r\n1\r\nABC\r\n2\r\n40000\r\n55\r\n0\r\n\r\n1\r\n1\r\n",
                                            "1\r\n1\r\nA,B\r\n2\r\n4\r\n55\r\n0\r\n\r\n1\r\n1\r\n",
+                                           "1\r\n1\r\nABC\r\n2\r\n4\r\n-1\r\n0\r\n\r\n1\r\n1\r\n",
                                            "1\r\n1\r\nABC\r\n2\r\n4\r\nnan\r\n0\r\n\r\n1\r\n1\r\n"));
 
 TEST_F(SettingsTest, WhatTheFileSaysShowsOnTheControlsAndSurvivesAnExit) {
@@ -97,6 +98,24 @@ TEST_F(SettingsTest, ReturningToTheOperatorTurnsTheTextsIntoSettings) {
   EXPECT_EQ(program_->State().options.backOption, 2);
   EXPECT_EQ(program_->State().options.backInterval, 12) << "letters do not reach the box";
   EXPECT_EQ(Read(Data("Meths.tbl")), " 1 \r\n" + Standard("Disc.clm") + "\r\n");
+}
+
+TEST_F(SettingsTest, AThresholdOrHoursThatCannotBeReadBackKeepTheSupervisorUntilTheyAreMended) {
+  Write(Data("settings.ini"), "1\r\n1\r\nSECRET\r\n2\r\n4\r\n85.5\r\n0\r\n\r\n1\r\n1\r\n");
+  Play({"start", "click frmVeritane.cmdSupervisor", "type frmPassword.txtPassword \"secret\"",
+        "key frmPassword.txtPassword Enter", "tab frmVeritane.SSTab1 4"});
+  auto events = Play({"set frmVeritane.txtThreshold \"-5\"", "answer OK", "click frmVeritane.cmdMainMenu",
+                      "answer OK", "set frmVeritane.txtThreshold \"80\""});
+  EXPECT_EQ(events.Last("message")["text"], "Must be a value between 0 and 100.");
+  events = Play({"tab frmVeritane.SSTab1 1", "set frmVeritane.txtbackInterval \"\"",
+                 "click frmVeritane.cmdMainMenu", "answer OK", "set frmVeritane.txtbackInterval \"99999\"",
+                 "click frmVeritane.cmdMainMenu", "answer OK"});
+  EXPECT_EQ(events.Messages().size(), 2U);
+  EXPECT_TRUE(IsVisible("frmVeritane.fraSupervisorMode"));
+  Play({"set frmVeritane.txtbackInterval \"6\"", "click frmVeritane.cmdMainMenu"});
+  EXPECT_EQ(program_->State().options.passThreshold, 80);
+  EXPECT_EQ(program_->State().options.backInterval, 6);
+  EXPECT_EQ(program_->State().options.Password, "SECRET") << "nothing else was lost";
 }
 
 TEST_F(SettingsTest, APasswordIsSetByTwoEqualEntriesAndAskedForWithoutRegardToCase) {

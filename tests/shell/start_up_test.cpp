@@ -174,15 +174,35 @@ TEST_F(StartUpTest, ClosingTheWindowQuitsBeforeAndAfterTheLogIsClosedWithoutHand
   EXPECT_EQ(run_.Finish(), 0);
 }
 
-TEST_F(StartUpTest, AnExitThatCannotSaveLeavesTheProgramRunningWithItsLogOpen) {
+TEST_F(StartUpTest, AnExitThatCannotSaveAsksAndTheProgramGoesOnWithItsLogOpen) {
   WriteSettings(true);
   Play({"start"});
   // A folder in the place of the settings cannot be written over.
   machine_.files.DeleteFile(Data("settings.ini"));
   machine_.files.CreateFolder(Data("settings.ini"));
-  const auto events = Play({"click frmVeritane.cmdExit", "answer OK", "click frmVeritane.cmdSupervisor"});
-  EXPECT_EQ(events.Last("error")["number"], 75);
+  const auto events = Play({"click frmVeritane.cmdExit", "answer No", "close frmVeritane", "answer No",
+                            "click frmVeritane.cmdSupervisor"});
+  EXPECT_THAT(std::string(events.Last("message")["text"]), HasSubstr("The settings cannot be saved."));
   EXPECT_THAT(Read(Data("log.txt")), HasSubstr("Supervisor Mode accessed on 11/21/26 at 10:59:00\r\n"));
+  Play({"click frmVeritane.cmdExpertMode", "tab frmVeritane.SSTab1 6", "click frmVeritane.cmdExpertMode",
+        "answer No"});
+  Calls();
+  Play({"tab frmVeritane.SSTab1 0", "close frmVeritane", "answer Yes"});
+  EXPECT_TRUE(run_.Screen().Ended());
+  EXPECT_THAT(Calls(), ElementsAre("QuitApplication", "QuitApplication"))
+      << "the way to expert mode was called off";
+}
+
+TEST_F(StartUpTest, ADataFolderThatGoesAwayIsAnErrorAndNoCrashAndTheLogComesBackWithIt) {
+  WriteSettings(true);
+  Play({"start"});
+  const auto folder = folder_.Path() / "drive_c" / "ProgramData" / "Kestrova";
+  std::filesystem::rename(folder, folder_.Path() / "away");
+  Play({"click frmVeritane.cmdExit", "answer No"});
+  EXPECT_EQ(Play({"click frmVeritane.cmdSupervisor", "answer OK"}).Last("error")["number"], 76);
+  std::filesystem::rename(folder_.Path() / "away", folder);
+  Play({"click frmVeritane.cmdSupervisor"});
+  EXPECT_THAT(Read(Data("log.txt")), HasSubstr("Supervisor Mode accessed"));
 }
 
 }  // namespace
