@@ -21,8 +21,8 @@ std::string PlainNumberText(double number);
 // ("", "-", "1,5", "nan", "inf", "0x1").
 std::optional<double> ParseNumber(std::string_view text);
 
-// The number that a text begins with, blanks skipped wherever they stand, 0 if it begins with none: "12 h" is 12,
-// "1 000" is 1000, "-" is 0.
+// The number that a text begins with, blanks skipped wherever they stand, 0 if it begins with none: "12 h" is
+// 12, "1 000" is 1000, "-" is 0.
 double LeadingNumber(std::string_view text);
 
 // Formats with a pattern of "#", "0" and one "."; each "0" after the point always writes its digit, each "#"

@@ -149,12 +149,19 @@ wxSizer* LayOutInOrder(FormBuilder&, wxWindow*) {
 
 LayoutFunction LayoutOf(const std::string& form_name) {
   static const std::map<std::string, LayoutFunction> kLayouts = {
-      {"frmVeritane", LayOutMainWindow},   {"frmSamp", LayOutSample},
-      {"frmPassword", LayOutPassword},     {"frmCollectStd", LayOutCollectStandard},
-      {"frmNullRegion", LayOutNullRegion}, {"frmParse", LayOutParse},
-      {"frmPrompts", LayOutPrompts},       {"frmSelectMethod", LayOutSelectMethod},
-      {"frmStatus", LayOutStatus},         {"frmSelectSpectrum", LayOutSelectSpectrum},
-      {"frmResults", LayOutResults},       {"MainForm", LayOutPrediction},
+      {"frmVeritane", LayOutMainWindow},
+      {"frmSamp", LayOutSample},
+      {"frmPassword", LayOutPassword},
+      {"frmCollectStd", LayOutCollectStandard},
+      {"frmNullRegion", LayOutNullRegion},
+      {"frmParse", LayOutParse},
+      {"frmPrompts", LayOutPrompts},
+      {"frmSelectMethod", LayOutSelectMethod},
+      {"frmStatus", LayOutStatus},
+      {"frmSelectSpectrum", LayOutSelectSpectrum},
+      {"frmResults", LayOutResults},
+      {"MainForm", LayOutPrediction},
+      {"frmSimulator", LayOutSimulatorPanel},
   };
   const auto found = kLayouts.find(form_name);
   return found == kLayouts.end() ? LayOutInOrder : found->second;

@@ -33,6 +33,8 @@ wxSizer* LayOutStatus(FormBuilder& builder, wxWindow* root);
 wxSizer* LayOutSelectSpectrum(FormBuilder& builder, wxWindow* root);
 wxSizer* LayOutResults(FormBuilder& builder, wxWindow* root);
 wxSizer* LayOutPrediction(FormBuilder& builder, wxWindow* root);
+// The window beside the program that sets the simulated instrument.
+wxSizer* LayOutSimulatorPanel(FormBuilder& builder, wxWindow* root);
 wxSizer* LayOutInOrder(FormBuilder& builder, wxWindow* root);
 
 }  // namespace veritane::platform
