@@ -14,6 +14,16 @@ public:
   platform::ComboBox cmbSelectMethod{*this, "cmbSelectMethod"};
   platform::Button cmdSelectMethodOK{*this, "cmdSelectMethodOK"};
   platform::Button cmdSelectMethodCancel{*this, "cmdSelectMethodCancel"};
+
+  // 1 when the dialog was left without a choice.
+  int cancelled = 0;
+
+  void cmdSelectMethodOK_Click();
+  void cmdSelectMethodCancel_Click();
+
+protected:
+  void Form_Activate() override;
+  void Form_QueryUnload() override { cmdSelectMethodCancel_Click(); }
 };
 
 }  // namespace veritane::acquisition

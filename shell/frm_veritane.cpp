@@ -70,7 +70,7 @@ void FrmVeritane::ConnectSpectrumHandlers() {
 
 void FrmVeritane::DisableWhatIsNotThereYet() {
   for (platform::Control* control : std::initializer_list<platform::Control*>{
-           &cmdBack, &cmdAddMeth, &cmdDeleteMethod, &cmdNullRegions, &cmbCollectMethod, &cmbAlgorithm,
+           &cmdAddMeth, &cmdDeleteMethod, &cmdNullRegions, &cmbCollectMethod, &cmbAlgorithm,
            &cmdChooseCalFile, &cmdDel, &cmdCollectStdNow, &cmdParse, &cmdSelTemplate, &cmdStandard, &cmdSamp,
            &cmdNow, &cmdPrint, &cmdScreenCopy}) {
     control->SetEnabled(false);

@@ -36,6 +36,7 @@ public:
   void optBackInterval_Click();
   bool txtbackInterval_KeyPress(int key);
   void optBackBeforeSample_Click();
+  void cmdBack_Click();
   void grid_RowColChange();
   void lstMeths_Click();
   void txtThreshold_Change();

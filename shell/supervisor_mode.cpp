@@ -1,4 +1,5 @@
 // Supervisor mode: its password, its options, and the way back to the operator.
+#include "acquisition/background.h"
 #include "acquisition/null_regions.h"
 #include "acquisition/product_table.h"
 #include "platform/desktop.h"
@@ -27,6 +28,7 @@ void FrmVeritane::ConnectSupervisorHandlers() {
   optBackInterval.OnClick = [this] { optBackInterval_Click(); };
   txtbackInterval.OnKeyPress = [this](int key) { return txtbackInterval_KeyPress(key); };
   optBackBeforeSample.OnClick = [this] { optBackBeforeSample_Click(); };
+  cmdBack.OnClick = [this] { cmdBack_Click(); };
   grid.OnRowColChange = [this] { grid_RowColChange(); };
   lstMeths.OnClick = [this] { lstMeths_Click(); };
   txtThreshold.OnChange = [this] { txtThreshold_Change(); };
@@ -133,6 +135,24 @@ void FrmVeritane::optBackBeforeSample_Click() {
   state_.options.backOption = state::kBackgroundBeforeSample;
   txtbackInterval.SetText("0");
   txtbackInterval.SetEnabled(false);
+}
+
+// Collects a background of a method that the supervisor chooses.
+void FrmVeritane::cmdBack_Click() {
+  LoadMethods();
+  acquisition::FrmSelectMethod& chooser = dialogs_.frmSelectMethod;
+  chooser.ShowModal();
+  const int chosen = chooser.cmbSelectMethod.Selected();
+  if (chooser.cancelled != 0 || chosen < 0) return;
+  const auto method = static_cast<std::size_t>(chosen);
+  state_.BackGroundName = acquisition::BackgroundPath(state_.folders, state_.methodShortNames[method]);
+  state_.clmFile = state_.methodPaths[method];
+  if (state_.clmFile.empty()) {
+    chooser.cmbSelectMethod.Select(0);
+    state_.clmFile = state_.methodPaths.front();
+  }
+  acquisition::CollectBackground(bench_);
+  Screen().SetMousePointer(Pointer::kDefault);
 }
 
 bool FrmVeritane::txtbackInterval_KeyPress(int key) {

@@ -92,11 +92,7 @@ TEST_F(MeasuredRunTest, AnInstrumentOfTheYoungerFamilyGetsItsOptionBeforeEveryCo
   SetInstrument("polystyrene", 5, 1);
   platform::ScriptRun second;
   std::unique_ptr<shell::FrmVeritane> program;
-  second.program.start = [&] {
-    program = std::make_unique<shell::FrmVeritane>(
-        second.Screen(), machine_.Facilities(), [this](const std::string& id) { return bench_.Create(id); });
-    program->Form_Load();
-  };
+  second.program.start = Starter(second, program);
   Steps steps = EnterSample("PS");
   for (int box = 0; box < 3; ++box) steps.push_back("answer OK");
   Calls();
@@ -215,16 +211,32 @@ TEST_F(MeasuredRunTest, ADemonstrationDestroysNothingThatWasMeasured) {
   WriteSpectrum(Standard("aspirin.bsp"), 100, 4, Bands(301));
   platform::ScriptRun second;
   std::unique_ptr<shell::FrmVeritane> program;
-  second.program.start = [&] {
-    program = std::make_unique<shell::FrmVeritane>(
-        second.Screen(), machine_.Facilities(), [this](const std::string& id) { return bench_.Create(id); });
-    program->Form_Load();
-  };
+  second.program.start = Starter(second, program);
   Steps steps = EnterSample("PS", "shown");
   steps.push_back("answer OK");
   second.Lines(steps);
   EXPECT_EQ(Read(Sample("PS-1.bsp")), measured);
   EXPECT_EQ(CountIn(Sample("PS.bsp")), 1U);
+}
+
+TEST_F(MeasuredRunTest, TheSupervisorCollectsABackgroundOfAChosenMethodOnDemand) {
+  Write(Data("Meths.tbl"), " 2 \r\n" + Standard("Disc.clm") + "\r\nC:\\Program\\Film.clm\r\n");
+  Write("C:\\Program\\Film.clm", Read(Standard("Disc.clm")));
+  SetInstrument("empty");
+  Steps steps{"click frmVeritane.cmdSupervisor", "tab frmVeritane.SSTab1 1", "click frmVeritane.cmdBack",
+              "click frmSelectMethod.cmdSelectMethodCancel"};
+  EXPECT_THAT(Play(steps).Messages(), IsEmpty());
+  EXPECT_THAT(Calls(), IsEmpty());
+
+  const auto events = Play({"click frmVeritane.cmdBack", "choose frmSelectMethod.cmbSelectMethod \"Film\"",
+                            "click frmSelectMethod.cmdSelectMethodOK", "answer OK"});
+  EXPECT_THAT(events.Messages(), ElementsAre(" Background Done"));
+  EXPECT_EQ(Caption("frmVeritane.fraSpectrum"), " Background");
+  EXPECT_THAT(Calls(), ElementsAre("Interactive(false)", "NewDocument(" + Standard("backFilm.bsp") + ")",
+                                   "Interactive(false)", "LoadCollectMethod(C:\\Program\\Film.clm)",
+                                   "CollectInto", "GetSpectrum", "SpectrumData", "CloseDocument(true)"));
+  EXPECT_TRUE(Exists(Standard("backFilm.bsp")));
+  EXPECT_FALSE(Exists(Standard("backDisc.bsp"))) << "each method has its own";
 }
 
 }  // namespace

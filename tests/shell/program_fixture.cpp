@@ -20,18 +20,23 @@ ProgramTest::ProgramTest() {
   machine_.clock.Set({.year = 2026, .month = 11, .day = 21, .hour = 10, .minute = 59, .second = 0});
   Write(Data("Meths.tbl"), " 1 \r\n" + Standard("Disc.clm") + "\r\n");
   WriteProducts({"ASPIRIN-1,Disc,Euclidean,"});
-  run_.program.start = [this] {
+  run_.program.start = Starter(run_, program_);
+  run_.program.setClock = [this](const platform::DateTime& now) { machine_.clock.Set(now); };
+}
+
+std::function<void()> ProgramTest::Starter(platform::ScriptRun& run,
+                                           std::unique_ptr<shell::FrmVeritane>& program) {
+  return [this, &run, &program] {
     const platform::Machine machine{.files = machine_.files,
                                     .registry = machine_.registry,
                                     .folders = folders_,
                                     .user = machine_.user,
                                     .clock = machine_.clock,
                                     .regional = machine_.regional};
-    program_ = std::make_unique<shell::FrmVeritane>(
-        run_.Screen(), machine, [this](const std::string& prog_id) { return bench_.Create(prog_id); });
-    program_->Form_Load();
+    program = std::make_unique<shell::FrmVeritane>(
+        run.Screen(), machine, [this](const std::string& prog_id) { return bench_.Create(prog_id); });
+    program->Form_Load();
   };
-  run_.program.setClock = [this](const platform::DateTime& now) { machine_.clock.Set(now); };
 }
 
 void ProgramTest::WriteSettings(bool demonstration, const std::string& threshold,

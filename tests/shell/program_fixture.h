@@ -56,6 +56,9 @@ protected:
   // A data file of the tests under another name.
   void CopyTestData(const std::string& name, const std::string& path);
 
+  // What starts a program on this machine in a run of its own.
+  std::function<void()> Starter(platform::ScriptRun& run, std::unique_ptr<shell::FrmVeritane>& program);
+
   // Starts the program with the machine as it is and plays the steps.
   platform::Events Play(Steps steps) { return run_.Lines(std::move(steps)); }
   // The steps of one sample of a product, up to and with the OK of the dialog.

@@ -1,0 +1,71 @@
+// simulator-panel: sets what lies in the simulated instrument, beside the running program.
+#include <wx/timer.h>
+
+#include <iostream>
+#include <memory>
+
+#include "apps/command_line.h"
+#include "apps/simulator_panel/frm_simulator.h"
+#include "platform/posix/posix_machine.h"
+#include "platform/wx/wx_user_interface.h"
+
+namespace {
+
+using namespace veritane;
+
+constexpr int kRefreshMilliseconds = 1000;
+
+struct Panel {
+  Panel(platform::PosixMachine& machine, platform::WxUserInterface& screen)
+      : desktop(screen),
+        form(desktop, machine.Facilities(),
+             machine.paths.ToWindows(machine.paths.Root() / "compartment.txt")) {
+    timer.Bind(wxEVT_TIMER, [this](wxTimerEvent&) { Refresh(); });
+    form.Watch([this](platform::Form::Change change) {
+      if (change == platform::Form::Change::kHidden) timer.Stop();
+    });
+  }
+
+  // Exceptions must not cross the toolkit's frames.
+  void Refresh() {
+    try {
+      form.Refresh();
+    } catch (const std::exception& error) {
+      std::cerr << "simulator-panel: " << error.what() << '\n';
+      timer.Stop();
+      desktop.End(1);
+    }
+  }
+
+  platform::Desktop desktop;
+  simulator_panel::FrmSimulator form;
+  wxTimer timer;
+};
+
+int Run(const apps::CommandLine& line, int argument_count, char** arguments) {
+  platform::PosixMachine machine(line.Option("--root").value_or(platform::DefaultRoot().string()), "");
+  std::unique_ptr<Panel> panel;
+  const platform::PathMapping paths{
+      .toNative = [&](const std::string& path) { return machine.paths.ToNative(path).string(); },
+      .toWindows = [&](const std::string& path) { return machine.paths.ToWindows(path); }};
+  return platform::RunInWindow(argument_count, arguments, paths, [&](platform::WxUserInterface& screen) {
+    panel = std::make_unique<Panel>(machine, screen);
+    panel->desktop.AttachForms();
+    panel->form.Form_Load();
+    panel->timer.Start(kRefreshMilliseconds);
+  });
+}
+
+}  // namespace
+
+int main(int argument_count, char** arguments) {
+  try {
+    return Run(apps::CommandLine(argument_count, arguments, {"--root"}, 0), argument_count, arguments);
+  } catch (const apps::UsageError& error) {
+    std::cerr << "simulator-panel: " << error.what() << "\nusage: simulator-panel [--root DIR]\n";
+    return 2;
+  } catch (const std::exception& error) {
+    std::cerr << "simulator-panel: " << error.what() << '\n';
+    return 1;
+  }
+}
