@@ -30,11 +30,15 @@ private:
   const bool before_;
 };
 
-// Samples before Standards: of two files of the same second the sample was measured later.
-std::vector<std::string> SpectrumFolders(const platform::Machine& machine) {
-  const std::string data = state::DataFolderBelow(machine.folders.CommonApplicationData(false));
-  const state::FolderSet set = state::ChooseFolderSet(machine.registry);
-  return {data + set.sampFolder, data + set.stdsFolder};
+// Samples before Standards: of two files of the same second the sample was measured later. None as long as
+// the machine has no folder for data.
+NewestSpectrum::Folders SpectrumFolders(const platform::Machine& machine) {
+  return [&shell = machine.folders,
+          set = state::ChooseFolderSet(machine.registry)]() -> std::vector<std::string> {
+    const std::string data = state::DataFolderBelow(shell.CommonApplicationData(false));
+    if (data.empty()) return {};
+    return {data + set.sampFolder, data + set.stdsFolder};
+  };
 }
 
 bool HasFault(const CompartmentState& state) {

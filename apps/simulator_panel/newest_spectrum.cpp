@@ -38,7 +38,7 @@ bool NewestSpectrum::Look() {
 
 std::vector<NewestSpectrum::Candidate> NewestSpectrum::Candidates() const {
   std::vector<Candidate> candidates;
-  for (const std::string& folder : folders_) {
+  for (const std::string& folder : folders_()) {
     std::vector<std::string> names;
     try {
       names = files_.ListFiles(folder);

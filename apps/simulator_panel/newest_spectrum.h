@@ -1,6 +1,7 @@
 // Finds the spectrum that was measured or filed last, by looking at the files of some folders now and then.
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <utility>
@@ -20,9 +21,11 @@ struct FiledSpectrum {
 
 class NewestSpectrum {
 public:
+  // Asked at each look, because the program may be set up after the panel has begun.
+  using Folders = std::function<std::vector<std::string>()>;
+
   // Of files changed in the same second, one in an earlier folder counts as newer.
-  NewestSpectrum(const platform::FileSystem& files, const platform::Clock& clock,
-                 std::vector<std::string> folders)
+  NewestSpectrum(const platform::FileSystem& files, const platform::Clock& clock, Folders folders)
       : files_(files), clock_(clock), folders_(std::move(folders)) {}
 
   // Looks again, and returns whether Found or PassedOver may have changed. A missing folder is an empty one.
@@ -45,7 +48,7 @@ private:
 
   const platform::FileSystem& files_;
   const platform::Clock& clock_;
-  const std::vector<std::string> folders_;
+  const Folders folders_;
   std::vector<Candidate> candidates_;
   // The newest file may change once more within the second that its time is told in.
   bool may_change_unseen_ = false;

@@ -255,6 +255,17 @@ TEST_F(PanelTest, TheNewestReadableSpectrumIsShown) {
   EXPECT_EQ(Caption("lblSpectrum"), "standard");
 }
 
+TEST_F(PanelTest, ASpectrumShowsAlsoWhenTheDataFolderCameAfterThePanel) {
+  std::filesystem::remove_all(folder_.Path() / "drive_c");
+  Play({"start"});
+  Refresh();
+  EXPECT_EQ(Caption("lblSpectrum"), "No spectrum has been filed yet.");
+  std::filesystem::create_directories(Data() / "Samples");
+  FileSpectrum("Samples\\lot.bsp", "lot", 10);
+  Refresh();
+  EXPECT_EQ(Caption("lblSpectrum"), "lot");
+}
+
 TEST_F(PanelTest, ClosingTheWindowEndsThePanel) {
   Play({"start", "close frmSimulator"});
   EXPECT_TRUE(run_.Screen().Ended());
