@@ -3,8 +3,11 @@
 
 #include <wx/artprov.h>
 #include <wx/button.h>
+#include <wx/gdicmn.h>
 #include <wx/sizer.h>
 #include <wx/statbmp.h>
+
+#include <algorithm>
 
 #include "platform/wx/layout_parts.h"
 #include "platform/wx/wrapping_text.h"
@@ -48,7 +51,9 @@ MessageDialog::MessageDialog(wxWindow* parent, const Message& message)
   }
   auto* text = new WrappingText(this);
   text->SetName("text");
-  const int widest = FormBuilder::Columns(this, 72);
+  // With large fonts the screen is narrower than a good line; icon and margins need their part of it.
+  const int screen = wxGetClientDisplayRect().width - FormBuilder::Columns(this, 16);
+  const int widest = std::min(FormBuilder::Columns(this, 72), screen);
   const int natural = GetTextExtent(ToWx(message.text)).x + FormBuilder::Columns(this, 2);
   text->SetLineWidth(std::min(widest, std::max(natural, FormBuilder::Columns(this, 28))));
   text->SetText(ToWx(message.text));
