@@ -25,7 +25,7 @@ std::string Trimmed(const std::string& text) {
 
 // One line of text that is not empty.
 std::string Name(const std::string& text, const std::string& what) {
-  const std::string name = Trimmed(text);
+  std::string name = Trimmed(text);
   if (name.empty()) throw RefusedEntry("Enter " + what + ".");
   const bool is_one_line =
       std::none_of(name.begin(), name.end(), [](char c) { return static_cast<unsigned char>(c) < 0x20; });
@@ -63,7 +63,7 @@ bool IsWholePath(const std::string& name) {
 }  // namespace
 
 std::string SampleEntry(const std::string& text, const platform::FileSystem& files) {
-  const std::string name = Name(text, "a material or the path of a spectrum file");
+  std::string name = Name(text, "a material or the path of a spectrum file");
   try {
     simulator::SampleOf(name, [&files](const std::string& path) {
       // The instrument may run in another folder than the panel.
