@@ -30,7 +30,7 @@ constexpr std::array kNumberLabels = {"FIRSTX",  "LASTX",  "DELTAX", "XFACTOR",
 bool IsPairForm(std::string_view table_label, std::string_view form) {
   const std::string plain = NormalizedLabel(form);
   if (plain.find("X++") != plain.npos) return false;
-  return plain.find("XY..XY") != plain.npos || (table_label == "XYPOINTS" && plain.find("X") == plain.npos) ||
+  return plain.find("XY..XY") != plain.npos || (table_label == "XYPOINTS" && plain.find('X') == plain.npos) ||
          plain.find("XYXY") != plain.npos;
 }
 
