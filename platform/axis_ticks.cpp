@@ -88,8 +88,9 @@ std::vector<AxisTick> AxisTicks(double from, double to, int wanted) {
   const double first = std::ceil(low / unit - 1e-9);
   const double last = std::floor(high / unit + 1e-9);
   std::vector<AxisTick> ticks;
-  for (double factor = first; factor <= last; ++factor) {
-    const double value = std::clamp(step.Times(factor) + 0.0, low, high);
+  const int tick_count = static_cast<int>(last - first) + 1;
+  for (int tick = 0; tick < tick_count; ++tick) {
+    const double value = std::clamp(step.Times(first + tick) + 0.0, low, high);
     ticks.push_back({.value = value, .label = TickLabel(value, step, largest)});
   }
   return ticks;

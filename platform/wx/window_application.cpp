@@ -26,6 +26,8 @@ public:
   bool OnInit() override {
     // The command line belongs to the program, and complaints of the toolkit are nothing for the user.
     wxSetAssertHandler(ReportAssertion);
+    // The log target is the toolkit's from here on.
+    // NOLINTNEXTLINE(clang-analyzer-cplusplus.NewDeleteLeaks)
     delete wxLog::SetActiveTarget(new wxLogStderr);
     SetAppDisplayName("Veritane");
     // The program ends when it says so, not when its last window closes.
