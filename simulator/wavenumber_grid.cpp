@@ -75,11 +75,10 @@ GriddedSpectrum Interpolate(const SampledCurve& curve, double step) {
   GriddedSpectrum gridded;
   gridded.spacing = ShortestDecimal(
       step, [&](double spacing) { return std::abs(spacing - step) * steps <= kRoundingOfSpacing * step; });
-  const double lower = std::ceil(curve.firstX / gridded.spacing - kRoundingOfSpacing);
-  const double upper = std::floor(curve.lastX / gridded.spacing + kRoundingOfSpacing);
-  gridded.ordinates.lower = ToIndex(lower);
-  ToIndex(upper);
-  for (double index = lower; index <= upper; ++index) {
+  const std::int32_t lower = ToIndex(std::ceil(curve.firstX / gridded.spacing - kRoundingOfSpacing));
+  const std::int32_t upper = ToIndex(std::floor(curve.lastX / gridded.spacing + kRoundingOfSpacing));
+  gridded.ordinates.lower = lower;
+  for (std::int32_t index = lower; index <= upper; ++index) {
     const double place = std::clamp((index * gridded.spacing - curve.firstX) / step, 0.0, steps);
     gridded.ordinates.values.push_back(Interpolated(curve.values, place));
   }
