@@ -19,6 +19,19 @@ struct Bench {
   state::SpectrumPanel panel;
 };
 
+// The Spectrometer application is the program's for as long as this lives, and the user's again however that
+// ends; the mouse pointer is normal then too.
+class DrivenApplication {
+public:
+  explicit DrivenApplication(Bench& bench) : bench_(bench) {}
+  ~DrivenApplication();
+  DrivenApplication(const DrivenApplication&) = delete;
+  DrivenApplication& operator=(const DrivenApplication&) = delete;
+
+private:
+  Bench& bench_;
+};
+
 // Shows a text in the status window, with the hourglass pointer, for as long as it lives or until Hide.
 class StatusShown {
 public:

@@ -18,6 +18,23 @@ void PrepareScan(Bench& bench, const std::string& clm_path, const std::string& b
   if (bench.state.isVantor == state::kFalse) session.scan->SetCollectOption("NI");
 }
 
+void PrepareMeasurement(Bench& bench, const std::string& clm_path, const std::string& background_path) {
+  if (bench.state.options.demoMode != 0 && !bench.machine.files.FileExists(clm_path)) return;
+  PrepareScan(bench, clm_path, background_path);
+}
+
+std::string DemonstrationFile(const std::string& algorithm) {
+  if (algorithm == state::kPls) return "poly pls test.bsp";
+  if (algorithm == state::kMarkPeaks) return "polys.bsp";
+  return "aspirin.bsp";
+}
+
+void AnnounceSample(platform::Desktop& desktop, const std::string& prompt) {
+  desktop.ShowMessage({.text = Text(TextId::kReadyForSample) + prompt + Text(TextId::kClickToScanSample),
+                       .title = Text(TextId::kNoticeTitle),
+                       .icon = MessageIcon::kExclamation});
+}
+
 void ShowInstrumentError(platform::Desktop& desktop, int error_number) {
   desktop.ShowMessage({.text = Text(TextId::kSpectrometerError) + std::to_string(error_number),
                        .title = Text(TextId::kWarningTitle),

@@ -1,6 +1,10 @@
 // The dialog in which a supervisor defines a new product and its Standard.
 #pragma once
 
+#include <functional>
+#include <optional>
+#include <string>
+
 #include "platform/controls.h"
 #include "platform/form.h"
 
@@ -21,6 +25,27 @@ public:
   platform::Button cmdChooseCalFile{*this, "cmdChooseCalFile"};
   platform::Button cmdScan{*this, "cmdScan"};
   platform::Button cmdNoScanStandardNow{*this, "cmdNoScanStandardNow"};
+
+  // Whether the dialog was left without confirming it.
+  bool cancelled = false;
+
+  // Why the Product ID that was typed cannot become a product, as a sentence, or "".
+  std::function<std::string(const std::string& product_id)> WhyNotAProduct;
+  // Asks for the file that an algorithm needs.
+  std::function<std::optional<std::string>(const std::string& algorithm)> ChooseFile;
+
+  bool txtProductID_KeyPress(int key);
+  void cmbAlg_Click();
+  void cmdChooseCalFile_Click();
+  void cmdScan_Click();
+  void cmdNoScanStandardNow_Click();
+
+protected:
+  void Form_Activate() override;
+  void Form_QueryUnload() override { cmdNoScanStandardNow_Click(); }
+
+private:
+  std::string WhyNotComplete() const;
 };
 
 }  // namespace veritane::acquisition

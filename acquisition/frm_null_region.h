@@ -19,6 +19,15 @@ public:
   platform::ListBox lstNulls{*this, "lstNulls"};
   platform::Button cmdDeleteNullRegion{*this, "cmdDeleteNullRegion"};
   platform::Button cmdDone{*this, "cmdDone"};
+
+  bool txtNullStart_KeyPress(int key);
+  bool txtNullEnd_KeyPress(int key);
+  void cmdAddNullRegion_Click();
+  void cmdDeleteNullRegion_Click();
+  void cmdDone_Click();
+
+protected:
+  void Form_Activate() override { txtNullStart.SetFocus(); }
 };
 
 }  // namespace veritane::acquisition

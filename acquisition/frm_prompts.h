@@ -15,6 +15,11 @@ public:
   platform::Label lblSamplePrompt{*this, "lblSamplePrompt"};
   platform::TextBox txtSamplePrompt{*this, "txtSamplePrompt"};
   platform::Button cmdOK{*this, "cmdOK"};
+
+  void cmdOK_Click();
+
+protected:
+  void Form_Activate() override { txtBackgroundPrompt.SetFocus(); }
 };
 
 }  // namespace veritane::acquisition

@@ -9,6 +9,10 @@
 
 namespace veritane::acquisition {
 
+std::string MethodListPath(const state::ProgramState& state) {
+  return state.folders.appDir + state.folderSet.methsTable;
+}
+
 std::vector<std::string> ReadMethodList(std::string_view bytes, const std::string& path) {
   platform::TextReader reader(bytes, path);
   const int count = reader.ReadInt16();
@@ -31,8 +35,9 @@ std::string MethodShortName(const std::string& path, const std::string& previous
   return leaf.size() < kExtension ? "" : leaf.substr(0, leaf.size() - kExtension);
 }
 
-void LoadMethodList(const platform::FileSystem& files, const std::string& path, state::ProgramState& state,
+void LoadMethodList(const platform::FileSystem& files, state::ProgramState& state,
                     const MethodListControls& controls) {
+  const std::string path = MethodListPath(state);
   std::vector<std::string> paths = ReadMethodList(files.ReadBytes(path), path);
   std::vector<std::string> names;
   std::string name;
@@ -50,8 +55,8 @@ void LoadMethodList(const platform::FileSystem& files, const std::string& path, 
   }
 }
 
-void SaveMethodList(platform::FileSystem& files, const std::string& path, const state::ProgramState& state) {
-  files.WriteBytes(path, MethodListText(state.methodPaths));
+void SaveMethodList(platform::FileSystem& files, const state::ProgramState& state) {
+  files.WriteBytes(MethodListPath(state), MethodListText(state.methodPaths));
 }
 
 }  // namespace veritane::acquisition

@@ -11,6 +11,9 @@
 
 namespace veritane::acquisition {
 
+// Where the list lies.
+std::string MethodListPath(const state::ProgramState& state);
+
 // The full paths of the list's text. Errors 62 and 13 as for every table.
 std::vector<std::string> ReadMethodList(std::string_view bytes, const std::string& path = "");
 
@@ -28,10 +31,10 @@ struct MethodListControls {
 };
 
 // Reads the list into the state's arrays and all its controls.
-void LoadMethodList(const platform::FileSystem& files, const std::string& path, state::ProgramState& state,
+void LoadMethodList(const platform::FileSystem& files, state::ProgramState& state,
                     const MethodListControls& controls);
 
 // Writes the list from the state's array.
-void SaveMethodList(platform::FileSystem& files, const std::string& path, const state::ProgramState& state);
+void SaveMethodList(platform::FileSystem& files, const state::ProgramState& state);
 
 }  // namespace veritane::acquisition

@@ -11,15 +11,26 @@ std::string NullRegionPath(const state::DataFolders& folders, const std::string&
   return folders.appDir + short_name + ".nul";
 }
 
+std::vector<std::string> ReadNullRegionLines(const platform::FileSystem& files, const std::string& path) {
+  if (!files.FileExists(path)) return {};
+  platform::TextReader reader(files.ReadBytes(path), path);
+  const int count = reader.ReadInt16();
+  std::vector<std::string> lines;
+  for (int region = 0; region < count; ++region) lines.push_back(reader.ReadLine());
+  return lines;
+}
+
+std::string NullRegionText(const std::vector<std::string>& regions) {
+  std::string text = platform::CountText(static_cast<long long>(regions.size())).append(platform::kLineEnd);
+  for (const std::string& region : regions) text.append(region).append(platform::kLineEnd);
+  return text;
+}
+
 void LoadNullRegions(const platform::FileSystem& files, state::ProgramState& state) {
   state.nullRegions.clear();
   const std::string path = NullRegionPath(state.folders, state.clmName);
-  if (!files.FileExists(path)) return;
-  platform::TextReader reader(files.ReadBytes(path), path);
-  const int count = reader.ReadInt16();
-  for (int region = 0; region < count; ++region) {
+  for (const std::string& line : ReadNullRegionLines(files, path)) {
     // "2400 - 2300": the start before the first hyphen, the end behind it.
-    const std::string line = reader.ReadLine();
     const std::size_t hyphen = line.find('-');
     if (hyphen == std::string::npos) {
       throw platform::RunTimeError(platform::ErrorNumber::kTypeMismatch,

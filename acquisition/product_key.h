@@ -1,9 +1,9 @@
-// The part of a Product ID that names the product.
+// The part of a Product ID that names the product: its definition, and cutting it out.
 #pragma once
 
 #include <string>
 
-#include "platform/file_system.h"
+#include "platform/machine.h"
 #include "shell/state/data_folders.h"
 
 namespace veritane::acquisition {
@@ -13,5 +13,15 @@ namespace veritane::acquisition {
 // below 1 or a negative length.
 std::string ProductKey(const platform::FileSystem& files, const state::DataFolders& folders,
                        const std::string& product_id);
+
+// Defines the part by example: `part` at its first occurrence in `example` (which must hold it). The
+// definition lies below the program's own folder, in a Standards folder that is made when it is missing;
+// ProductKey reads the data folder. A site that keeps the two apart copies the file when the definition is to
+// take effect.
+void DefineProductKey(const platform::Machine& machine, const state::FolderSet& set,
+                      const std::string& example, const std::string& part);
+
+// Takes the definition back; nothing happens when there is none.
+void DeleteProductKeyDefinition(const platform::Machine& machine, const state::FolderSet& set);
 
 }  // namespace veritane::acquisition

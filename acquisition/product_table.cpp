@@ -28,7 +28,15 @@ Product ReadRow(TextReader& reader) {
   return product;
 }
 
+std::string FieldText(const std::string& field) {
+  return field.find(',') == std::string::npos ? field : "\"" + field + "\"";
+}
+
 }  // namespace
+
+std::string ProductTablePath(const state::ProgramState& state) {
+  return state.folders.appDir + state.folderSet.methTable;
+}
 
 std::vector<Product> ReadProductTable(std::string_view bytes, const std::string& path) {
   TextReader reader(bytes, path);
@@ -53,8 +61,8 @@ std::optional<Product> FindProduct(std::string_view bytes, const std::string& ke
 std::string ProductTableText(const std::vector<Product>& products) {
   std::string text = platform::CountText(static_cast<long long>(products.size())).append(platform::kLineEnd);
   for (const Product& product : products) {
-    text.append(product.productId + "," + product.collectMethod + "," + product.algorithm + "," +
-                product.additionalFile)
+    text.append(FieldText(product.productId) + "," + FieldText(product.collectMethod) + "," +
+                FieldText(product.algorithm) + "," + FieldText(product.additionalFile))
         .append(platform::kLineEnd);
   }
   return text;

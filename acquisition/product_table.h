@@ -8,6 +8,7 @@
 
 #include "platform/file_system.h"
 #include "platform/grid.h"
+#include "shell/state/program_state.h"
 
 namespace veritane::acquisition {
 
@@ -19,6 +20,9 @@ struct Product {
   bool operator==(const Product&) const = default;
 };
 
+// Where the table lies.
+std::string ProductTablePath(const state::ProgramState& state);
+
 // All rows of the table's text; `path` is for the text of errors. Error 62 when the text ends before the
 // counted rows, 13 when the count is no number.
 std::vector<Product> ReadProductTable(std::string_view bytes, const std::string& path = "");
@@ -27,7 +31,8 @@ std::vector<Product> ReadProductTable(std::string_view bytes, const std::string&
 std::optional<Product> FindProduct(std::string_view bytes, const std::string& key,
                                    const std::string& path = "");
 
-// The table's text: the count, then a line a product.
+// The table's text: the count, then a line a product. A field that holds a comma stands in double quotes,
+// which keeps its row whole.
 std::string ProductTableText(const std::vector<Product>& products);
 
 // Shows the table in the grid: header, one row a product, the first product current (its row-selection event

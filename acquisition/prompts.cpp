@@ -6,9 +6,13 @@
 
 namespace veritane::acquisition {
 
+std::string PromptsPath(const state::DataFolders& folders, const std::string& short_name) {
+  return folders.InStandards(short_name + ".pro");
+}
+
 Prompts LoadPrompts(const platform::FileSystem& files, const state::DataFolders& folders,
                     const std::string& short_name) {
-  const std::string path = folders.InStandards(short_name + ".pro");
+  const std::string path = PromptsPath(folders, short_name);
   if (!files.FileExists(path)) {
     return {.background = state::Text(state::TextId::kDefaultBackgroundPrompt),
             .sample = state::Text(state::TextId::kDefaultSamplePrompt)};
@@ -18,6 +22,13 @@ Prompts LoadPrompts(const platform::FileSystem& files, const state::DataFolders&
   prompts.background = reader.AtEnd() ? "" : reader.ReadLine();
   prompts.sample = reader.AtEnd() ? "" : reader.ReadLine();
   return prompts;
+}
+
+void SavePrompts(platform::FileSystem& files, const state::DataFolders& folders,
+                 const std::string& short_name, const Prompts& prompts) {
+  std::string text = prompts.background;
+  text.append(platform::kLineEnd).append(prompts.sample).append(platform::kLineEnd);
+  files.WriteBytes(PromptsPath(folders, short_name), text);
 }
 
 }  // namespace veritane::acquisition

@@ -13,8 +13,15 @@ struct Prompts {
   std::string sample;
 };
 
+// The prompts file of a collect method's short name.
+std::string PromptsPath(const state::DataFolders& folders, const std::string& short_name);
+
 // The prompts of a method's ".pro" file, or the general ones when it has no such file.
 Prompts LoadPrompts(const platform::FileSystem& files, const state::DataFolders& folders,
                     const std::string& short_name);
+
+// Writes the two lines of the method's ".pro" file.
+void SavePrompts(platform::FileSystem& files, const state::DataFolders& folders,
+                 const std::string& short_name, const Prompts& prompts);
 
 }  // namespace veritane::acquisition

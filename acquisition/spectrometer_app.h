@@ -22,6 +22,7 @@ inline constexpr int kWrongAccessory = 11079;
 
 // The kinds of CreateOperation, and the value of Operation that asks for the transform.
 inline constexpr const char* kUnaryOperation = "Unary";
+inline constexpr const char* kExportOperation = "Export";
 inline constexpr std::int16_t kTransformOperation = 6;
 
 using ParameterValue = std::variant<std::string, double>;
@@ -91,11 +92,14 @@ public:
   virtual void SetSubParameter(double value) = 0;
 };
 
-// A processing step; `Operation` chooses which.
+// A processing step of one of the kinds above. A property that its kind does not have is error 5.
 class Operation {
 public:
   virtual ~Operation() = default;
+  // Of "Unary": which step.
   virtual void SetOperation(std::int16_t operation) = 0;
+  // Of "Export": the path of the SPC file to write.
+  virtual void SetFileName(const std::string& path) = 0;
 };
 
 class PrintObject {
@@ -127,7 +131,8 @@ public:
   virtual void SelectSpectrum(std::int16_t index) = 0;
 
   virtual std::shared_ptr<Operation> CreateOperation(const std::string& kind) = 0;
-  // Replaces the current spectrum by the result.
+  // "Unary" replaces the current spectrum by the result. "Export" writes the current spectrum to the file
+  // named, over one that is there; the document stays as it was.
   virtual void ApplyOperation(Operation& operation) = 0;
 
   // Writes the document to a new path, which is its path from then on.

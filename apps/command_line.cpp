@@ -13,14 +13,19 @@ CommandLine::CommandLine(int argument_count, char** arguments, const std::set<st
     }
     if (!options.contains(argument)) throw UsageError("there is no option " + argument);
     if (i + 1 == argument_count) throw UsageError(argument + " needs a value");
-    options_[argument] = arguments[++i];
+    options_[argument].push_back(arguments[++i]);
   }
   if (words_.size() > most_words) throw UsageError("\"" + words_[most_words] + "\" is one word too many");
 }
 
 std::optional<std::string> CommandLine::Option(const std::string& name) const {
   const auto found = options_.find(name);
-  return found == options_.end() ? std::nullopt : std::optional(found->second);
+  return found == options_.end() ? std::nullopt : std::optional(found->second.back());
+}
+
+std::vector<std::string> CommandLine::Values(const std::string& name) const {
+  const auto found = options_.find(name);
+  return found == options_.end() ? std::vector<std::string>() : found->second;
 }
 
 }  // namespace veritane::apps

@@ -22,11 +22,14 @@ public:
   CommandLine(int argument_count, char** arguments, const std::set<std::string>& options,
               std::size_t most_words);
 
+  // The value of an option; the last one where it was given several times.
   std::optional<std::string> Option(const std::string& name) const;
+  // All values of an option, in the order given.
+  std::vector<std::string> Values(const std::string& name) const;
   const std::vector<std::string>& Words() const { return words_; }
 
 private:
-  std::map<std::string, std::string> options_;
+  std::map<std::string, std::vector<std::string>> options_;
   std::vector<std::string> words_;
 };
 

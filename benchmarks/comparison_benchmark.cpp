@@ -7,6 +7,7 @@
 
 #include "benchmarks/made_up_spectrum.h"
 #include "identification/correlation.h"
+#include "identification/lumivar.h"
 
 namespace veritane::benchmarks {
 namespace {
@@ -62,6 +63,16 @@ void FourierComparisonWithPreparation(benchmark::State& state) {
   }
 }
 BENCHMARK(FourierComparisonWithPreparation);
+
+// Lumivar reads the spectra as they were measured: there is no preparation.
+void LumivarComparison(benchmark::State& state) {
+  const state::SpectrumBuffer standard = MadeUpSpectrum(0);
+  const state::SpectrumBuffer sample = MadeUpSpectrum(3);
+  for (auto _ : state) {
+    benchmark::DoNotOptimize(identification::CompareByLumivar(standard.Data, sample.Data, standard.Res));
+  }
+}
+BENCHMARK(LumivarComparison);
 
 }  // namespace
 }  // namespace veritane::benchmarks

@@ -1,9 +1,11 @@
 #!/usr/bin/python3
-"""Writes docs/performance.md from the results of the benchmarks and of numpy_comparison.py.
+"""Writes docs/performance.md from the results of the benchmarks, of numpy_comparison.py, of
+reprocess_benchmark.py and of pls_comparison.py.
 
-    performance_page.py BENCHMARKS.json NUMPY.json COMPILER PAGE
+    performance_page.py BENCHMARKS.json NUMPY.json REPROCESS.json PLS.json COMPILER PAGE
 """
 import json
+import math
 import pathlib
 import platform
 import sys
@@ -11,11 +13,15 @@ import sys
 ROWS = {
     "EuclideanComparisonWithPreparation": "Euclidean comparison with preparation of the sample, 3,601 points",
     "FourierComparisonWithPreparation": "Fourier comparison of two transforms of 3,601 points",
+    "LumivarComparison": "Lumivar comparison, 35 bands of 3,601 points",
     "WriteDocumentOf50Spectra": "Document of 50 spectra of 3,601 points as text",
     "ReadDocumentOf50Spectra": "The same document read back",
     "LoadProductTableOf10000Rows": "Product table of 10,000 rows",
     "FindLastOf10000Products": "The last of these products looked up",
     "CollectAgainstBackground": "A collection of 3,601 points computed by the simulated instrument",
+    "PlsConcentration": "PLS: one concentration from 3,601 points",
+    "PlsPredictionWithAllItems": "PLS: prediction of 3,601 points by 10 factors, and all items through the library",
+    "PlsLeaveOneOut": "PLS: leaving out each of 60 samples of 401 points, 1 to 10 factors",
 }
 NANOSECONDS = {"ns": 1, "us": 1e3, "ms": 1e6, "s": 1e9}
 
@@ -36,12 +42,54 @@ def processor():
     return platform.processor()
 
 
+def reprocessing_lines(results):
+    """The section on reprocessing: what somebody at the screen waits for."""
+    lines = [
+        "## Reprocessing", "",
+        f"Wall time through `veritane-console`, files on disk, for every spectrum of a sample file of "
+        f"{results['samples']} spectra of 3,601 points; goal from the click to the chart: below 100 ms. Load average "
+        f"before the run: {results['load']}.", "",
+        "| | median | longest |", "|---|---:|---:|",
+    ]
+    for name, longest in results["longest_ms"].items():
+        title = "From the file's name to the list of its spectra" if name == "list" else \
+            f"From the click to the chart, {name}"
+        lines.append(f"| {title} | {results['median_ms'][name]:.3g} ms | {longest:.3g} ms |")
+    return lines + [""]
+
+
+def require_same_pls_results(found, reference):
+    """Ends the program when the library and scikit-learn computed different things."""
+    expected = {"concentration": reference["concentration_value"], "press": reference["press"]}
+    if found.keys() != expected.keys() or any(
+            not math.isclose(found[name], value, rel_tol=1e-5) for name, value in expected.items()):
+        sys.exit(f"the PLS results disagree: {found} and {expected}")
+
+
+def pls_lines(times, reference):
+    """The section that sets the prediction library beside scikit-learn."""
+    lines = [
+        "## PLS beside scikit-learn", "",
+        f"The same spectra, the same number of factors, one thread; scikit-learn {reference['sklearn']}, "
+        "`PLSRegression`, which gives the concentration alone. Both find the same concentration and the same PRESS.", "",
+        "| | library (best) | scikit-learn (best) | library's share |", "|---|---:|---:|---:|",
+    ]
+    for title, name, other in (
+            ("One concentration from 3,601 points, 10 factors", "PlsConcentration", "concentration"),
+            ("Leaving one out, 60 × 401, 10 factors", "PlsLeaveOneOut", "leave_one_out")):
+        ours, theirs = min(times[name]), reference[other]["best_ns"]
+        lines.append(f"| {title} | {time_text(ours)} | {time_text(theirs)} | {ours / theirs:.3f} |")
+    return lines + [""]
+
+
 def main():
     benchmarks = json.loads(pathlib.Path(sys.argv[1]).read_text())
     numpy = json.loads(pathlib.Path(sys.argv[2]).read_text())
-    compiler, page = sys.argv[3], pathlib.Path(sys.argv[4])
+    reprocess = json.loads(pathlib.Path(sys.argv[3]).read_text())
+    pls = json.loads(pathlib.Path(sys.argv[4]).read_text())
+    compiler, page = sys.argv[5], pathlib.Path(sys.argv[6])
 
-    times, rates, qualities = {}, {}, set()
+    times, rates, qualities, pls_results = {}, {}, set(), {}
     for run in benchmarks["benchmarks"]:
         if run.get("error_occurred"):
             sys.exit(f"{run['run_name']}: {run['error_message']}")
@@ -51,8 +99,12 @@ def main():
                 rates.setdefault(run["run_name"], []).append(run["bytes_per_second"] / 1e6)
             if "quality" in run:
                 qualities.add(round(run["quality"], 2))
+            for counter in ("concentration", "press"):
+                if counter in run:
+                    pls_results[counter] = run[counter]
     if qualities != {numpy["quality"]}:
         sys.exit(f"the comparisons disagree: {qualities} and {numpy['quality']}")
+    require_same_pls_results(pls_results, pls)
     if times.keys() != ROWS.keys():
         sys.exit(f"benchmarks and page disagree: {sorted(times.keys() ^ ROWS.keys())}")
 
@@ -79,7 +131,7 @@ def main():
         f"regions and correlate it with the Standard; both find {numpy['quality']} %. The program takes "
         f"{euclidean[0] / numpy['best_ns']:.2f} of numpy's time (best runs).", "",
         "Times are processor time over repetitions of one run each; documents and tables are in memory.", "",
-    ]
+    ] + pls_lines(times, pls) + reprocessing_lines(reprocess)
     page.write_text("\n".join(lines), encoding="utf-8")
 
 

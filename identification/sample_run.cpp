@@ -1,12 +1,16 @@
 // The sample run step by step.
 #include "identification/sample_run.h"
 
+#include <cmath>
+#include <optional>
 #include <set>
 
 #include "acquisition/collection.h"
 #include "acquisition/product_key.h"
 #include "acquisition/product_table.h"
 #include "acquisition/prompts.h"
+#include "identification/judgement.h"
+#include "identification/mark_peaks.h"
 #include "identification/result_records.h"
 #include "identification/spectrum_preparation.h"
 #include "platform/number_text.h"
@@ -17,6 +21,7 @@
 namespace veritane::identification {
 
 using acquisition::CollectOutcome;
+using acquisition::ParameterValue;
 using acquisition::StatusShown;
 using platform::MessageIcon;
 using state::Text;
@@ -24,32 +29,29 @@ using state::TextId;
 
 namespace {
 
-// The application is the program's from here on, and the user's again when the run ends, however it ends.
-class DrivenApplication {
+// Closes what the run left open, however it ends.
+class DocumentsClosedAtLast {
 public:
-  explicit DrivenApplication(acquisition::Bench& bench) : bench_(bench) {}
-  ~DrivenApplication() {
-    bench_.desktop.SetMousePointer(platform::Pointer::kDefault);
-    try {
-      bench_.session.SpectrometerApp->Interactive(true);
-    } catch (const platform::RunTimeError&) {
-      // The run's own outcome is what the operator has to hear of, not that the window could not be shown as
-      // well.
+  explicit DocumentsClosedAtLast(std::vector<std::shared_ptr<acquisition::Document>>& documents)
+      : documents_(documents) {}
+  ~DocumentsClosedAtLast() {
+    for (const auto& document : documents_) {
+      try {
+        document->CloseDocument(false);
+      } catch (const platform::RunTimeError&) {
+        // A document that cannot be closed is the application's to keep; the run's own outcome is what the
+        // operator has to hear of.
+        continue;
+      }
     }
+    documents_.clear();
   }
-  DrivenApplication(const DrivenApplication&) = delete;
-  DrivenApplication& operator=(const DrivenApplication&) = delete;
+  DocumentsClosedAtLast(const DocumentsClosedAtLast&) = delete;
+  DocumentsClosedAtLast& operator=(const DocumentsClosedAtLast&) = delete;
 
 private:
-  acquisition::Bench& bench_;
+  std::vector<std::shared_ptr<acquisition::Document>>& documents_;
 };
-
-// The stored spectrum that stands for a sample in demonstration mode.
-std::string DemonstrationFile(const std::string& algorithm) {
-  if (algorithm == state::kPls) return "poly pls test.bsp";
-  if (algorithm == state::kMarkPeaks) return "polys.bsp";
-  return "aspirin.bsp";
-}
 
 }  // namespace
 
@@ -57,27 +59,12 @@ SampleRun::SampleRun(acquisition::Bench& bench, FrmSamp& frm_samp, platform::App
     : bench_(bench), state_(bench.state), session_(bench.session), frm_samp_(frm_samp), log_(log) {}
 
 void SampleRun::Run(const acquisition::BackgroundSchedule& schedule) {
-  const DrivenApplication driven(bench_);
-  ClearResult();
+  const acquisition::DrivenApplication driven(bench_);
+  const DocumentsClosedAtLast closed(open_documents_);
+  ClearResult(bench_);
   frm_samp_.ShowModal();
   if (frm_samp_.cancelled || bench_.desktop.Ended()) return;
   if (FindProduct()) RunForProduct(schedule);
-}
-
-void SampleRun::ClearResult() {
-  const platform::ChartBatch batch(bench_.panel.chart);
-  // No value of an earlier run may judge this sample.
-  state_.comparison = std::numeric_limits<double>::quiet_NaN();
-  platform::Chart& chart = bench_.panel.chart;
-  bench_.panel.fraSpectrum.SetVisible(false);
-  bench_.panel.txtResults.SetText("");
-  bench_.panel.lblResult.SetCaption("");
-  chart.RemoveSeriesFrom(0);
-  chart.SetHeader({});
-  chart.SetMarkers({});
-  chart.SetRegions({});
-  for (std::size_t i = 0; i < platform::Chart::kLabelCount; ++i) chart.SetLabel(i, "");
-  chart.SetVerdictColour(platform::VerdictColour::kNone);
 }
 
 bool SampleRun::Refuse(const std::string& text) {
@@ -108,26 +95,25 @@ bool SampleRun::FindProduct() {
   state_.algorithm = product->algorithm;
   state_.calfilename = product->additionalFile;
   frm_samp_.previousProduct = product->productId;
-  if (!HasMatchQuality(state_.algorithm)) {
+  if (!CanJudge(state_.algorithm)) {
     return Refuse("The algorithm \"" + state_.algorithm + "\" is not available in this version of Veritane.");
   }
   return true;
 }
 
 void SampleRun::RunForProduct(const acquisition::BackgroundSchedule& schedule) {
+  // A peak file that is of no use is told before anybody measures.
+  if (state_.algorithm == state::kMarkPeaks) PeaksOfProduct(bench_);
   LoadStandard();
   const auto prompts = acquisition::LoadPrompts(bench_.machine.files, state_.folders, state_.clmName);
   if (!CollectBackgroundIfDue(schedule, prompts.background)) return;
-  bench_.desktop.ShowMessage(
-      {.text = Text(TextId::kReadyForSample) + prompts.sample + Text(TextId::kClickToScanSample),
-       .title = Text(TextId::kNoticeTitle),
-       .icon = MessageIcon::kExclamation});
+  acquisition::AnnounceSample(bench_.desktop, prompts.sample);
   if (!OpenSampleDocument() || !CollectSample() || !IsConsistent()) return;
   FileSample();
   {
     const StatusShown status(bench_, Text(TextId::kCalculating));
-    PrepareSpectrum(bench_, state_.Samp, state_.ChartSampData, state_.SampFFTData);
-    state_.comparison = Compare(state_);
+    Prepare(state_.Samp, state_.ChartSampData, state_.SampFFTData);
+    Judge(bench_);
   }
   ShowResult();
   // What fails from here on is told over the result, which the operator must not lose.
@@ -158,7 +144,13 @@ void SampleRun::LoadStandard() {
   session_.CurrentDocument->SetDocumentShown(0);
   session_.CurrentDocument->SelectSpectrum(1);
   state_.Ref = session_.ReadSpectrum();
-  PrepareSpectrum(bench_, state_.Ref, state_.ChartRefData, state_.RefFFTData);
+  Prepare(state_.Ref, state_.ChartRefData, state_.RefFFTData);
+}
+
+void SampleRun::Prepare(state::SpectrumBuffer& spectrum, state::Ordinates& chart,
+                        state::Ordinates& transform) {
+  PrepareSpectrum(bench_, spectrum, chart, transform);
+  if (LeavesDocumentOpen(state_.algorithm)) open_documents_.push_back(session_.CurrentDocument);
 }
 
 bool SampleRun::CollectBackgroundIfDue(const acquisition::BackgroundSchedule& schedule,
@@ -226,7 +218,7 @@ bool SampleRun::RollOver() {
 
 bool SampleRun::CollectSample() {
   if (state_.options.demoMode != 0) {
-    session_.Open(state_.folders.InStandards(DemonstrationFile(state_.algorithm)));
+    session_.Open(state_.folders.InStandards(acquisition::DemonstrationFile(state_.algorithm)));
     session_.CurrentDocument->SetDocumentShown(0);
     session_.CurrentDocument->SelectSpectrum(1);
   } else {
@@ -271,12 +263,7 @@ void SampleRun::ShowResult() {
   const platform::ChartBatch batch(bench_.panel.chart);
   platform::Chart& chart = bench_.panel.chart;
   PlotTraces(state_, chart);
-
-  const bool passes = Passes(state_.comparison, state_.options.passThreshold);
-  const bool is_shown = HasMatchQuality(state_.algorithm) && state_.options.addPassFail != 0;
-  chart.SetLabel(platform::Chart::kVerdictLabel,
-                 is_shown ? Text(passes ? TextId::kPass : TextId::kFail) : "");
-  chart.SetVerdictColour(passes ? platform::VerdictColour::kPass : platform::VerdictColour::kFail);
+  ShowVerdict(state_, chart);
 
   const platform::DateTime now = bench_.machine.clock.LocalNow();
   const platform::RegionalFormat& regional = bench_.machine.regional;
@@ -291,12 +278,19 @@ void SampleRun::ShowResult() {
 
 // A print template shows these two; the sample is the last spectrum of its file.
 void SampleRun::NameResultInSampleFile() {
+  // The application need not open again what it has open.
+  if (LeavesDocumentOpen(state_.algorithm)) {
+    session_.CurrentDocument->CloseDocument(false);
+    open_documents_.pop_back();
+  }
   session_.Open(state_.tmpSampName);
   session_.CurrentDocument->SelectSpectrum(platform::ToInt16(session_.CurrentDocument->GetSpectrumCount()));
   session_.spect = session_.CurrentDocument->GetSpectrum();
   const auto parameters = session_.spect->GetParameterList();
   for (const char* name : {"Comparison", "Sample Name"}) parameters->AddParameter(name, 1);
-  session_.spect->GetParameter("Comparison")->SetValue(state_.comparison);
+  // Nothing was compared where the comparison is no number.
+  session_.spect->GetParameter("Comparison")
+      ->SetValue(std::isnan(state_.comparison) ? ParameterValue("") : ParameterValue(state_.comparison));
   session_.spect->GetParameter("Sample Name")->SetValue(frm_samp_.txtSampName.Text());
   session_.CurrentDocument->CloseDocument(true);
 }

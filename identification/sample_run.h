@@ -1,8 +1,9 @@
 // The operator's sample run, from the entry dialog to the filed spectrum and its records.
 #pragma once
 
-#include <optional>
+#include <memory>
 #include <string>
+#include <vector>
 
 #include "acquisition/background.h"
 #include "acquisition/bench.h"
@@ -25,7 +26,6 @@ public:
   void Run(const acquisition::BackgroundSchedule& schedule);
 
 private:
-  void ClearResult();
   bool FindProduct();
   void RunForProduct(const acquisition::BackgroundSchedule& schedule);
   void LoadStandard();
@@ -39,6 +39,7 @@ private:
   void ShowResult();
   void RecordResult();
   void NameResultInSampleFile();
+  void Prepare(state::SpectrumBuffer& spectrum, state::Ordinates& chart, state::Ordinates& transform);
   bool Refuse(const std::string& text);
 
   acquisition::Bench& bench_;
@@ -46,6 +47,8 @@ private:
   acquisition::SpectrometerSession& session_;
   FrmSamp& frm_samp_;
   platform::AppendingFile& log_;
+  // Documents that stay open until the run is over.
+  std::vector<std::shared_ptr<acquisition::Document>> open_documents_;
   // Where a file that has to make room goes.
   std::string roll_over_name_;
 };

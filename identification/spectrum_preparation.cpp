@@ -1,4 +1,4 @@
-// Preparing, comparing and plotting Standard and sample.
+// Preparing and plotting Standard and sample.
 #include "identification/spectrum_preparation.h"
 
 #include <algorithm>
@@ -6,7 +6,6 @@
 #include "acquisition/null_regions.h"
 #include "identification/correlation.h"
 #include "identification/normalisation.h"
-#include "platform/run_time_error.h"
 
 namespace veritane::identification {
 
@@ -26,20 +25,16 @@ void PrepareSpectrum(acquisition::Bench& bench, state::SpectrumBuffer& spectrum,
   const std::string& algorithm = bench.state.algorithm;
   chart = spectrum.Data;
   NormaliseToUnitRange(chart);
-  if (algorithm == state::kFourier) {
-    transform = bench.session.ReadTransform();
-    bench.session.CurrentDocument->CloseDocument(false);
-  } else if (algorithm == state::kEuclidean) {
-    bench.session.CurrentDocument->CloseDocument(false);
+  if (algorithm == state::kFourier) transform = bench.session.ReadTransform();
+  if (!LeavesDocumentOpen(algorithm)) bench.session.CurrentDocument->CloseDocument(false);
+  if (algorithm == state::kEuclidean) {
     acquisition::LoadNullRegions(bench.machine.files, bench.state);
     PrepareForEuclidean(spectrum, bench.state.nullRegions);
   }
 }
 
-double Compare(state::ProgramState& state) {
-  if (state.algorithm == state::kFourier) return FourierComparison(state.RefFFTData, state.SampFFTData);
-  if (state.algorithm == state::kEuclidean) return EuclideanComparison(state.Ref.Data, state.Samp.Data);
-  throw platform::RunTimeError(platform::ErrorNumber::kInvalidCall, state.algorithm);
+bool LeavesDocumentOpen(const std::string& algorithm) {
+  return algorithm == state::kPls || algorithm == state::kMarkPeaks;
 }
 
 void PlotTraces(state::ProgramState& state, platform::Chart& chart) {

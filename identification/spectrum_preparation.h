@@ -1,6 +1,8 @@
 // What a run makes of a spectrum, Standard or sample, before it compares the two.
 #pragma once
 
+#include <string>
+
 #include "acquisition/bench.h"
 
 namespace veritane::identification {
@@ -8,12 +10,13 @@ namespace veritane::identification {
 // Prepares the spectrum of the current document, which `spectrum` was read from, for the state's algorithm:
 // `chart` becomes its trace on a scale from 0 to 1, `transform` its transform for "Fourier"; for "Euclidean"
 // the spectrum itself loses its baseline, is normalised and goes through the null regions of the state's
-// collect method. The document is closed without saving for all algorithms that are done with it.
+// collect method. The document is then closed without saving, but for the algorithms of
+// LeavesDocumentOpen.
 void PrepareSpectrum(acquisition::Bench& bench, state::SpectrumBuffer& spectrum, state::Ordinates& chart,
                      state::Ordinates& transform);
 
-// Compares the prepared Standard and sample of the state by its algorithm: the match quality in percent.
-double Compare(state::ProgramState& state);
+// "PLS" and "Mark Peaks" do not read the spectrum's points: their documents stay open until the run is over.
+bool LeavesDocumentOpen(const std::string& algorithm);
 
 // Plots both traces of the state and sets the limits of the axes.
 void PlotTraces(state::ProgramState& state, platform::Chart& chart);

@@ -32,11 +32,18 @@ struct ChartMarker {
   std::string text;
 };
 
+// How a band is shaded. From kFaint to kStrong the colour deepens and the hatching gets denser.
+enum class RegionShade { kPlain, kFaint, kLight, kMedium, kStrong };
+
 // A band of wavenumbers shaded behind the traces.
 struct ChartRegion {
   double low = 0;
   double high = 0;
-  std::string text;
+  // Written into the band where it is wide enough.
+  std::string text = {};
+  RegionShade shade = RegionShade::kPlain;
+  // What the shade means. The legend names each shade that has a meaning once.
+  std::string meaning = {};
 };
 
 enum class VerdictColour { kNone, kPass, kFail };

@@ -5,6 +5,7 @@
 #include <array>
 #include <cmath>
 
+#include "platform/chart_shading.h"
 #include "platform/chart_trace.h"
 
 namespace veritane::platform {
@@ -16,7 +17,6 @@ constexpr Colour kInk{32, 36, 40};
 constexpr Colour kQuietInk{84, 92, 100};
 constexpr Colour kGridLine{226, 230, 234};
 constexpr Colour kPlotBorder{176, 182, 188};
-constexpr Colour kRegionFill{240, 228, 190, 150};
 constexpr Colour kMarkerLine{120, 50, 130, 190};
 constexpr Colour kMarkerText{96, 32, 108};
 constexpr Colour kPass{10, 118, 56};
@@ -66,16 +66,20 @@ private:
       const double from = std::clamp(layout_.PixelX(std::max(region.low, region.high)), plot_.left, right_);
       const double to = std::clamp(layout_.PixelX(std::min(region.low, region.high)), plot_.left, right_);
       if (to <= from) continue;
-      surface_.FillRectangle({from, plot_.top}, to - from, plot_.height, kRegionFill);
-      const double height = unit_ * 0.85;
-      const std::string text =
-          FitText(region.text, to - from - unit_ * 0.4, height, TextWeight::kNormal, surface_);
-      if (text == region.text) {
-        surface_.Text(text, {from + unit_ * 0.2, plot_.top + unit_ * 0.2}, height, TextWeight::kNormal,
-                      kQuietInk);
-      }
+      PaintShade(surface_, {{from, plot_.top}, to - from, plot_.height}, region.shade, unit_);
+      PaintRegionText(region, from, to - from);
     }
     surface_.EndClip();
+  }
+
+  void PaintRegionText(const ChartRegion& region, double left, double width) {
+    const double height = unit_ * 0.85;
+    const double margin = unit_ * 0.2;
+    const TextSize size = surface_.Measure(region.text, height, TextWeight::kNormal);
+    if (region.text.empty() || size.width > width - 2 * margin) return;
+    const Point at{left + margin, plot_.top + margin};
+    surface_.FillRectangle(at, size.width, size.height, ShadeFill(region.shade));
+    surface_.Text(region.text, at, height, TextWeight::kNormal, kQuietInk);
   }
 
   void PaintGrid() {
@@ -177,6 +181,10 @@ private:
       const Point end{entry.line_begin.x + entry.line_length, entry.line_begin.y};
       surface_.Line(entry.line_begin, end, hair_ * 3, SeriesColour(entry.series));
       surface_.Text(entry.title.text, entry.title.at, unit_, TextWeight::kNormal, kInk);
+    }
+    for (const ShadeEntry& entry : layout_.shades) {
+      PaintShade(surface_, {entry.corner, entry.width, entry.height}, entry.shade, unit_);
+      surface_.Text(entry.meaning.text, entry.meaning.at, unit_, TextWeight::kNormal, kInk);
     }
   }
 

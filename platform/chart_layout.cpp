@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <map>
 
 #include "platform/utf8.h"
 
@@ -12,6 +13,7 @@ namespace {
 
 constexpr double kLineSpacing = 1.3;
 constexpr double kVerdictSize = 2.4;
+constexpr double kSwatchWidth = 2;
 constexpr std::size_t kMarkerRows = 4;
 
 AxisLimits Drawable(AxisLimits limits) {
@@ -125,28 +127,55 @@ private:
     return std::clamp(static_cast<int>(length / each), 2, 20);
   }
 
+  // Traces, then the shades of marked bands, in as many lines as they need.
   void PlaceLegend() {
-    const double swatch = unit_ * 2;
-    const double right = layout_.plot.left + layout_.plot.width;
-    double left = layout_.plot.left;
-    double line = top_ + unit_ * 0.2;
+    legend_left_ = layout_.plot.left;
+    legend_top_ = top_ + unit_ * 0.2;
     for (std::size_t i = 0; i < chart_.Series().size(); ++i) {
-      const ChartSeries& series = chart_.Series()[i];
-      if (!IsListed(series)) continue;
-      const double room = std::max(unit_, layout_.plot.width - swatch - unit_ * 0.5);
-      const std::string title = FitText(series.title, room, unit_, TextWeight::kNormal, surface_);
-      const double width = swatch + unit_ * 0.5 + surface_.Measure(title, unit_, TextWeight::kNormal).width;
-      if (left > layout_.plot.left && left + width > right) {
-        left = layout_.plot.left;
-        line += unit_ * kLineSpacing;
-      }
+      if (!IsListed(chart_.Series()[i])) continue;
+      const PlacedText title = PlaceLegendText(chart_.Series()[i].title);
       layout_.legend.push_back({.series = i,
-                                .line_begin = {left, line + unit_ * 0.55},
-                                .line_length = swatch,
-                                .title = {title, {left + swatch + unit_ * 0.5, line}}});
-      left += width + unit_ * 1.5;
+                                .line_begin = {SwatchLeft(title), title.at.y + unit_ * 0.55},
+                                .line_length = unit_ * kSwatchWidth,
+                                .title = title});
     }
-    top_ = (layout_.legend.empty() ? top_ : line + unit_ * kLineSpacing) + unit_ * 0.4;
+    for (const auto& [shade, meaning] : Shades()) {
+      const PlacedText text = PlaceLegendText(meaning);
+      layout_.shades.push_back({.shade = shade,
+                                .corner = {SwatchLeft(text), text.at.y + unit_ * 0.1},
+                                .width = unit_ * kSwatchWidth,
+                                .height = unit_ * 0.9,
+                                .meaning = text});
+    }
+    const bool is_empty = layout_.legend.empty() && layout_.shades.empty();
+    top_ = (is_empty ? top_ : legend_top_ + unit_ * kLineSpacing) + unit_ * 0.4;
+  }
+
+  double SwatchLeft(const PlacedText& text) const { return text.at.x - unit_ * (kSwatchWidth + 0.5); }
+
+  // The place of the next legend text, with room for its swatch before it.
+  PlacedText PlaceLegendText(const std::string& whole) {
+    const double before = unit_ * (kSwatchWidth + 0.5);
+    const double right = layout_.plot.left + layout_.plot.width;
+    const double room = std::max(unit_, layout_.plot.width - before);
+    const std::string text = FitText(whole, room, unit_, TextWeight::kNormal, surface_);
+    const double width = before + surface_.Measure(text, unit_, TextWeight::kNormal).width;
+    if (legend_left_ > layout_.plot.left && legend_left_ + width > right) {
+      legend_left_ = layout_.plot.left;
+      legend_top_ += unit_ * kLineSpacing;
+    }
+    const PlacedText placed{text, {legend_left_ + before, legend_top_}};
+    legend_left_ += width + unit_ * 1.5;
+    return placed;
+  }
+
+  // Each shade that means something, from faint to strong.
+  std::map<RegionShade, std::string> Shades() const {
+    std::map<RegionShade, std::string> shades;
+    for (const ChartRegion& region : chart_.Regions()) {
+      if (!region.meaning.empty()) shades.emplace(region.shade, region.meaning);
+    }
+    return shades;
   }
 
   // Marker texts stand above the plot in as many rows as keep them apart; one that fits nowhere is left out.
@@ -194,6 +223,8 @@ private:
   const DrawingContext& surface_;
   const double unit_;
   double top_ = 0;
+  double legend_left_ = 0;
+  double legend_top_ = 0;
   ChartLayout layout_;
 };
 

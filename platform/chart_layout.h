@@ -23,6 +23,15 @@ struct LegendEntry {
   PlacedText title;
 };
 
+// A shade of marked bands and what it means.
+struct ShadeEntry {
+  RegionShade shade = RegionShade::kPlain;
+  Point corner;  // of the swatch
+  double width = 0;
+  double height = 0;
+  PlacedText meaning;
+};
+
 struct PlacedMarker {
   double x = 0;
   // Where its line begins: the top of the plot, or higher where it leads to its text.
@@ -46,6 +55,7 @@ struct ChartLayout {
   PlacedText verdict;
   double verdict_height = 0;
   std::vector<LegendEntry> legend;
+  std::vector<ShadeEntry> shades;
   std::vector<PlacedMarker> markers;
 
   // Wavenumbers fall from left to right.

@@ -7,6 +7,7 @@
 #include <string>
 
 #include "platform/date_time.h"
+#include "platform/dynamic_library.h"
 #include "platform/file_system.h"
 
 namespace veritane::platform {
@@ -58,6 +59,7 @@ struct Machine {
   const UserAccount& user;
   const Clock& clock;
   const RegionalFormat& regional;
+  const DynamicLibraries& libraries;
 };
 
 }  // namespace veritane::platform

@@ -1,4 +1,4 @@
-// The results window: the text report of a comparison.
+// The results window: the text report of a comparison, beside the spectrum that it belongs to.
 #pragma once
 
 #include "platform/controls.h"
@@ -8,15 +8,13 @@ namespace veritane::review {
 
 class FrmResults : public platform::Form {
 public:
-  explicit FrmResults(platform::Desktop& desktop) : Form(desktop, "frmResults") {
-    SetCaption("Results");
-    txtResults.isMultiLine = true;
-    txtResults.isReadOnly = true;
-    cmdPrint.SetCaption("&Print");
-  }
+  explicit FrmResults(platform::Desktop& desktop);
 
   platform::TextBox txtResults{*this, "txtResults"};
   platform::Button cmdPrint{*this, "cmdPrint"};
+
+  // Escape closes the window.
+  bool txtResults_KeyPress(int key);
 };
 
 }  // namespace veritane::review

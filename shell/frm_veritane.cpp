@@ -14,18 +14,19 @@ FrmVeritane::FrmVeritane(platform::Desktop& desktop, const platform::Machine& ma
     : MainControls(desktop),
       machine_(machine),
       create_spectrometer_app_(std::move(create_spectrometer_app)),
+      prediction_library_(machine.libraries),
       dialogs_(
           desktop,
           [this] {
             std::vector<std::string> ids;
-            const std::string table = state_.folders.appDir + state_.folderSet.methTable;
+            const std::string table = acquisition::ProductTablePath(state_);
             for (const acquisition::Product& product :
                  acquisition::ReadProductTable(machine_.files.ReadBytes(table), table)) {
               ids.push_back(product.productId);
             }
             return ids;
           },
-          [this] { return state::CurrentUserName(machine_.user); }),
+          [this] { return state::CurrentUserName(machine_.user); }, PredictionAround()),
       bench_{.desktop = desktop,
              .machine = machine,
              .state = state_,
@@ -36,9 +37,22 @@ FrmVeritane::FrmVeritane(platform::Desktop& desktop, const platform::Machine& ma
                        .fraSpectrum = fraSpectrum,
                        .chart = chart,
                        .lblResult = lblResult,
-                       .txtResults = dialogs_.frmResults.txtResults}} {
+                       .txtResults = dialogs_.frmResults.txtResults,
+                       .frmResults = dialogs_.frmResults}},
+      methods_(desktop, machine.files, state_,
+               {.lstMeths = lstMeths,
+                .lstNullRegions = lstNullRegions,
+                .frmPrompts = dialogs_.frmPrompts,
+                .frmNullRegion = dialogs_.frmNullRegion},
+               [this] { LoadMethods(); }),
+      products_(desktop, machine.files, state_,
+                {.grid = grid,
+                 .lblCurrentProductID = lblCurrentProductID,
+                 .cmbCollectMethod = cmbCollectMethod,
+                 .cmbAlgorithm = cmbAlgorithm}) {
   ConnectOperatorHandlers();
   ConnectSupervisorHandlers();
+  ConnectSetUpHandlers();
   ConnectSpectrumHandlers();
   DisableWhatIsNotThereYet();
   // After a fault in a handler the panel that it came from is there again.
@@ -46,8 +60,10 @@ FrmVeritane::FrmVeritane(platform::Desktop& desktop, const platform::Machine& ma
     const bool menu = fraMainMenu.Visible();
     const bool supervisor = fraSupervisorMode.Visible();
     const bool spectrum = fraSpectrum.Visible();
-    return [this, menu, supervisor, spectrum] {
+    const bool prediction = dialogs_.mainForm.Shown();
+    return [this, menu, supervisor, spectrum, prediction] {
       dialogs_.frmStatus.Hide();
+      if (!prediction) dialogs_.mainForm.Hide();
       fraMainMenu.SetVisible(menu);
       fraSupervisorMode.SetVisible(supervisor);
       fraSpectrum.SetVisible(spectrum);
@@ -69,16 +85,14 @@ void FrmVeritane::ConnectSpectrumHandlers() {
 }
 
 void FrmVeritane::DisableWhatIsNotThereYet() {
-  for (platform::Control* control : std::initializer_list<platform::Control*>{
-           &cmdAddMeth, &cmdDeleteMethod, &cmdNullRegions, &cmbCollectMethod, &cmbAlgorithm,
-           &cmdChooseCalFile, &cmdDel, &cmdCollectStdNow, &cmdParse, &cmdSelTemplate, &cmdStandard, &cmdSamp,
-           &cmdNow, &cmdPrint, &cmdScreenCopy}) {
+  for (platform::Control* control : std::initializer_list<platform::Control*>{&cmdPrint, &cmdScreenCopy}) {
     control->SetEnabled(false);
     control->SetToolTip("Not available in this version");
   }
 }
 
 void FrmVeritane::cmdSample_Click() {
+  state_.reprocessing = 0;
   identification::SampleRun run(bench_, dialogs_.frmSamp, Log());
   run.Run({.beforeEverySample = optBackBeforeSample.Checked(),
            .byInterval = optBackInterval.Checked(),

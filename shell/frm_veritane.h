@@ -4,8 +4,11 @@
 #include <memory>
 
 #include "acquisition/bench.h"
-#include "acquisition/method_list.h"
+#include "acquisition/method_editor.h"
+#include "acquisition/product_editor.h"
 #include "platform/machine.h"
+#include "pls/loaded_prediction_library.h"
+#include "review/reprocessing.h"
 #include "shell/main_controls.h"
 #include "shell/screen_texts.h"
 #include "shell/state/program_state.h"
@@ -37,12 +40,25 @@ public:
   bool txtbackInterval_KeyPress(int key);
   void optBackBeforeSample_Click();
   void cmdBack_Click();
-  void grid_RowColChange();
   void lstMeths_Click();
+  void cmdAddMeth_Click();
+  void cmdDeleteMethod_Click();
+  void cmdNullRegions_Click();
+  void grid_RowColChange();
+  void cmbCollectMethod_Click();
+  void cmbAlgorithm_Click();
+  void cmdChooseCalFile_Click();
+  void cmdDel_Click();
+  void cmdCollectStdNow_Click();
+  void cmdParse_Click();
   void txtThreshold_Change();
   void optDefaultPrint_Click();
   void optPrintTemplate_Click();
+  void cmdSelTemplate_Click();
   void chkPrintPassFail_Click();
+  void cmdStandard_Click();
+  void cmdSamp_Click();
+  void cmdNow_Click();
   void cmdExpertMode_Click();
 
   // Spectrum panel.
@@ -59,8 +75,13 @@ protected:
 private:
   void ConnectOperatorHandlers();
   void ConnectSupervisorHandlers();
+  void ConnectSetUpHandlers();
   void ConnectSpectrumHandlers();
   void DisableWhatIsNotThereYet();
+
+  pls::PredictionSurroundings PredictionAround();
+  std::string NameOfSpectrum();
+  void ExportSpectrum(const std::string& path);
 
   void PrepareGrid();
   void ShowVersionTitle();
@@ -76,7 +97,8 @@ private:
   void SaveSettings();
   void ApplySettings();
   void LoadMethods();
-  void LoadProducts();
+  review::Reprocessing Reprocess();
+  void TurnBackTo(TabPage page);
   bool SupervisorMayEnter();
   std::string AskPassword(state::TextId prompt);
   bool PrintOptionsAreComplete();
@@ -88,8 +110,13 @@ private:
   acquisition::CreateSpectrometerApp create_spectrometer_app_;
   state::ProgramState state_;
   acquisition::SpectrometerSession session_;
+  pls::LoadedPredictionLibrary prediction_library_;
   Dialogs dialogs_;
   acquisition::Bench bench_;
+  acquisition::MethodEditor methods_;
+  acquisition::ProductEditor products_;
+  // While the program itself brings a page back, the rules of leaving pages do not apply.
+  bool is_turning_back_ = false;
   std::unique_ptr<platform::AppendingFile> log_;
 };
 

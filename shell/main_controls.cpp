@@ -31,10 +31,10 @@ MainControls::MainControls(platform::Desktop& desktop) : Form(desktop, "frmVerit
   chkPrintPassFail.SetCaption("Sho&w Pass/Fail with the result");
   chkPrintPassFail.SetChecked(true);
   fraPrint.SetCaption("Print Options");
-  optDefaultPrint.SetCaption("Default Printing");
-  optPrintTemplate.SetCaption("Print with a Template");
-  cmdSelTemplate.SetCaption("Select &Template...");
-  lblReprocessAlgorithm.SetCaption("Algorithm");
+  optDefaultPrint.SetCaption("&Default Printing");
+  optPrintTemplate.SetCaption("&Print with a Template");
+  cmdSelTemplate.SetCaption("Select Temp&late...");
+  lblReprocessAlgorithm.SetCaption("&Algorithm");
   cmdNextSample.SetCaption("&Next Sample");
   cmdNextSample.isDefault = true;
   cmdBacktoMainMenu.isCancel = true;

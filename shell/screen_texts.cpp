@@ -110,7 +110,7 @@ void LoadMainTexts(MainControls& main) {
 }  // namespace
 
 Dialogs::Dialogs(platform::Desktop& desktop, std::function<std::vector<std::string>()> product_ids,
-                 std::function<std::string()> operator_name)
+                 std::function<std::string()> operator_name, pls::PredictionSurroundings prediction)
     : frmCollectStd(desktop),
       frmNullRegion(desktop),
       frmStatus(desktop),
@@ -120,7 +120,8 @@ Dialogs::Dialogs(platform::Desktop& desktop, std::function<std::vector<std::stri
       frmPrompts(desktop),
       frmPassword(desktop),
       frmParse(desktop),
-      frmResults(desktop) {}
+      frmResults(desktop),
+      mainForm(desktop, std::move(prediction)) {}
 
 void LoadScreenTexts(Dialogs& dialogs, MainControls& main) {
   LoadDialogTexts(dialogs);

@@ -8,6 +8,7 @@
 #include "acquisition/frm_select_method.h"
 #include "acquisition/frm_status.h"
 #include "identification/frm_samp.h"
+#include "pls/main_form.h"
 #include "review/frm_results.h"
 #include "review/frm_select_spectrum.h"
 #include "shell/frm_password.h"
@@ -18,7 +19,7 @@ namespace veritane::shell {
 // Every dialog of the program.
 struct Dialogs {
   Dialogs(platform::Desktop& desktop, std::function<std::vector<std::string>()> product_ids,
-          std::function<std::string()> operator_name);
+          std::function<std::string()> operator_name, pls::PredictionSurroundings prediction);
 
   acquisition::FrmCollectStd frmCollectStd;
   acquisition::FrmNullRegion frmNullRegion;
@@ -30,6 +31,7 @@ struct Dialogs {
   FrmPassword frmPassword;
   acquisition::FrmParse frmParse;
   review::FrmResults frmResults;
+  pls::MainForm mainForm;
 };
 
 // Sets every caption, window by window in the order of the table.

@@ -1,5 +1,6 @@
 // Start-up and the two ways to end.
 #include "acquisition/collection.h"
+#include "acquisition/method_list.h"
 #include "platform/desktop.h"
 #include "platform/run_time_error.h"
 #include "shell/frm_veritane.h"
@@ -143,10 +144,13 @@ void FrmVeritane::FillAlgorithmLists() {
 }
 
 void FrmVeritane::LoadMethods() {
-  acquisition::LoadMethodList(machine_.files, state_.folders.appDir + state_.folderSet.methsTable, state_,
+  acquisition::LoadMethodList(machine_.files, state_,
                               {.lstMeths = lstMeths,
                                .shortNames = {&cmbCollectMethod, &dialogs_.frmCollectStd.cmbmth,
                                               &dialogs_.frmSelectMethod.cmbSelectMethod}});
+  // No method is selected any more, and the lists were emptied beside the grid's current row.
+  lstNullRegions.Clear();
+  products_.ShowCurrentRow();
 }
 
 // Whether the program may end: the settings are saved, or the user leaves without them.

@@ -1,7 +1,6 @@
 // Supervisor mode: its password, its options, and the way back to the operator.
 #include "acquisition/background.h"
-#include "acquisition/null_regions.h"
-#include "acquisition/product_table.h"
+#include "acquisition/method_list.h"
 #include "platform/desktop.h"
 #include "platform/number_text.h"
 #include "platform/run_time_error.h"
@@ -29,12 +28,14 @@ void FrmVeritane::ConnectSupervisorHandlers() {
   txtbackInterval.OnKeyPress = [this](int key) { return txtbackInterval_KeyPress(key); };
   optBackBeforeSample.OnClick = [this] { optBackBeforeSample_Click(); };
   cmdBack.OnClick = [this] { cmdBack_Click(); };
-  grid.OnRowColChange = [this] { grid_RowColChange(); };
-  lstMeths.OnClick = [this] { lstMeths_Click(); };
   txtThreshold.OnChange = [this] { txtThreshold_Change(); };
   optDefaultPrint.OnClick = [this] { optDefaultPrint_Click(); };
   optPrintTemplate.OnClick = [this] { optPrintTemplate_Click(); };
+  cmdSelTemplate.OnClick = [this] { cmdSelTemplate_Click(); };
   chkPrintPassFail.OnClick = [this] { chkPrintPassFail_Click(); };
+  cmdStandard.OnClick = [this] { cmdStandard_Click(); };
+  cmdSamp.OnClick = [this] { cmdSamp_Click(); };
+  cmdNow.OnClick = [this] { cmdNow_Click(); };
   cmdExpertMode.OnClick = [this] { cmdExpertMode_Click(); };
 }
 
@@ -61,44 +62,10 @@ void FrmVeritane::cmdSupervisor_Click() {
                 machine_.regional.ShortTime(now))
                    .append(platform::kLineEnd));
   Screen().SetMousePointer(Pointer::kHourglass);
-  LoadProducts();
+  products_.Load();
   SSTab1.SetTab(kSecurityTab);
   Screen().SetMousePointer(Pointer::kDefault);
   state::ShowPanel(bench_.panel, fraSupervisorMode);
-}
-
-void FrmVeritane::LoadProducts() {
-  try {
-    acquisition::LoadProductTable(machine_.files, state_.folders.appDir + state_.folderSet.methTable, grid);
-  } catch (const platform::RunTimeError& error) {
-    grid.Resize(1, grid.ColumnCount());
-    Screen().SetMousePointer(Pointer::kDefault);
-    Screen().ShowMessage({.text = std::string("The product table cannot be read. ") + error.what(),
-                          .title = state::kPlainNotice,
-                          .icon = MessageIcon::kCritical});
-  }
-}
-
-void FrmVeritane::grid_RowColChange() {
-  if (grid.ColumnCount() < 3 || grid.Row() < grid.FixedRows()) return;
-  lblCurrentProductID.SetCaption(grid.Cell(grid.Row(), 0));
-  const auto show = [](platform::ComboBox& combo, const std::string& text) {
-    const auto& items = combo.Items();
-    const auto found = std::find(items.begin(), items.end(), text);
-    combo.Select(found == items.end() ? -1 : static_cast<int>(found - items.begin()));
-  };
-  show(cmbCollectMethod, grid.Cell(grid.Row(), 1));
-  show(cmbAlgorithm, grid.Cell(grid.Row(), 2));
-}
-
-void FrmVeritane::lstMeths_Click() {
-  lstNullRegions.Clear();
-  const std::string path = acquisition::NullRegionPath(
-      state_.folders, state_.methodShortNames.at(static_cast<std::size_t>(lstMeths.Selected())));
-  if (!machine_.files.FileExists(path)) return;
-  platform::TextReader reader(machine_.files.ReadBytes(path), path);
-  const int count = reader.ReadInt16();
-  for (int region = 0; region < count; ++region) lstNullRegions.Add(reader.ReadLine());
 }
 
 void FrmVeritane::optNoPassword_Click() {
@@ -192,15 +159,35 @@ void FrmVeritane::optPrintTemplate_Click() {
   state_.options.printOption = 1;
 }
 
+void FrmVeritane::cmdSelTemplate_Click() {
+  const auto path = Screen().ChooseFile(
+      {.title = "Select print template", .filter = "(*.bpt)|*.bpt", .folder = state_.folders.appDir});
+  if (!path) return;
+  state_.options.printTemplate = *path;
+  lblPrintTemplate.SetCaption(*path);
+  optPrintTemplate.Check();
+}
+
 void FrmVeritane::chkPrintPassFail_Click() {
   state_.options.addPassFail = static_cast<std::int16_t>(chkPrintPassFail.Value());
 }
 
+void FrmVeritane::TurnBackTo(TabPage page) {
+  is_turning_back_ = true;
+  SSTab1.SetTab(page);
+  is_turning_back_ = false;
+}
+
 void FrmVeritane::SSTab1_Change(int previous) {
+  if (is_turning_back_) return;
   if (previous == kOptionsTab && optPrintTemplate.Checked() && lblPrintTemplate.Caption().empty()) {
     Screen().ShowMessage(
         {.text = "Please select a Print Template, or Select Default Printing", .title = "Veritane"});
-    SSTab1.SetTab(kOptionsTab);
+    TurnBackTo(kOptionsTab);
+    return;
+  }
+  if (previous == kStandardsTab && !products_.Save()) {
+    TurnBackTo(kStandardsTab);
     return;
   }
   if (SSTab1.Tab() == kMethodsTab && lstMeths.Selected() >= 0) lstMeths.Select(0);
@@ -231,8 +218,12 @@ void FrmVeritane::cmdMainMenu_Click() {
   state_.options.addPassFail = static_cast<std::int16_t>(chkPrintPassFail.Value());
   SaveSettings();
   LoadSettings();
+  if (!products_.Save()) {
+    TurnBackTo(kStandardsTab);
+    return;
+  }
   Screen().SetMousePointer(Pointer::kHourglass);
-  acquisition::SaveMethodList(machine_.files, state_.folders.appDir + state_.folderSet.methsTable, state_);
+  acquisition::SaveMethodList(machine_.files, state_);
   state::ShowPanel(bench_.panel, fraMainMenu);
   Screen().SetMousePointer(Pointer::kDefault);
 }

@@ -9,6 +9,7 @@
 #include "platform/windows_path.h"
 #include "simulator/jcamp_writer.h"
 #include "simulator/simulated_collect_method.h"
+#include "simulator/spc_writer.h"
 #include "simulator/spectrum_file.h"
 #include "simulator/transform.h"
 
@@ -19,13 +20,28 @@ namespace {
 using platform::ErrorNumber;
 using platform::RunTimeError;
 
-class SimulatedOperation : public acquisition::Operation {
+class UnaryOperation : public acquisition::Operation {
 public:
   void SetOperation(std::int16_t operation) override { operation_ = operation; }
+  void SetFileName(const std::string&) override {
+    throw RunTimeError(ErrorNumber::kInvalidCall, "a unary operation has no file name");
+  }
   std::int16_t Chosen() const { return operation_; }
 
 private:
   std::int16_t operation_ = 0;
+};
+
+class ExportOperation : public acquisition::Operation {
+public:
+  void SetOperation(std::int16_t) override {
+    throw RunTimeError(ErrorNumber::kInvalidCall, "an export has no operation to choose");
+  }
+  void SetFileName(const std::string& path) override { path_ = path; }
+  const std::string& FileName() const { return path_; }
+
+private:
+  std::string path_;
 };
 
 // A template that was found and opened.
@@ -252,22 +268,28 @@ void SimulatedDocument::SelectSpectrum(std::int16_t index) {
 std::shared_ptr<acquisition::Operation> SimulatedDocument::CreateOperation(const std::string& kind) {
   around_->calls->Note("CreateOperation", kind);
   RequireOpen();
-  if (kind != acquisition::kUnaryOperation) {
-    throw RunTimeError(ErrorNumber::kInvalidCall, "there is no operation of the kind \"" + kind + "\"");
-  }
-  return std::make_shared<SimulatedOperation>();
+  if (kind == acquisition::kUnaryOperation) return std::make_shared<UnaryOperation>();
+  if (kind == acquisition::kExportOperation) return std::make_shared<ExportOperation>();
+  throw RunTimeError(ErrorNumber::kInvalidCall, "there is no operation of the kind \"" + kind + "\"");
 }
 
 void SimulatedDocument::ApplyOperation(acquisition::Operation& operation) {
-  const auto* const simulated = dynamic_cast<const SimulatedOperation*>(&operation);
-  if (simulated == nullptr) {
+  if (const auto* const unary = dynamic_cast<const UnaryOperation*>(&operation)) {
+    around_->calls->Note("ApplyOperation", unary->Chosen());
+    RequireOpen();
+    Transform(unary->Chosen());
+  } else if (const auto* const exporting = dynamic_cast<const ExportOperation*>(&operation)) {
+    around_->calls->Note("ApplyOperation", exporting->FileName());
+    RequireOpen();
+    Export(exporting->FileName());
+  } else {
     throw RunTimeError(ErrorNumber::kTypeMismatch, "the operation belongs to another application");
   }
-  around_->calls->Note("ApplyOperation", simulated->Chosen());
-  RequireOpen();
-  if (simulated->Chosen() != acquisition::kTransformOperation) {
-    throw RunTimeError(ErrorNumber::kInvalidCall,
-                       "there is no unary operation " + std::to_string(simulated->Chosen()));
+}
+
+void SimulatedDocument::Transform(std::int16_t operation) {
+  if (operation != acquisition::kTransformOperation) {
+    throw RunTimeError(ErrorNumber::kInvalidCall, "there is no unary operation " + std::to_string(operation));
   }
   std::shared_ptr<OpenSpectrum>& current = Current();
   auto transformed = std::make_shared<OpenSpectrum>();
@@ -276,6 +298,13 @@ void SimulatedDocument::ApplyOperation(acquisition::Operation& operation) {
   current->attached = false;
   current = std::move(transformed);
   changed_ = true;
+}
+
+void SimulatedDocument::Export(const std::string& path) {
+  if (platform::UpperCase(path) == platform::UpperCase(path_)) {
+    throw RunTimeError(ErrorNumber::kFileAlreadyOpen, "an export would replace the document itself: " + path);
+  }
+  around_->files.WriteBytes(path, WriteSpc(Current()->stored));
 }
 
 void SimulatedDocument::SetDocumentShown(std::int32_t flag) {

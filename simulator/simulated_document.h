@@ -78,6 +78,8 @@ private:
   void RequireUnchangedFile() const;
   void Saved(std::string_view bytes);
   void Append(Measurement&& measurement);
+  void Transform(std::int16_t operation);
+  void Export(const std::string& path);
   std::shared_ptr<OpenSpectrum>& Current();
 
   std::shared_ptr<DocumentSurroundings> around_;

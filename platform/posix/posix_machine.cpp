@@ -32,6 +32,10 @@ std::tm ToTm(const DateTime& moment) {
   return broken;
 }
 
+fs::path NativeProgramFolder() {
+  return fs::read_symlink("/proc/self/exe").parent_path();
+}
+
 // One line of REGEDIT4 text: "name"=dword:0000000f.
 std::optional<std::uint32_t> DwordOf(const std::string& line, const std::string& name) {
   const std::size_t close = line.find('"', 1);
@@ -94,7 +98,7 @@ std::string PosixShellFolders::CommonApplicationData(bool create) const {
 }
 
 std::string PosixShellFolders::ProgramFolder() const {
-  return paths_.ToWindows(fs::read_symlink("/proc/self/exe").parent_path());
+  return paths_.ToWindows(NativeProgramFolder());
 }
 
 std::optional<std::string> PosixUserAccount::LoggedOnUser() const {
@@ -151,7 +155,8 @@ PosixMachine::PosixMachine(const fs::path& root, const std::string& locale_name)
       files(paths, clock),
       registry(paths.Root() / "registry.reg"),
       folders(paths),
-      regional(locale_name) {}
+      regional(locale_name),
+      libraries(paths, NativeProgramFolder()) {}
 
 Machine PosixMachine::Facilities() {
   return {.files = files,
@@ -159,7 +164,8 @@ Machine PosixMachine::Facilities() {
           .folders = folders,
           .user = user,
           .clock = clock,
-          .regional = regional};
+          .regional = regional,
+          .libraries = libraries};
 }
 
 }  // namespace veritane::platform

@@ -7,6 +7,7 @@
 
 #include "platform/machine.h"
 #include "platform/posix/disk_file_system.h"
+#include "platform/posix/dynamic_library_loader.h"
 #include "platform/posix/path_map.h"
 
 namespace veritane::platform {
@@ -82,6 +83,7 @@ public:
   PosixShellFolders folders;
   PosixUserAccount user;
   PosixRegionalFormat regional;
+  DynamicLibraryLoader libraries;
 
   Machine Facilities();
 };

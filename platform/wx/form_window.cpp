@@ -7,6 +7,7 @@
 #include <wx/gauge.h>
 #include <wx/panel.h>
 
+#include <algorithm>
 #include <map>
 
 #include "platform/controls.h"
@@ -180,15 +181,30 @@ void FormWindow::Appear() {
     FocusFirst(nullptr);
     return;
   }
-  window_->CentreOnParent();
   if (is_status_) {
+    window_->CentreOnParent();
     window_->ShowWithoutActivating();
     return;
+  }
+  if (form_.Modal()) {
+    window_->CentreOnParent();
+  } else {
+    PlaceBeside(window_->GetParent()->GetScreenRect());
   }
   FocusFirst(nullptr);
   // A modal form begins to run later, but is on screen while it is being prepared.
   window_->Show();
   window_->Raise();
+}
+
+// What stays open beside the main window hides as little of it as the screen allows.
+void FormWindow::PlaceBeside(const wxRect& main_window) {
+  const wxRect screen = wxDisplay(window_).GetClientArea();
+  const wxSize size = window_->GetSize();
+  const int left = std::min(main_window.GetRight() + 1, screen.GetRight() + 1 - size.x);
+  const int top =
+      std::min(main_window.GetTop() + FormBuilder::Line(root_) * 2, screen.GetBottom() + 1 - size.y);
+  window_->Move(std::max(screen.GetLeft(), left), std::max(screen.GetTop(), top));
 }
 
 void FormWindow::RunModal() {

@@ -43,6 +43,7 @@ private:
   wxSize LargestSize() const;
   void Follow(Form::Change change);
   void Appear();
+  void PlaceBeside(const wxRect& main_window);
   void FocusFirst(const Control* panel);
 
   void OnClose(wxCloseEvent& event);

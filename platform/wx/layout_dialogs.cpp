@@ -45,7 +45,7 @@ wxSizer* LayOutCollectStandard(FormBuilder& builder, wxWindow* root) {
   file->Add(builder.Add("cmdChooseCalFile", root),
             wxSizerFlags().CentreVertical().ReserveSpaceEvenIfHidden().Border(wxLEFT, Gap(root)));
   table->Add(label, wxSizerFlags().CentreVertical().ReserveSpaceEvenIfHidden());
-  table->Add(file, wxSizerFlags(1).Expand());
+  table->Add(file, wxSizerFlags(1).Expand().ReserveSpaceEvenIfHidden());
   wxWindow* scan = builder.Add("cmdScan", root);
   return Dialog(root, table, ButtonRow(root, {scan, builder.Add("cmdNoScanStandardNow", root)}));
 }
@@ -120,7 +120,8 @@ wxSizer* LayOutSelectSpectrum(FormBuilder& builder, wxWindow* root) {
 wxSizer* LayOutResults(FormBuilder& builder, wxWindow* root) {
   auto* content = new wxBoxSizer(wxVERTICAL);
   wxWindow* text = builder.Add("txtResults", root);
-  text->SetMinSize({FormBuilder::Columns(root, 80), FormBuilder::Line(root) * 22});
+  // A report is a narrow table, and must not hide the spectrum that it is about.
+  text->SetMinSize({FormBuilder::Columns(root, 32), FormBuilder::Line(root) * 24});
   content->Add(text, wxSizerFlags(1).Expand());
   return Dialog(root, content, ButtonRow(root, {builder.Add("cmdPrint", root)}));
 }

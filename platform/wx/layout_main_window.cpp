@@ -1,6 +1,5 @@
 // The main window: its three panels in one place, the operator's panel, and the spectrum panel.
 #include <wx/stattext.h>
-#include <wx/wrapsizer.h>
 
 #include "platform/wx/layout_parts.h"
 #include "platform/wx/layouts.h"
@@ -83,18 +82,13 @@ wxWindow* LayOutSpectrumPanel(FormBuilder& builder, wxWindow* parent) {
   wxWindow* copy = builder.Add("cmdScreenCopy", panel);
   wxWindow* back = builder.Add("cmdBacktoMainMenu", panel);
   next->SetFont(next->GetFont().Bold());
-  // With large fonts the row is wider than a screen; it then goes on in a second one.
-  auto* buttons = new wxWrapSizer(wxHORIZONTAL, wxREMOVE_LEADING_SPACES);
-  for (wxWindow* button : {next, reset, print, copy, back}) {
-    buttons->Add(button, wxSizerFlags().Border(wxRIGHT | wxBOTTOM, Gap(panel)));
-  }
-
   const int gap = Gap(panel);
   auto* inside = new wxBoxSizer(wxVERTICAL);
   inside->Add(heading, wxSizerFlags().Border(wxBOTTOM, gap));
   inside->Add(chart, wxSizerFlags(1).Expand());
   inside->Add(below_chart, wxSizerFlags().Expand().Border(wxTOP, gap));
-  inside->Add(buttons, wxSizerFlags().Expand().Border(wxTOP, WideGap(panel)));
+  inside->Add(WrappingButtons(panel, {next, reset, print, copy, back}),
+              wxSizerFlags().Expand().Border(wxTOP, WideGap(panel)));
   panel->SetSizer(Padded(inside, WideGap(panel)));
   return panel;
 }

@@ -1,6 +1,9 @@
 // Patterns of the layouts.
 #include "platform/wx/layout_parts.h"
 
+#include <wx/choice.h>
+#include <wx/wrapsizer.h>
+
 #include <algorithm>
 
 namespace veritane::platform {
@@ -19,7 +22,12 @@ void MakeEquallyWide(std::initializer_list<wxWindow*> buttons) {
 }  // namespace
 
 void SetLeastWidth(wxWindow* widget, int width) {
-  widget->SetMinSize({width, widget->GetMinSize().y});
+  int height = widget->GetMinSize().y;
+  // A drop-down list knows its height only once it has been on screen, which is too late for a large font.
+  if (dynamic_cast<wxChoice*>(widget) != nullptr) {
+    height = std::max(widget->GetBestSize().y, FormBuilder::Line(widget) * 3 / 2);
+  }
+  widget->SetMinSize({width, height});
 }
 
 wxFlexGridSizer* FieldTable(const wxWindow* window) {
@@ -42,6 +50,14 @@ wxSizer* ButtonRow(const wxWindow* window, std::initializer_list<wxWindow*> butt
     row->Add(button, wxSizerFlags().ReserveSpaceEvenIfHidden());
   }
   return row;
+}
+
+wxSizer* WrappingButtons(const wxWindow* window, std::initializer_list<wxWindow*> buttons) {
+  auto* rows = new wxWrapSizer(wxHORIZONTAL, wxREMOVE_LEADING_SPACES);
+  for (wxWindow* button : buttons) {
+    rows->Add(button, wxSizerFlags().Border(wxRIGHT | wxBOTTOM, Gap(window)));
+  }
+  return rows;
 }
 
 wxSizer* ButtonColumn(const wxWindow* window, std::initializer_list<wxWindow*> buttons) {

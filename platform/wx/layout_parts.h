@@ -17,13 +17,15 @@ inline int Gap(const wxWindow* window) {
   return FormBuilder::Line(window) / 2;
 }
 
-// Makes the widget at least this wide; its least height stays.
+// Makes the widget at least this wide, and a drop-down list high enough for its text.
 void SetLeastWidth(wxWindow* widget, int width);
 // Two columns: labels, and fields that take the width that is left.
 wxFlexGridSizer* FieldTable(const wxWindow* window);
 void AddField(wxFlexGridSizer* table, wxWindow* label, wxWindow* field, int least_width);
 // Buttons of one width in a row.
 wxSizer* ButtonRow(const wxWindow* window, std::initializer_list<wxWindow*> buttons);
+// Buttons in a row that goes on in a second one where the window is too narrow, as it is with large fonts.
+wxSizer* WrappingButtons(const wxWindow* window, std::initializer_list<wxWindow*> buttons);
 // The buttons below one another.
 wxSizer* ButtonColumn(const wxWindow* window, std::initializer_list<wxWindow*> buttons);
 // The content with the room around it that a dialog has, and its buttons below on the right.

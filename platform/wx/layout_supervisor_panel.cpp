@@ -77,7 +77,8 @@ wxSizer* LayOutMethods(FormBuilder& builder, wxWindow* page) {
   wxWindow* regions = builder.Add("cmdNullRegions", page);
   auto* sizer = new wxBoxSizer(wxVERTICAL);
   sizer->Add(group, wxSizerFlags(1).Expand());
-  sizer->Add(ButtonRow(page, {add, remove, regions}), wxSizerFlags().Border(wxTOP, WideGap(page)));
+  sizer->Add(WrappingButtons(page, {add, remove, regions}),
+             wxSizerFlags().Expand().Border(wxTOP, WideGap(page)));
   return sizer;
 }
 
@@ -183,7 +184,10 @@ wxWindow* LayOutSupervisorPanel(FormBuilder& builder, wxWindow* parent) {
   for (std::size_t i = 0; i < std::size(kPages) && i < tabs->GetPageCount(); ++i) {
     wxWindow* page = tabs->GetPage(i);
     page->SetSizer(Padded(kPages[i](builder, page), WideGap(panel)));
+    page->InvalidateBestSize();
   }
+  // The tabs are as large as the largest of their pages, whatever size they were made with.
+  tabs->SetMinSize(wxDefaultSize);
   auto* inside = new wxBoxSizer(wxVERTICAL);
   inside->Add(heading, wxSizerFlags().Border(wxBOTTOM, Gap(panel)));
   inside->Add(tabs, wxSizerFlags(1).Expand());

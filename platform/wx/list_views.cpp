@@ -26,6 +26,9 @@ ListBoxView::ListBoxView(ListBox& list, ViewOwner& owner, wxWindow* parent, Choo
       has_reported_ = true;
       Select(event.GetSelection());
     });
+  } else {
+    // GTK's list keeps Enter for itself and reports it like a double click.
+    widget_->Bind(wxEVT_LISTBOX_DCLICK, [this](wxCommandEvent& event) { Select(event.GetSelection()); });
   }
   widget_->Bind(wxEVT_LEFT_DOWN, [this](wxMouseEvent& event) {
     has_reported_ = false;

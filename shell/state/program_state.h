@@ -65,6 +65,18 @@ struct ProgramState {
   std::string tmpSampName;
   std::string BackGroundName;
 
+  // What the supervisor chose to compare again. The flags are 0 or 1; the index counts from 1.
+  std::int16_t StandardSelected = 0;
+  std::int16_t SampSelected = 0;
+  std::string reprocessStdName;
+  std::string reprocesssampname;
+  std::int16_t reprocesssampindex = 0;
+  // The sample file and the spectrum in it that the comparison is made of.
+  std::string spectrumName;
+  std::int16_t SpectrumIndex = 0;
+  // 1 from a reprocessing on until the next sample run: the spectra on screen come from chosen files.
+  std::int16_t reprocessing = 0;
+
   // The collect methods: full paths and short names, in the order of the list.
   std::vector<std::string> methodPaths;
   std::vector<std::string> methodShortNames;
@@ -88,6 +100,22 @@ struct ProgramState {
   // Match quality in percent. Not a number while nothing has been compared, so that no value of an earlier
   // run can pass a later sample.
   double comparison = std::numeric_limits<double>::quiet_NaN();
+
+  // The bands of the last Lumivar comparison, from low to high, and how many they are (cm⁻¹; the score as it
+  // was reported).
+  std::vector<double> LumivarBandHigh;
+  std::vector<double> LumivarBandLow;
+  std::vector<double> LumivarBandScore;
+  std::int16_t ctr = 0;
+
+  // The positions that "Mark Peaks" marked last (cm⁻¹), in the order of the peak file.
+  std::vector<double> peakPositions;
+
+  // The last PLS prediction. Element k of the arrays is constituent k, from 1; the first element is not used.
+  // The count is that of the prediction before (see pls/main_form.h).
+  std::vector<double> PLSConcentrations;
+  std::vector<std::string> PLSConstituentNames;
+  std::int16_t PLSConstituentCount = 0;
 };
 
 }  // namespace veritane::state

@@ -3,6 +3,7 @@
 
 #include "platform/chart.h"
 #include "platform/controls.h"
+#include "platform/form.h"
 
 namespace veritane::state {
 
@@ -15,10 +16,16 @@ struct SpectrumPanel {
   platform::Label& lblResult;
   // The text report of a comparison.
   platform::TextBox& txtResults;
+  // The window of that report.
+  platform::Form& frmResults;
 };
 
-// Brings one of the three panels to the front.
+// Brings one of the three panels to the front. The results window comes with the spectrum panel when there is
+// a report to show, and goes with it.
 void ShowPanel(const SpectrumPanel& panel, const platform::Frame& front);
+
+// Takes everything off the chart but its axes: traces, bands, markers, header, labels.
+void ClearChart(platform::Chart& chart);
 
 // The series of the chart: the Standard first, the sample second; two more belong to single algorithms.
 inline constexpr std::size_t kStandardSeries = 0;

@@ -7,6 +7,7 @@
 #include <cmath>
 #include <limits>
 
+#include "platform/chart_shading.h"
 #include "platform/chart_trace.h"
 #include "platform/desktop.h"
 #include "platform/form.h"
@@ -57,11 +58,13 @@ public:
   void TextUpwards(const std::string& text, Point at, double height, Colour colour) override {
     texts.push_back({text, at, height, TextWeight::kNormal, colour});
   }
-  void Line(Point, Point, double, Colour) override {}
+  void Line(Point from, Point to, double, Colour colour) override { strokes.push_back({{from, to}, colour}); }
   void Polyline(std::span<const Point> points, double, Colour colour) override {
     lines.push_back({{points.begin(), points.end()}, colour});
   }
-  void FillRectangle(Point, double, double, Colour) override {}
+  void FillRectangle(Point corner, double width, double height, Colour colour) override {
+    areas.push_back({{corner, {corner.x + width, corner.y + height}}, colour});
+  }
   void BeginClip(Point, double, double) override { ++open_clips; }
   void EndClip() override { --open_clips; }
 
@@ -73,6 +76,8 @@ public:
 
   std::vector<DrawnText> texts;
   std::vector<DrawnLine> lines;
+  std::vector<DrawnLine> strokes;
+  std::vector<DrawnLine> areas;  // two opposite corners
   int open_clips = 0;
 
 private:
@@ -210,6 +215,8 @@ TEST_F(ChartDrawingTest, NoTwoTextsAboveThePlotOverlap) {
   std::vector<ChartMarker> markers;
   for (int i = 0; i < 40; ++i) markers.push_back({1000.0 + 17 * i, std::to_string(1000 + 17 * i)});
   chart_.SetMarkers(markers);
+  chart_.SetRegions({{500, 600, "", RegionShade::kFaint, "departs < .0001"},
+                     {600, 700, "", RegionShade::kMedium, "departs < .01"}});
   chart_.SetHeader({std::string(400, 'x'), "second line"});
   chart_.SetLabel(0, "first label");
   chart_.SetLabel(Chart::kVerdictLabel, "PASS");
@@ -237,6 +244,66 @@ TEST_F(ChartDrawingTest, NoTwoTextsAboveThePlotOverlap) {
   EXPECT_EQ(layout.markers.size(), 40U);
 }
 
+TEST_F(ChartDrawingTest, MarkedBandsAreToldApartByColourAndWithoutAndTheLegendNamesEachOnce) {
+  chart_.SetRegions({{500, 600, ".01", RegionShade::kStrong, "departs ≥ .01"},
+                     {600, 700, "0", RegionShade::kFaint, "departs < .0001"},
+                     {700, 800, "0", RegionShade::kFaint, "departs < .0001"},
+                     {2300, 2400, "left out"}});
+  Recorder surface;
+  const ChartLayout layout = DrawChart(chart_, surface);
+  ASSERT_EQ(layout.shades.size(), 2U) << "a band without a meaning is not in the legend";
+  EXPECT_EQ(layout.shades[0].meaning.text, "departs < .0001") << "from faint to strong";
+  EXPECT_NE(surface.Find("departs ≥ .01"), nullptr);
+  EXPECT_EQ(surface.Find("left out"), nullptr) << "the band is too narrow for its text";
+  chart_.Zoom({2200, 2500}, {0, 1});
+  Recorder zoomed;
+  DrawChart(chart_, zoomed);
+  EXPECT_NE(zoomed.Find("left out"), nullptr);
+
+  // Each shade on the same area: another colour, and another number of lines.
+  const auto drawn = [](RegionShade shade) {
+    Recorder area;
+    PaintShade(area, {{100, 100}, 300, 200}, shade, 16);
+    EXPECT_EQ(area.areas.size(), 1U);
+    for (const auto& line : area.strokes) {
+      for (const Point& point : line.points) {
+        EXPECT_TRUE(point.x >= 100 && point.x <= 400 && point.y >= 100 && point.y <= 300);
+      }
+    }
+    const Colour fill = area.areas[0].colour;
+    return std::pair(area.strokes.size(), fill.red * 0.3 + fill.green * 0.59 + fill.blue * 0.11);
+  };
+  const auto faint = drawn(RegionShade::kFaint);
+  const auto light = drawn(RegionShade::kLight);
+  const auto medium = drawn(RegionShade::kMedium);
+  const auto strong = drawn(RegionShade::kStrong);
+  EXPECT_LT(faint.first + 10, light.first);
+  EXPECT_LT(light.first + 10, medium.first);
+  EXPECT_LT(medium.first + 10, strong.first);
+  EXPECT_GT(light.second, medium.second) << "deeper in grey as well";
+  EXPECT_GT(medium.second, strong.second);
+}
+
+TEST_F(ChartDrawingTest, HatchingsRunOnAcrossNeighbouringBands) {
+  for (const bool is_rising : {true, false}) {
+    const auto whole = HatchLines({{13, 7}, 90, 40}, 11, is_rising);
+    const auto left = HatchLines({{13, 7}, 30, 40}, 11, is_rising);
+    const auto right = HatchLines({{43, 7}, 60, 40}, 11, is_rising);
+    ASSERT_GT(whole.size(), 8U);
+    const auto length = [](const std::vector<std::pair<Point, Point>>& lines) {
+      double sum = 0;
+      for (const auto& [from, to] : lines) {
+        EXPECT_NEAR(std::abs(to.y - from.y), to.x - from.x, 1e-9) << "at 45 degrees";
+        sum += to.x - from.x;
+      }
+      return sum;
+    };
+    EXPECT_NEAR(length(whole), length(left) + length(right), 1e-9);
+  }
+  EXPECT_TRUE(HatchLines({{0, 0}, 100, 100}, 0, true).empty());
+  EXPECT_TRUE(HatchLines({{0, 0}, 0, 100}, 5, true).empty());
+}
+
 TEST_F(ChartDrawingTest, TheSecondAxisShowsWhenASeriesUsesItAndFollowsTheZoom) {
   chart_.SetSeries(0, {.title = "a", .x = {500, 600}, .y = {0, 1}});
   chart_.SetY2({0, 10});
@@ -254,7 +321,7 @@ TEST_F(ChartDrawingTest, AnyLimitsAndAnySurfaceCanBeDrawn) {
   const double nan = std::numeric_limits<double>::quiet_NaN();
   chart_.SetSeries(0, {.title = "a", .x = {500, 600}, .y = {0, 1}, .onSecondAxis = true});
   chart_.SetMarkers({{nan, "x"}, {550, "550"}});
-  chart_.SetRegions({{nan, 3, ""}, {600, 500, "reversed"}});
+  chart_.SetRegions({{nan, 3, ""}, {600, 500, "reversed", RegionShade::kStrong, "a long meaning"}});
   chart_.SetLabel(Chart::kVerdictLabel, "PASS");
   for (const AxisLimits limits :
        {AxisLimits{5, 5}, AxisLimits{nan, 1}, AxisLimits{2, 1}, AxisLimits{-1e308, 1e308}}) {

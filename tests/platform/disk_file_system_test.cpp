@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 #include <sys/resource.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 #include <csignal>
@@ -78,6 +79,35 @@ TEST_F(DiskFileSystemTest, AFullDiskLeavesTheOldFileAndNoLitter) {
     std::_Exit(error != 0 && append_error != 0 && old_is_there && no_litter && no_half_line ? 0 : 1);
   };
   EXPECT_EXIT(write_beyond_the_limit(), ::testing::ExitedWithCode(0), "");
+}
+
+TEST_F(DiskFileSystemTest, AProgramThatDiesDuringARewriteLeavesTheOldTableOrTheNewOne) {
+  const std::string old_table = " 20000 \r\n" + std::string(400000, 'o');
+  const std::string new_table = " 20001 \r\n" + std::string(400020, 'n');
+  const std::string path = "C:\\Data\\Meth.tbl";
+  files_.WriteBytes(path, old_table);
+  int new_ones = 0;
+  for (int trial = 0; trial < 150; ++trial) {
+    const pid_t writer = ::fork();
+    ASSERT_GE(writer, 0);
+    if (writer == 0) {
+      for (;;) {
+        files_.WriteBytes(path, new_table);
+        files_.WriteBytes(path, old_table);
+      }
+    }
+    // Each trial ends at another moment of the rewrites.
+    ::usleep(static_cast<useconds_t>(500 + trial * 37));
+    ::kill(writer, SIGKILL);
+    ::waitpid(writer, nullptr, 0);
+    const std::string found = files_.ReadBytes(path);
+    ASSERT_TRUE(found == old_table || found == new_table)
+        << "trial " << trial << ": " << found.size() << " bytes";
+    new_ones += found == new_table ? 1 : 0;
+  }
+  EXPECT_GT(new_ones, 0) << "no rewrite was ever under way";
+  files_.WriteBytes(path, "whole");
+  EXPECT_EQ(files_.ReadBytes(path), "whole") << "what a dead writer left behind does not stand in the way";
 }
 
 TEST_F(DiskFileSystemTest, WrittenFilesCarryTheClocksTime) {

@@ -31,10 +31,6 @@ protected:
     Calls();
   }
 
-  void SetInstrument(const std::string& sample, int fault = 0, int count = 0) {
-    bench_.SampleCompartment().Write(
-        {.sample = sample, .fault = fault, .faultCount = count, .noise = 0, .duration = 0, .seed = 1});
-  }
   // A sample with its background there already.
   platform::Events Measure(int boxes = 1) {
     WriteSpectrum(Standard("backDisc.bsp"), 100, 4, std::vector<double>(301, 50.0));

@@ -32,7 +32,8 @@ std::function<void()> ProgramTest::Starter(platform::ScriptRun& run,
                                     .folders = folders_,
                                     .user = machine_.user,
                                     .clock = machine_.clock,
-                                    .regional = machine_.regional};
+                                    .regional = machine_.regional,
+                                    .libraries = machine_.libraries};
     program = std::make_unique<shell::FrmVeritane>(
         run.Screen(), machine, [this](const std::string& prog_id) { return bench_.Create(prog_id); });
     program->Form_Load();
@@ -74,6 +75,11 @@ void ProgramTest::CopyTestData(const std::string& name, const std::string& path)
   std::ifstream file(fs::path(VERITANE_TEST_DATA) / name, std::ios::binary);
   ASSERT_TRUE(file) << name;
   Write(path, std::string(std::istreambuf_iterator<char>(file), {}));
+}
+
+void ProgramTest::SetInstrument(const std::string& sample, int fault, int count) {
+  bench_.SampleCompartment().Write(
+      {.sample = sample, .fault = fault, .faultCount = count, .noise = 0, .duration = 0, .seed = 1});
 }
 
 ProgramTest::Steps ProgramTest::EnterSample(const std::string& product, const std::string& name,

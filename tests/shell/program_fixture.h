@@ -59,6 +59,10 @@ protected:
   // What starts a program on this machine in a run of its own.
   std::function<void()> Starter(platform::ScriptRun& run, std::unique_ptr<shell::FrmVeritane>& program);
 
+  // What lies in the simulated instrument, and the fault that the next `count` collections report. It
+  // measures at once and without noise.
+  void SetInstrument(const std::string& sample, int fault = 0, int count = 0);
+
   // Starts the program with the machine as it is and plays the steps.
   platform::Events Play(Steps steps) { return run_.Lines(std::move(steps)); }
   // The steps of one sample of a product, up to and with the OK of the dialog.

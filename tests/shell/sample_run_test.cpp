@@ -20,8 +20,8 @@ class SampleRunTest : public ProgramTest {
 protected:
   void SetUp() override {
     WriteSettings(true);
-    WriteProducts({"ASPIRIN-1,Disc,Euclidean,", "FFT-1,Disc,Fourier,", "BANDS,Disc,Lumivar,",
-                   "OCTANE,Disc,PLS,C:\\a.cal", "PEAKS,Disc,Mark Peaks,C:\\a.txt"});
+    WriteProducts({"ASPIRIN-1,Disc,Euclidean,", "FFT-1,Disc,Fourier,", "OCTANE,Disc,PLS,C:\\a.cal",
+                   "ODD,Disc,Guesswork,"});
     WriteSpectrum(Standard("ASPIRIN-1.bsp"), 100, 4, Bands(kPoints));
     WriteSpectrum(Standard("FFT-1.bsp"), 100, 4, Bands(kPoints));
     WriteSpectrum(Standard("aspirin.bsp"), 100, 4, Bands(kPoints));
@@ -173,7 +173,7 @@ TEST_F(SampleRunTest, AScannersEnterGoesOnToTheSampleNameAndThereConfirms) {
 }
 
 TEST_F(SampleRunTest, AlgorithmsThatAreNotThereSaySoBeforeAnythingIsMeasured) {
-  for (const char* product : {"BANDS", "OCTANE", "PEAKS"}) {
+  for (const char* product : {"OCTANE", "ODD"}) {
     Steps steps = EnterSample(product);
     steps.push_back("answer OK");
     EXPECT_THAT(Play(steps).Messages(), ElementsAre(HasSubstr("is not available in this version")))

@@ -21,10 +21,13 @@
 #include "acquisition/frm_select_method.h"
 #include "acquisition/frm_status.h"
 #include "identification/frm_samp.h"
+#include "platform/posix/posix_machine.h"
 #include "platform/wx/wx_user_interface.h"
+#include "pls/main_form.h"
 #include "review/frm_results.h"
 #include "review/frm_select_spectrum.h"
 #include "shell/main_controls.h"
+#include "tests/pls/scripted_library.h"
 
 namespace veritane {
 namespace {
@@ -48,26 +51,14 @@ public:
   platform::Button cmdPasswordOK{*this, "cmdPasswordOK"};
 };
 
-class PredictionForm : public Form {
+// What the prediction form shows when it is opened.
+class TabletLibrary : public pls::ScriptedLibrary {
 public:
-  explicit PredictionForm(Desktop& desktop) : Form(desktop, "MainForm") {
-    SetCaption("Prediction");
-    lblCalFileName.SetCaption("C:\\ProgramData\\Veritane\\Standards\\moisture in tablets.cal");
-    cmdNewCalFile.SetCaption("&New Calibration File...");
-    Combo1.AddAll({"Moisture, 4 factors", "Active ingredient, 6 factors"});
-    Combo1.Select(0);
-    iqoutput.AddAll({"Moisture = 4.21", "Active ingredient = 97.8"});
-    cmdPredict.SetCaption("P&redict");
-    cmdPrint.SetCaption("&Print");
-    cmdDone.SetCaption("&Done");
+  TabletLibrary() {
+    items["ncomp"] = {2};
+    items["constituent_names"] = pls::NameBlocks({"Moisture", "Active ingredient"});
+    items["concentration"] = {4.21, 97.8};
   }
-  platform::Label lblCalFileName{*this, "lblCalFileName"};
-  platform::Button cmdNewCalFile{*this, "cmdNewCalFile"};
-  platform::ComboBox Combo1{*this, "Combo1"};
-  platform::ListBox iqoutput{*this, "iqoutput"};
-  platform::Button cmdPredict{*this, "cmdPredict"};
-  platform::Button cmdPrint{*this, "cmdPrint"};
-  platform::Button cmdDone{*this, "cmdDone"};
 };
 
 const std::map<std::string, std::string> kMainCaptions = {
@@ -275,8 +266,9 @@ private:
     parse_.cmdOK.SetCaption("O&K");
     parse_.txtTmpProductID.SetText("LOT123-ASPIRIN-2024");
     parse_.txtTmpProductID.Highlight(7, 7);
+    state_.calfilename = "C:\\ProgramData\\Veritane\\Standards\\moisture in tablets.cal";
     results_.txtResults.SetText(
-        "Lumivar comparison\r\n\r\nBand        Standard     Sample\r\n1601.2      0.4012       0.3987\r\n");
+        "500 - 600     .000104\r\n600 - 700     .000087\r\n700 - 800     .0012\r\n800 - 900     .\r\n");
   }
 
   void ShowMain() {
@@ -348,7 +340,17 @@ private:
   acquisition::FrmStatus status_{desktop_};
   review::FrmResults results_{desktop_};
   review::FrmSelectSpectrum select_spectrum_{desktop_};
-  PredictionForm prediction_{desktop_};
+  platform::PosixMachine machine_{folder_, "C"};
+  state::ProgramState state_;
+  TabletLibrary library_;
+  pls::MainForm prediction_{desktop_,
+                            {.files = machine_.files,
+                             .state = state_,
+                             .library = library_,
+                             .sampleName = [] { return std::string("Lot 4711-B"); },
+                             .exportSpectrum = [](const std::string&) {},
+                             .driveApplication = [] {},
+                             .endProgram = [] {}}};
 };
 
 }  // namespace

@@ -1,0 +1,20 @@
+// The file that two algorithms need beside the Standard: a calibration for "PLS", a peak file for "Mark
+// Peaks".
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "platform/desktop.h"
+#include "shell/state/data_folders.h"
+
+namespace veritane::acquisition {
+
+bool NeedsAdditionalFile(const std::string& algorithm);
+
+// Asks for the file that this algorithm needs. Nothing on Cancel, or for an algorithm that needs none (then
+// nothing is asked).
+std::optional<std::string> ChooseAdditionalFile(platform::Desktop& desktop, const state::DataFolders& folders,
+                                                const std::string& algorithm);
+
+}  // namespace veritane::acquisition

@@ -1,0 +1,100 @@
+// Adding and deleting collect methods, and editing what belongs to one.
+#include "acquisition/method_editor.h"
+
+#include "acquisition/method_list.h"
+#include "acquisition/null_regions.h"
+#include "acquisition/prompts.h"
+#include "platform/run_time_error.h"
+#include "platform/windows_path.h"
+#include "shell/state/messages.h"
+
+namespace veritane::acquisition {
+
+using platform::MessageIcon;
+using state::Text;
+using state::TextId;
+
+MethodEditor::MethodEditor(platform::Desktop& desktop, platform::FileSystem& files,
+                           state::ProgramState& state, Controls controls, std::function<void()> load_methods)
+    : desktop_(desktop),
+      files_(files),
+      state_(state),
+      controls_(controls),
+      load_methods_(std::move(load_methods)) {}
+
+void MethodEditor::AddMethod() {
+  const auto path = desktop_.ChooseFile({.title = Text(TextId::kSelectClmFile),
+                                         .filter = "(*.clm)|*.clm",
+                                         .folder = state_.folders.stdsDir + "\\"});
+  if (!path) return;
+  const std::string previous = state_.methodShortNames.empty() ? "" : state_.methodShortNames.back();
+  const std::string short_name = MethodShortName(*path, previous);
+  if (const std::string why = platform::WhyNotAFileName(short_name); !why.empty()) {
+    desktop_.ShowMessage({.text = "\"" + *path + "\" cannot be a collect method. " + why,
+                          .title = state::kPlainNotice,
+                          .icon = MessageIcon::kExclamation});
+    return;
+  }
+  std::vector<std::string> paths = state_.methodPaths;
+  paths.push_back(*path);
+  // The list in memory follows only what is on disk.
+  files_.WriteBytes(MethodListPath(state_), MethodListText(paths));
+  state_.methodPaths = std::move(paths);
+  state_.methodShortNames.push_back(short_name);
+  controls_.lstMeths.Add(*path);
+  AskForPrompts(short_name);
+}
+
+void MethodEditor::AskForPrompts(const std::string& short_name) {
+  FrmPrompts& dialog = controls_.frmPrompts;
+  const std::string path = PromptsPath(state_.folders, short_name);
+  const Prompts prompts =
+      files_.FileExists(path) ? LoadPrompts(files_, state_.folders, short_name) : Prompts{};
+  dialog.txtBackgroundPrompt.SetText(prompts.background);
+  dialog.txtSamplePrompt.SetText(prompts.sample);
+  dialog.ShowModal();
+  SavePrompts(files_, state_.folders, short_name,
+              {.background = dialog.txtBackgroundPrompt.Text(), .sample = dialog.txtSamplePrompt.Text()});
+}
+
+void MethodEditor::DeleteMethod() {
+  const int selected = controls_.lstMeths.Selected();
+  if (selected < 0) {
+    state::Notice(desktop_, TextId::kSelectMethodToDelete, MessageIcon::kInformation);
+    return;
+  }
+  std::vector<std::string> paths = state_.methodPaths;
+  paths.erase(paths.begin() + selected);
+  files_.WriteBytes(MethodListPath(state_), MethodListText(paths));
+  load_methods_();
+}
+
+std::string MethodEditor::SelectedShortName() const {
+  return state_.methodShortNames.at(static_cast<std::size_t>(controls_.lstMeths.Selected()));
+}
+
+void MethodEditor::ShowNullRegions() {
+  controls_.lstNullRegions.Clear();
+  if (controls_.lstMeths.Selected() < 0) return;
+  controls_.lstNullRegions.AddAll(
+      ReadNullRegionLines(files_, NullRegionPath(state_.folders, SelectedShortName())));
+}
+
+void MethodEditor::EditNullRegions() {
+  if (controls_.lstMeths.Selected() < 0) {
+    state::Notice(desktop_, TextId::kSelectMethod, MessageIcon::kExclamation);
+    return;
+  }
+  FrmNullRegion& dialog = controls_.frmNullRegion;
+  dialog.txtNullStart.SetText("");
+  dialog.txtNullEnd.SetText("");
+  dialog.lstNulls.Clear();
+  dialog.lstNulls.AddAll(controls_.lstNullRegions.Items());
+  dialog.ShowModal();
+  const std::vector<std::string> regions = dialog.lstNulls.Items();
+  files_.WriteBytes(NullRegionPath(state_.folders, SelectedShortName()), NullRegionText(regions));
+  controls_.lstNullRegions.Clear();
+  controls_.lstNullRegions.AddAll(regions);
+}
+
+}  // namespace veritane::acquisition

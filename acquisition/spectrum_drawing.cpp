@@ -1,0 +1,32 @@
+// A background or a Standard on the chart.
+#include "acquisition/spectrum_drawing.h"
+
+#include <algorithm>
+
+#include "platform/run_time_error.h"
+#include "shell/state/spectrum_panel.h"
+
+namespace veritane::acquisition {
+
+OrdinateRange DrawSpectrum(platform::Chart& chart, const state::SpectrumBuffer& spectrum,
+                           const std::string& title) {
+  if (spectrum.Data.Empty()) {
+    throw platform::RunTimeError(platform::ErrorNumber::kSubscript, "the measured spectrum is empty");
+  }
+  const platform::ChartBatch batch(chart);
+  state::ClearChart(chart);
+  platform::ChartSeries series;
+  series.title = title;
+  series.y = spectrum.Data.values;
+  for (std::int32_t i = spectrum.Data.lower; i <= spectrum.Data.Upper(); ++i) {
+    series.x.push_back(i * spectrum.Res);
+  }
+  const auto [low, high] = std::minmax_element(series.y.begin(), series.y.end());
+  const OrdinateRange range{.low = *low, .high = *high};
+  chart.SetX({series.x.front(), series.x.back()});
+  chart.SetY({range.low, range.high});
+  chart.SetSeries(state::kStandardSeries, std::move(series));
+  return range;
+}
+
+}  // namespace veritane::acquisition

@@ -1,0 +1,149 @@
+// Collecting a Standard step by step.
+#include "acquisition/standard_collection.h"
+
+#include <algorithm>
+
+#include "acquisition/additional_file.h"
+#include "acquisition/background.h"
+#include "acquisition/product_key.h"
+#include "acquisition/product_table.h"
+#include "acquisition/prompts.h"
+#include "acquisition/spectrum_drawing.h"
+#include "platform/run_time_error.h"
+#include "platform/windows_path.h"
+#include "shell/state/messages.h"
+
+namespace veritane::acquisition {
+
+using platform::MessageIcon;
+using state::Text;
+using state::TextId;
+
+StandardCollection::StandardCollection(Bench& bench, FrmCollectStd& frm_collect_std)
+    : bench_(bench), state_(bench.state), session_(bench.session), frm_collect_std_(frm_collect_std) {}
+
+bool StandardCollection::Run() {
+  // A table that cannot be read could not take the product either; better to hear of it before measuring.
+  ReadProductTable(bench_.machine.files.ReadBytes(ProductTablePath(state_)), ProductTablePath(state_));
+  frm_collect_std_.WhyNotAProduct = [this](const std::string& id) { return WhyNotAProduct(id); };
+  frm_collect_std_.ChooseFile = [this](const std::string& algorithm) {
+    return ChooseAdditionalFile(bench_.desktop, state_.folders, algorithm);
+  };
+  frm_collect_std_.ShowModal();
+  if (frm_collect_std_.cancelled || bench_.desktop.Ended()) return false;
+  NoteProduct();
+  if (bench_.machine.files.FileExists(StandardPath())) {
+    state::Notice(bench_.desktop, TextId::kStandardExists, MessageIcon::kCritical);
+    return false;
+  }
+  const DrivenApplication driven(bench_);
+  const Prompts prompts = LoadPrompts(bench_.machine.files, state_.folders, state_.clmName);
+  const auto or_general = [](const std::string& prompt, TextId general) {
+    return prompt.empty() ? Text(general) : prompt;
+  };
+  if (!CollectNewBackground(or_general(prompts.background, TextId::kDefaultBackgroundPrompt)) ||
+      !CollectStandard(or_general(prompts.sample, TextId::kDefaultSamplePrompt))) {
+    return false;
+  }
+  AppendProduct();
+  return true;
+}
+
+std::string StandardCollection::KeyOf(const std::string& product_id) const {
+  const std::string key = ProductKey(bench_.machine.files, state_.folders, product_id);
+  return key.empty() ? product_id : key;
+}
+
+std::string StandardCollection::WhyNotAProduct(const std::string& product_id) const {
+  const std::string key = KeyOf(product_id);
+  if (const std::string why = platform::WhyNotAFileName(key); !why.empty()) {
+    return "\"" + key + "\" cannot name a product's files. " + why;
+  }
+  if (key.find(',') != std::string::npos) return "A Product ID cannot hold a comma.";
+  if (key.front() == ' ') return "A Product ID cannot begin with a blank.";
+  // The Standard would be written over the background of that method.
+  const bool is_background = std::any_of(
+      state_.methodShortNames.begin(), state_.methodShortNames.end(), [&](const std::string& name) {
+        return platform::UpperCase(BackgroundPath(state_.folders, name)) ==
+               platform::UpperCase(state_.folders.InStandards(key + ".bsp"));
+      });
+  if (is_background) {
+    return "\"" + key + "\" is the name of a background file. Please enter a different Product ID";
+  }
+  return "";
+}
+
+std::string StandardCollection::StandardPath() const {
+  return state_.folders.InStandards(state_.prod + ".bsp");
+}
+
+void StandardCollection::NoteProduct() {
+  state_.prod = KeyOf(frm_collect_std_.txtProductID.Text());
+  state_.algorithm = frm_collect_std_.cmbAlg.Text();
+  state_.calfilename =
+      NeedsAdditionalFile(state_.algorithm) ? frm_collect_std_.txtCalFileName.Text() : std::string();
+  state_.clmName = frm_collect_std_.cmbmth.SelectedItem();
+  state_.clmFile = state_.folders.InStandards(state_.clmName + ".clm");
+  state_.BackGroundName = BackgroundPath(state_.folders, state_.clmName);
+}
+
+bool StandardCollection::CollectNewBackground(const std::string& prompt) {
+  AnnounceBackground(bench_.desktop, prompt);
+  return CollectBackground(bench_) == CollectOutcome::kCollected;
+}
+
+bool StandardCollection::CollectStandard(const std::string& prompt) {
+  const bool is_demonstration = bench_.state.options.demoMode != 0;
+  PrepareMeasurement(bench_, state_.clmFile, state_.BackGroundName);
+  if (is_demonstration) {
+    session_.Open(state_.folders.InStandards(DemonstrationFile(state_.algorithm)));
+  } else {
+    session_.Create(StandardPath());
+  }
+  AnnounceSample(bench_.desktop, prompt);
+  if (CollectIntoDocument(bench_) != CollectOutcome::kCollected) return false;
+  ShowStandard();
+  if (is_demonstration) session_.CurrentDocument->SaveDocumentAs(StandardPath());
+  session_.CurrentDocument->CloseDocument(!is_demonstration);
+  // The supervisor sees what was measured before the table comes back.
+  state::ShowPanel(bench_.panel, bench_.panel.fraSpectrum);
+  state::Notice(bench_.desktop, TextId::kStandardDone, MessageIcon::kExclamation);
+  state::ShowPanel(bench_.panel, bench_.panel.fraSupervisorMode);
+  return true;
+}
+
+void StandardCollection::ShowStandard() {
+  const StatusShown status(bench_, Text(TextId::kStandardStatus));
+  state_.Ref = session_.ReadSpectrum();
+  DrawSpectrum(bench_.panel.chart, state_.Ref, Text(TextId::kStandardStatus));
+  bench_.panel.lblResult.SetCaption("");
+  bench_.panel.fraSpectrum.SetCaption(Text(TextId::kStandardCaption) + state_.prod);
+}
+
+void StandardCollection::AppendProduct() {
+  platform::FileSystem& files = bench_.machine.files;
+  const std::string path = ProductTablePath(state_);
+  std::vector<Product> products;
+  try {
+    products = ReadProductTable(files.ReadBytes(path), path);
+    products.push_back({state_.prod, state_.clmName, state_.algorithm, state_.calfilename});
+    files.WriteBytes(path, ProductTableText(products));
+  } catch (const platform::RunTimeError& error) {
+    throw platform::RunTimeError(error.Number(), std::string(error.what()) + "\r\nThe Standard is filed in " +
+                                                     StandardPath() +
+                                                     ", but the product table does not name it. Delete that "
+                                                     "file before you collect the Standard again.");
+  }
+  const auto same = [&](const Product& product) {
+    return platform::UpperCase(product.productId) == platform::UpperCase(state_.prod);
+  };
+  if (std::count_if(products.begin(), products.end(), same) > 1) {
+    bench_.desktop.ShowMessage(
+        {.text = "The table holds an earlier row for Product ID: " + state_.prod +
+                 ". Samples are measured and compared as that row says until it is deleted or changed.",
+         .title = state::kPlainNotice,
+         .icon = MessageIcon::kExclamation});
+  }
+}
+
+}  // namespace veritane::acquisition

@@ -1,0 +1,38 @@
+// A supervisor's new product: its dialog, a fresh background, the measured Standard, and its row in the
+// product table.
+#pragma once
+
+#include <string>
+
+#include "acquisition/bench.h"
+#include "acquisition/collection.h"
+#include "acquisition/frm_collect_std.h"
+
+namespace veritane::acquisition {
+
+class StandardCollection {
+public:
+  StandardCollection(Bench& bench, FrmCollectStd& frm_collect_std);
+
+  // Runs once, to the end or to an early end that the supervisor has been told of; then neither a Standard
+  // nor a row was written. Returns whether the table has a new row. The supervisor panel shows afterwards.
+  bool Run();
+
+private:
+  // What the state is to hold of the product that the dialog describes.
+  void NoteProduct();
+  std::string KeyOf(const std::string& product_id) const;
+  std::string WhyNotAProduct(const std::string& product_id) const;
+  std::string StandardPath() const;
+  bool CollectNewBackground(const std::string& prompt);
+  bool CollectStandard(const std::string& prompt);
+  void ShowStandard();
+  void AppendProduct();
+
+  Bench& bench_;
+  state::ProgramState& state_;
+  SpectrometerSession& session_;
+  FrmCollectStd& frm_collect_std_;
+};
+
+}  // namespace veritane::acquisition

@@ -1,0 +1,170 @@
+// The steps of a prediction, in their order.
+#include "pls/main_form.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
+
+#include "platform/desktop.h"
+#include "platform/number_text.h"
+#include "platform/run_time_error.h"
+#include "platform/text_file.h"
+
+namespace veritane::pls {
+
+namespace {
+
+constexpr const char* kExportedSpectrum = "c:\\temp.spc";
+// Whatever line of the list is selected.
+constexpr std::int32_t kCalibrationToPredict = 1;
+
+// Six digits: more than any calibration promises.
+std::string ResultText(double value) {
+  constexpr int kDigits = 6;
+  std::array<char, 32> digits{};
+  const auto end =
+      std::to_chars(digits.data(), digits.data() + digits.size(), value, std::chars_format::general, kDigits);
+  double rounded = value;
+  std::from_chars(digits.data(), end.ptr, rounded);
+  return platform::PlainNumberText(rounded);
+}
+
+std::string WithoutTrailingBlanks(const std::string& text) {
+  return text.substr(0, text.find_last_not_of(' ') + 1);
+}
+
+}  // namespace
+
+MainForm::MainForm(platform::Desktop& desktop, PredictionSurroundings surroundings)
+    : Form(desktop, "MainForm"), surroundings_(std::move(surroundings)) {
+  SetCaption("Prediction");
+  cmdNewCalFile.SetCaption("&New Calibration File...");
+  cmdPredict.SetCaption("P&redict");
+  cmdPrint.SetCaption("&Print");
+  cmdDone.SetCaption("&Done");
+  cmdPredict.SetEnabled(false);
+  cmdPrint.SetEnabled(false);
+  cmdPrint.SetToolTip("Not available in this version");
+  cmdNewCalFile.OnClick = [this] { cmdNewCalFile_Click(); };
+  cmdPredict.OnClick = [this] { cmdPredict_Click(); };
+  cmdDone.OnClick = [this] { cmdDone_Click(); };
+}
+
+void MainForm::Form_Activate() {
+  succeeded_ = false;
+  TakeCalibrationFile(surroundings_.state.calfilename);
+  sampleName_ = surroundings_.sampleName();
+  if (surroundings_.files.FileExists(kExportedSpectrum)) surroundings_.files.DeleteFile(kExportedSpectrum);
+  surroundings_.exportSpectrum(kExportedSpectrum);
+  cmdPredict_Click();
+  surroundings_.driveApplication();
+  Screen().ProcessPendingEvents();
+}
+
+void MainForm::cmdNewCalFile_Click() {
+  const auto path = Screen().ChooseFile({.title = "Select calibration file",
+                                         .filter = "*.cal|*.cal",
+                                         .folder = surroundings_.state.folders.stdsDir});
+  if (path) TakeCalibrationFile(*path);
+}
+
+void MainForm::TakeCalibrationFile(const std::string& path) {
+  calibrationPath_ = path;
+  lblCalFileName.SetCaption(path);
+  cmdPredict.SetEnabled(!path.empty());
+}
+
+void MainForm::cmdDone_Click() {
+  surroundings_.files.WriteBytes(surroundings_.state.folders.appDir + "PredictSettings.ini",
+                                 lblCalFileName.Caption() + std::string(platform::kLineEnd));
+  surroundings_.endProgram();
+}
+
+void MainForm::cmdPredict_Click() {
+  succeeded_ = false;
+  faulted_ = false;
+  iqoutput.Clear();
+  pls_ = std::make_unique<PLSPred>(surroundings_.library, Screen());
+  LoadCalibration();
+  CheckError(pls_->LoadSpcDiskFile(kExportedSpectrum));
+  CheckError(pls_->PlsIqPredic(kCalibrationToPredict));
+  CheckError(pls_->GetConstituent_Names(text_));
+  ReadNames();
+  ReadConcentrations();
+  const auto is_finite = [](double value) { return std::isfinite(value); };
+  succeeded_ = !faulted_ && std::ranges::all_of(surroundings_.state.PLSConcentrations, is_finite);
+  if (succeeded_) ListResults();
+  Unload();
+}
+
+void MainForm::LoadCalibration() {
+  pls_->LoadCalFile(calibrationPath_);
+  std::int16_t total = 0;
+  CheckError(pls_->GetCalTotal(total));
+  Combo1.Clear();
+  for (int calibration = 1; calibration <= total; ++calibration) {
+    CheckError(pls_->GetCalMemo(text_, static_cast<std::int16_t>(calibration)));
+    // The blanks fill the buffer and are no part of the memo.
+    Combo1.Add(WithoutTrailingBlanks(text_));
+  }
+  if (Combo1.Count() > 0) Combo1.Select(0);
+}
+
+// The arrays and the count are sized by the prediction before this one; the names then make their array grow
+// as they need.
+void MainForm::ReadNames() {
+  state::ProgramState& state = surroundings_.state;
+  const std::size_t size = static_cast<std::size_t>(concentrationCount_) + 1;
+  state.PLSConstituentNames.assign(size, "");
+  state.PLSConcentrations.assign(size, 0);
+  state.PLSConstituentCount = platform::ToInt16(concentrationCount_);
+  std::size_t k = 1;
+  for (const char c : text_) {
+    if (c == '\t') {
+      ++k;
+      continue;
+    }
+    if (state.PLSConstituentNames.size() <= k) state.PLSConstituentNames.resize(k + 1);
+    state.PLSConstituentNames[k] += c;
+  }
+}
+
+void MainForm::ReadConcentrations() {
+  Array concentrations;
+  std::int32_t size = 0;
+  const std::int32_t code = pls_->GetConcentration(concentrations, size);
+  concentrationCount_ = size;
+  if (code != kNoError) {
+    CheckError(code);
+    return;
+  }
+  std::vector<double>& results = surroundings_.state.PLSConcentrations;
+  results.assign(1, 0);
+  results.insert(results.end(), concentrations.begin(), concentrations.end());
+}
+
+void MainForm::ListResults() {
+  const state::ProgramState& state = surroundings_.state;
+  if (!sampleName_.empty()) iqoutput.Add("Sample Name = " + sampleName_);
+  for (std::size_t k = 1; k < state.PLSConcentrations.size(); ++k) {
+    const std::string name = k < state.PLSConstituentNames.size() ? state.PLSConstituentNames[k] : "";
+    iqoutput.Add(name + " = " + ResultText(state.PLSConcentrations[k]));
+  }
+}
+
+void MainForm::CheckError(std::int32_t code) {
+  if (code == kNoError) return;
+  faulted_ = true;
+  std::string text;
+  PLSPred::GetErrorString(platform::ToInt16(code), text);
+  Screen().ShowMessage({.text = text, .title = "Veritane"});
+  Unload();
+}
+
+void MainForm::Unload() {
+  CheckError(pls_->UnLoadCalFile());
+  Combo1.Clear();
+}
+
+}  // namespace veritane::pls

@@ -1,0 +1,269 @@
+// Reprocessing step by step.
+#include "review/reprocessing.h"
+
+#include "acquisition/additional_file.h"
+#include "acquisition/product_table.h"
+#include "identification/judgement.h"
+#include "identification/result_records.h"
+#include "identification/spectrum_preparation.h"
+#include "platform/number_text.h"
+#include "platform/run_time_error.h"
+#include "platform/windows_path.h"
+#include "shell/state/messages.h"
+
+namespace veritane::review {
+
+using acquisition::StatusShown;
+using platform::MessageIcon;
+using platform::Pointer;
+using state::Text;
+using state::TextId;
+
+namespace {
+
+constexpr const char* kSpectrumFilter = "(*.bsp)|*.bsp";
+// The sample of a file with a single spectrum; a number beyond the last spectrum stands for the last one.
+constexpr std::int16_t kIndexInSingleSpectrumFile = 2;
+// The caption of the spectrum panel over a reprocessed result.
+constexpr int kReprocessedCaption = 88;
+
+// A document that is closed without saving when the workflow does not come to close it.
+class DocumentInUse {
+public:
+  DocumentInUse(acquisition::SpectrometerSession& session, const std::string& path) : session_(session) {
+    session_.Open(path);
+  }
+  ~DocumentInUse() {
+    if (!is_in_use_) return;
+    try {
+      session_.CurrentDocument->CloseDocument(false);
+    } catch (const platform::RunTimeError&) {
+      // The error that ended the workflow is on its way to the user already; the step that raised it may have
+      // closed the document as well.
+    }
+  }
+  DocumentInUse(const DocumentInUse&) = delete;
+  DocumentInUse& operator=(const DocumentInUse&) = delete;
+
+  acquisition::Document* operator->() const { return session_.CurrentDocument.get(); }
+
+  // Ends the use: the document is closed, or is about to be closed by the caller.
+  acquisition::Document& Release() {
+    is_in_use_ = false;
+    return *session_.CurrentDocument;
+  }
+
+private:
+  acquisition::SpectrometerSession& session_;
+  bool is_in_use_ = true;
+};
+
+std::string TextOf(acquisition::Spectrum& spectrum, const char* parameter) {
+  const acquisition::ParameterValue value = spectrum.GetParameter(parameter)->Value();
+  if (const auto* text = std::get_if<std::string>(&value)) return *text;
+  return platform::PlainNumberText(std::get<double>(value));
+}
+
+std::string LeafWithoutExtension(const std::string& path) {
+  const std::string leaf = platform::LeafName(path);
+  return leaf.substr(0, leaf.rfind('.'));
+}
+
+// Prepares the spectrum as a sample run does, and closes the document where that has not done so.
+void Prepare(acquisition::Bench& bench, DocumentInUse& document, state::SpectrumBuffer& spectrum,
+             state::Ordinates& chart, state::Ordinates& transform) {
+  identification::PrepareSpectrum(bench, spectrum, chart, transform);
+  acquisition::Document& prepared = document.Release();
+  if (bench.state.algorithm == state::kMarkPeaks) prepared.CloseDocument(false);
+}
+
+double FirstWavenumber(const state::SpectrumBuffer& spectrum) {
+  return spectrum.Data.lower * spectrum.Res;
+}
+
+// Why the two cannot be compared point by point; "" when they can. The last reason found is the one told.
+std::string WhyNotComparable(const state::SpectrumBuffer& standard, const state::SpectrumBuffer& sample) {
+  std::string reason;
+  if (standard.Res != sample.Res) reason = Text(TextId::kResolutionsDiffer);
+  if (standard.NumPts != sample.NumPts) reason = Text(TextId::kPointsDiffer);
+  // As many points as far apart may still lie elsewhere, and would then be compared at other wavenumbers.
+  if (reason.empty() && FirstWavenumber(standard) != FirstWavenumber(sample)) {
+    reason = " First wavenumbers of the spectra are different.";
+  }
+  return reason;
+}
+
+}  // namespace
+
+Reprocessing::Reprocessing(acquisition::Bench& bench, FrmSelectSpectrum& frm_select_spectrum,
+                           ChosenNames names)
+    : bench_(bench),
+      state_(bench.state),
+      session_(bench.session),
+      frm_select_spectrum_(frm_select_spectrum),
+      names_(names) {}
+
+void Reprocessing::ChooseStandard() {
+  state_.StandardSelected = 0;
+  const auto path = bench_.desktop.ChooseFile({.title = Text(TextId::kSelectStandardSpectrum),
+                                               .filter = kSpectrumFilter,
+                                               .folder = state_.folders.stdsDir});
+  if (!path) return;
+  state_.reprocessStdName = *path;
+  names_.lblStdName.SetCaption(*path);
+  state_.StandardSelected = 1;
+}
+
+void Reprocessing::ChooseSample() {
+  state_.SampSelected = 0;
+  const auto path = bench_.desktop.ChooseFile({.title = Text(TextId::kSelectSampleSpectrum),
+                                               .filter = kSpectrumFilter,
+                                               .folder = state_.folders.sampDir});
+  if (!path) return;
+  state_.reprocesssampname = *path;
+  names_.lblSampleName.SetCaption(*path);
+
+  const acquisition::DrivenApplication driven(bench_);
+  bench_.desktop.SetMousePointer(Pointer::kHourglass);
+  DocumentInUse document(session_, *path);
+  session_.SpectrometerApp->Interactive(false);
+  document->SetDocumentShown(0);
+  bench_.desktop.SetMousePointer(Pointer::kDefault);
+  const auto index = ChooseSpectrum();
+  document.Release().CloseDocument();
+  if (!index) {
+    names_.lblSampleName.SetCaption("");
+    return;
+  }
+  state_.reprocesssampindex = *index;
+  state_.SampSelected = 1;
+  state_.spectrumName = state_.reprocesssampname;
+  state_.SpectrumIndex = state_.reprocesssampindex;
+}
+
+std::optional<std::int16_t> Reprocessing::ChooseSpectrum() {
+  platform::ListBox& list = frm_select_spectrum_.lstSpectrum;
+  list.Clear();
+  const std::int16_t count = platform::ToInt16(session_.CurrentDocument->GetSpectrumCount());
+  if (count < 2) return kIndexInSingleSpectrumFile;
+  std::vector<std::string> entries;
+  for (int index = 1; index <= count; ++index) entries.push_back(EntryOf(static_cast<std::int16_t>(index)));
+  list.AddAll(entries);
+  frm_select_spectrum_.ShowModal();
+  if (list.Selected() < 0) return std::nullopt;
+  return static_cast<std::int16_t>(list.Selected() + 1);
+}
+
+std::string Reprocessing::EntryOf(std::int16_t index) {
+  const auto spectrum = session_.CurrentDocument->GetSpectrumAt(index);
+  const std::string name = TextOf(*spectrum, "SpectName");
+  return name + " Collected on " + TextOf(*spectrum, "Time");
+}
+
+void Reprocessing::Run(const std::string& algorithm) {
+  identification::ClearResult(bench_);
+  if (!IsChosen(algorithm) || !AskForExtraFile(algorithm)) return;
+  state_.reprocessing = 1;
+  state_.algorithm = algorithm;
+  const acquisition::DrivenApplication driven(bench_);
+  if (!LoadStandard()) return;
+  LoadSample();
+  if (IsComparable()) ShowResult();
+}
+
+bool Reprocessing::IsChosen(const std::string& algorithm) {
+  const bool needs_standard = algorithm != state::kPls;
+  if (state_.SampSelected == 1 && (state_.StandardSelected == 1 || !needs_standard)) return true;
+  state::Notice(bench_.desktop, TextId::kSelectBothSpectra, MessageIcon::kExclamation);
+  return false;
+}
+
+bool Reprocessing::AskForExtraFile(const std::string& algorithm) {
+  if (!acquisition::NeedsAdditionalFile(algorithm)) return true;
+  const auto path = acquisition::ChooseAdditionalFile(bench_.desktop, state_.folders, algorithm);
+  if (!path) return false;
+  state_.calfilename = *path;
+  if (algorithm != state::kPls) return true;
+  bench_.desktop.ShowMessage(
+      {.text = "The algorithm \"" + algorithm + "\" is not available in this version of Veritane.",
+       .title = state::kPlainNotice,
+       .icon = MessageIcon::kCritical});
+  return false;
+}
+
+bool Reprocessing::LoadStandard() {
+  std::optional<StatusShown> status(std::in_place, bench_, Text(TextId::kLoadingStandard));
+  DocumentInUse document(session_, state_.reprocessStdName);
+  state_.tmpRefName = state_.reprocessStdName;
+  document->SetDocumentShown(0);
+  document->SelectSpectrum(1);
+  state_.Ref = session_.ReadSpectrum();
+  standard_name_ = LeafWithoutExtension(state_.reprocessStdName);
+  if (!FindCollectMethod()) {
+    status.reset();
+    state::Notice(bench_.desktop, TextId::kProductNotFound, MessageIcon::kCritical);
+    ClearNames();
+    document.Release().CloseDocument(false);
+    return false;
+  }
+  Prepare(bench_, document, state_.Ref, state_.ChartRefData, state_.RefFFTData);
+  return true;
+}
+
+bool Reprocessing::FindCollectMethod() {
+  const std::string table = acquisition::ProductTablePath(state_);
+  const auto product = acquisition::FindProduct(bench_.machine.files.ReadBytes(table), standard_name_, table);
+  if (product) state_.clmName = product->collectMethod;
+  return product.has_value();
+}
+
+void Reprocessing::LoadSample() {
+  const StatusShown status(bench_, Text(TextId::kCalculating));
+  DocumentInUse document(session_, state_.reprocesssampname);
+  document->SetDocumentShown(0);
+  document->SelectSpectrum(state_.reprocesssampindex);
+  document->PrepareSampleView();
+  sample_name_ = TextOf(*document->GetSpectrum(), "SpectName");
+  state_.Samp = session_.ReadSpectrum();
+  Prepare(bench_, document, state_.Samp, state_.ChartSampData, state_.SampFFTData);
+}
+
+bool Reprocessing::IsComparable() {
+  const std::string reason = WhyNotComparable(state_.Ref, state_.Samp);
+  if (reason.empty()) return true;
+  bench_.desktop.ShowMessage({.text = Text(TextId::kCannotReprocess) + reason,
+                              .title = Text(TextId::kNoticeTitle),
+                              .icon = MessageIcon::kCritical});
+  return false;
+}
+
+void Reprocessing::ShowResult() {
+  platform::Chart& chart = bench_.panel.chart;
+  const platform::ChartBatch batch(chart);
+  identification::PlotTraces(state_, chart);
+  identification::Judge(bench_);
+  identification::ShowVerdict(state_, chart);
+  chart.SetHeader(HeaderLines());
+  ClearNames();
+  bench_.panel.fraSpectrum.SetCaption(Text(kReprocessedCaption));
+  state::ShowPanel(bench_.panel, bench_.panel.fraSpectrum);
+}
+
+std::vector<std::string> Reprocessing::HeaderLines() const {
+  std::string result = "Sample Name: " + sample_name_;
+  if (identification::HasMatchQuality(state_.algorithm)) {
+    result += Text(TextId::kMatchQuality) + platform::NumberText(state_.comparison) +
+              Text(TextId::kPercentAlgorithm) + state_.algorithm;
+  } else {
+    result += Text(TextId::kAlgorithmHeader) + "=" + state_.algorithm;
+  }
+  return {Text(TextId::kReprocessStandard) + standard_name_, Text(TextId::kReprocessSample) + sample_name_,
+          result};
+}
+
+void Reprocessing::ClearNames() {
+  names_.lblStdName.SetCaption("");
+  names_.lblSampleName.SetCaption("");
+}
+
+}  // namespace veritane::review

@@ -1,0 +1,145 @@
+// Form, wrapper, binding and the library that ships, together: octane of gasoline from its spectrum.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+#include "platform/posix/posix_machine.h"
+#include "pls/loaded_prediction_library.h"
+#include "pls/main_form.h"
+#include "plslibrary/calibration_file.h"
+#include "simulator/spc_writer.h"
+#include "tests/pls/scripted_library.h"
+#include "tests/plslibrary/gasoline.h"
+#include "tests/support/temporary_folder.h"
+
+namespace veritane::pls {
+namespace {
+
+namespace fs = std::filesystem;
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+constexpr int kFirstPredicted = 50;
+constexpr int kFactors = 3;
+
+class Prediction : public ::testing::Test {
+protected:
+  Prediction() {
+    fs::create_directories(folder_.Path() / "drive_c");
+    fs::create_directories(Programs());
+    fs::copy_file(VERITANE_PREDICTION_LIBRARY, Programs() / "libplsiqp32.so");
+    state_.calfilename = "C:\\Gas.cal";
+    machine_.files.WriteBytes(state_.calfilename,
+                              plslibrary::CalibrationFileText(std::vector{
+                                  gasoline_.Calibrate(kFactors).calibration, gasoline_.TwoConstituents()}));
+  }
+
+  fs::path Programs() const { return folder_.Path() / "program"; }
+
+  // The sample's spectrum as the Spectrometer application exports it.
+  std::string Exported(Eigen::Index sample) const {
+    constexpr double kSpacing = 2;
+    simulator::StoredSpectrum spectrum;
+    spectrum.name = "gasoline";
+    spectrum.xUnits = "NANOMETERS";
+    spectrum.spacing = kSpacing;
+    spectrum.ordinates.lower = static_cast<std::int32_t>(gasoline_.axis.firstX / kSpacing);
+    const Eigen::RowVectorXd row = gasoline_.spectra.row(sample);
+    spectrum.ordinates.values.assign(row.begin(), row.end());
+    return simulator::WriteSpc(spectrum);
+  }
+
+  void Predict() {
+    form_.Hide();
+    form_.Show();
+  }
+
+  const plslibrary::Gasoline gasoline_;
+  tests::TemporaryFolder folder_;
+  platform::PosixMachine machine_{folder_.Path(), "C"};
+  platform::DynamicLibraryLoader libraries_{machine_.paths, Programs()};
+  LoadedPredictionLibrary library_{libraries_};
+  state::ProgramState state_;
+  NotingScreen screen_;
+  platform::Desktop desktop_{screen_};
+  std::string exported_;
+  MainForm form_{
+      desktop_,
+      {.files = machine_.files,
+       .state = state_,
+       .library = library_,
+       .sampleName = [] { return std::string("gasoline"); },
+       .exportSpectrum = [this](const std::string& path) { machine_.files.WriteBytes(path, exported_); },
+       .driveApplication = [] {},
+       .endProgram = [] {}}};
+};
+
+TEST_F(Prediction, OctaneIsWhatTheReferencePredicts) {
+  // Columns: sample, octane as measured, predictions by 1 to 6 factors.
+  const Eigen::MatrixXd reference = plslibrary::NumbersOf("gasoline_reference_predictions.csv");
+  ASSERT_EQ(reference.rows(), 10);
+  for (Eigen::Index sample = 0; sample < reference.rows(); ++sample) {
+    exported_ = Exported(kFirstPredicted + sample);
+    Predict();
+    ASSERT_THAT(screen_.messages, IsEmpty());
+    ASSERT_TRUE(form_.Succeeded());
+    EXPECT_THAT(state_.PLSConstituentNames, ElementsAre("", "octane"));
+    ASSERT_EQ(state_.PLSConcentrations.size(), 2U);
+    // The export has single precision.
+    EXPECT_NEAR(state_.PLSConcentrations[1], reference(sample, 1 + kFactors), 2e-4) << sample;
+  }
+}
+
+TEST_F(Prediction, TheSecondCalibrationOfAFileIsReachedThroughTheWrapper) {
+  machine_.files.WriteBytes("C:\\a.spc", Exported(kFirstPredicted));
+  PLSPred pls(library_, desktop_);
+  pls.LoadCalFile(state_.calfilename);
+  std::int16_t total = 0;
+  ASSERT_EQ(pls.GetCalTotal(total), 0);
+  EXPECT_EQ(total, 2);
+  std::string text;
+  ASSERT_EQ(pls.GetCalMemo(text, 2), 0);
+  EXPECT_EQ(text, "Two constituents" + std::string(240, ' '));
+  ASSERT_EQ(pls.LoadSpcDiskFile("C:\\a.spc"), 0);
+  ASSERT_EQ(pls.PlsIqPredic(2), 0);
+  ASSERT_EQ(pls.GetConstituent_Names(text), 0);
+  EXPECT_EQ(text, "octane\tslope at 1.2 \xC2\xB5m");
+  Array values;
+  std::int32_t size = 0;
+  ASSERT_EQ(pls.GetFtest(values, size), 0);
+  ASSERT_EQ(size, 4);
+  for (const std::size_t probability : {1U, 3U}) {
+    EXPECT_GT(values[probability], 0);
+    EXPECT_LT(values[probability], 1);
+  }
+  EXPECT_EQ(pls.GetBands(values, size), 0);
+  EXPECT_EQ(size, 10);
+}
+
+TEST_F(Prediction, ASpectrumOfAnotherRangeIsRefusedAndGivesNoResult) {
+  simulator::StoredSpectrum infrared;
+  infrared.spacing = 4;
+  infrared.ordinates = {.lower = 100, .values = std::vector<double>(401, 0.5)};
+  exported_ = simulator::WriteSpc(infrared);
+  Predict();
+  EXPECT_FALSE(form_.Succeeded());
+  ASSERT_FALSE(screen_.messages.empty());
+  EXPECT_EQ(screen_.messages.front().text,
+            "Source data does not match data information stored in the calibration file");
+}
+
+TEST_F(Prediction, AMissingCalibrationFileIsToldAndTheNextPredictionWorks) {
+  exported_ = Exported(kFirstPredicted);
+  state_.calfilename = "C:\\none.cal";
+  Predict();
+  ASSERT_FALSE(screen_.messages.empty());
+  EXPECT_EQ(screen_.messages.front().text, "Calibration file did not load. It cannot be read only.");
+  EXPECT_FALSE(form_.Succeeded());
+  state_.calfilename = "C:\\gas.cal";
+  Predict();
+  EXPECT_TRUE(form_.Succeeded());
+}
+
+}  // namespace
+}  // namespace veritane::pls

@@ -1,0 +1,117 @@
+// How long a supervisor waits for 10,000 products: from the press of the button to the drawn grid, and from
+// row to row. Prints milliseconds; run it on a machine that does nothing else. Not a test.
+#include <wx/app.h>
+#include <wx/evtloop.h>
+#include <wx/grid.h>
+
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include "apps/simulated_bench.h"
+#include "apps/veritane_setup/data_layout.h"
+#include "platform/desktop.h"
+#include "platform/wx/wx_user_interface.h"
+#include "shell/frm_veritane.h"
+#include "tests/support/temporary_folder.h"
+
+namespace veritane::platform {
+namespace {
+
+constexpr int kProducts = 10000;
+constexpr int kOpenings = 7;
+constexpr int kSteps = 100;
+
+std::string Same(const std::string& path) {
+  return path;
+}
+
+class OpeningTime {
+public:
+  OpeningTime() {
+    std::filesystem::create_directories(folder_.Path() / "drive_c");
+    setup::LayOutData(machine_.Facilities());
+    setup::SetDemonstrationMode(machine_.Facilities(), true);
+    std::string table = " " + std::to_string(kProducts) + " \r\n";
+    for (int i = 1; i <= kProducts; ++i)
+      table += "PRODUCT-" + std::to_string(i) + ",Pressed disc,Euclidean,\r\n";
+    machine_.files.WriteBytes("C:\\ProgramData\\Kestrova\\Veritane\\Meth.tbl", table);
+    main_.Form_Load();
+    grid_ = dynamic_cast<wxGrid*>(wxWindow::FindWindowByName("grid"));
+    grid_->GetGridWindow()->Bind(wxEVT_PAINT, [this](wxPaintEvent& event) {
+      ++paints_;
+      event.Skip();
+    });
+  }
+
+  void Print() {
+    std::vector<double> openings;
+    for (int i = 0; i < kOpenings; ++i) {
+      openings.push_back(TimeUntilDrawn([this] {
+        main_.cmdSupervisor.Click();
+        main_.SSTab1.SetTab(shell::kStandardsTab);
+      }));
+      main_.cmdMainMenu.Click();
+    }
+    main_.cmdSupervisor.Click();
+    main_.SSTab1.SetTab(shell::kStandardsTab);
+    std::vector<double> steps;
+    for (int i = 1; i <= kSteps; ++i)
+      steps.push_back(TimeUntilDrawn([this, i] { main_.grid.SetRow(i * kProducts / kSteps); }));
+    Report("opening", openings);
+    Report("going to another row", steps);
+    desktop_.End(0);
+  }
+
+private:
+  double TimeUntilDrawn(const std::function<void()>& act) {
+    const auto begin = std::chrono::steady_clock::now();
+    const int before = paints_;
+    act();
+    do {
+      wxEventLoopBase::GetActive()->YieldFor(wxEVT_CATEGORY_ALL);
+    } while (paints_ == before || grid_->GetNumberRows() != kProducts);
+    return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - begin).count();
+  }
+
+  static void Report(const char* what, std::vector<double> times) {
+    std::sort(times.begin(), times.end());
+    std::printf("%s: median %.0f ms, longest %.0f ms\n", what, times[times.size() / 2], times.back());
+  }
+
+  tests::TemporaryFolder folder_;
+  PosixMachine machine_{folder_.Path(), "C"};
+  WxUserInterface screen_{{.toNative = Same, .toWindows = Same}};
+  Desktop desktop_{screen_};
+  apps::SimulatedBench bench_{machine_, [](std::chrono::milliseconds) {}};
+  shell::FrmVeritane main_{desktop_, machine_.Facilities(),
+                           [this](const std::string& prog_id) { return bench_.Create(prog_id); }};
+  wxGrid* grid_ = nullptr;
+  int paints_ = 0;
+};
+
+class TimingApplication : public wxApp {
+public:
+  bool OnInit() override {
+    SetExitOnFrameDelete(false);
+    return true;
+  }
+
+  int OnRun() override {
+    wxGUIEventLoop loop;
+    const wxEventLoopActivator activator(&loop);
+    OpeningTime().Print();
+    return 0;
+  }
+};
+
+}  // namespace
+}  // namespace veritane::platform
+
+int main(int argc, char** argv) {
+  wxApp::SetInstance(new veritane::platform::TimingApplication);
+  return wxEntry(argc, argv);
+}
