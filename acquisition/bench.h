@@ -1,6 +1,8 @@
 // Everything that a workflow with the Spectrometer application works with.
 #pragma once
 
+#include <functional>
+
 #include "acquisition/frm_status.h"
 #include "acquisition/spectrometer_session.h"
 #include "platform/desktop.h"
@@ -17,6 +19,14 @@ struct Bench {
   SpectrometerSession& session;
   FrmStatus& frmStatus;
   state::SpectrumPanel panel;
+  // Runs the PLS prediction of the current document's spectrum; false when it failed, which the user has been
+  // told of then.
+  std::function<bool()> Predict;
+  // What the algorithm of the state shows of a Standard that was just measured and drawn, while its document
+  // is open.
+  std::function<void()> MarkStandard;
+  // Prints what was just measured, filed and named through the print template of the options.
+  std::function<void()> PrintByTemplate;
 };
 
 // The Spectrometer application is the program's for as long as this lives, and the user's again however that

@@ -1,6 +1,8 @@
 // Reading null-region files.
 #include "acquisition/null_regions.h"
 
+#include <algorithm>
+
 #include "platform/number_text.h"
 #include "platform/run_time_error.h"
 #include "platform/text_file.h"
@@ -16,6 +18,7 @@ std::vector<std::string> ReadNullRegionLines(const platform::FileSystem& files, 
   platform::TextReader reader(files.ReadBytes(path), path);
   const int count = reader.ReadInt16();
   std::vector<std::string> lines;
+  lines.reserve(static_cast<std::size_t>(std::max(count, 0)));
   for (int region = 0; region < count; ++region) lines.push_back(reader.ReadLine());
   return lines;
 }

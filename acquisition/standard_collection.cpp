@@ -113,9 +113,13 @@ bool StandardCollection::CollectStandard(const std::string& prompt) {
 }
 
 void StandardCollection::ShowStandard() {
-  const StatusShown status(bench_, Text(TextId::kStandardStatus));
-  state_.Ref = session_.ReadSpectrum();
-  DrawSpectrum(bench_.panel.chart, state_.Ref, Text(TextId::kStandardStatus));
+  {
+    const StatusShown status(bench_, Text(TextId::kStandardStatus));
+    state_.Ref = session_.ReadSpectrum();
+    DrawSpectrum(bench_.panel.chart, state_.Ref, Text(TextId::kStandardStatus));
+  }
+  // The Standard is good even where its peaks or predicted values cannot be shown.
+  bench_.desktop.Perform([this] { bench_.MarkStandard(); });
   bench_.panel.lblResult.SetCaption("");
   bench_.panel.fraSpectrum.SetCaption(Text(TextId::kStandardCaption) + state_.prod);
 }

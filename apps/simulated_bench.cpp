@@ -3,7 +3,9 @@
 
 #include <random>
 
+#include "platform/pdf/pdf_document.h"
 #include "platform/run_time_error.h"
+#include "shell/state/data_folders.h"
 #include "simulator/simulated_spectrometer.h"
 #include "simulator/spectrum_file.h"
 
@@ -27,8 +29,15 @@ std::unique_ptr<acquisition::SpectrometerApp> SimulatedBench::Create(const std::
   if (prog_id != "quillon.app.1") {
     throw platform::RunTimeError(platform::ErrorNumber::kCannotCreateObject, prog_id);
   }
-  return std::make_unique<simulator::SimulatedSpectrometer>(machine_.files, machine_.clock, instrument_,
-                                                            calls_);
+  auto app =
+      std::make_unique<simulator::SimulatedSpectrometer>(machine_.files, machine_.clock, instrument_, calls_);
+  const std::string data_folder = state::DataFolderBelow(machine_.folders.CommonApplicationData(false));
+  app->PrintInto({.folder = data_folder + "Prints",
+                  .makePdf = platform::MakePdf,
+                  .printed = [this](const std::string& path) {
+                    if (printed_) printed_(path);
+                  }});
+  return app;
 }
 
 }  // namespace veritane::apps

@@ -3,6 +3,8 @@
 
 #include <functional>
 #include <memory>
+#include <string>
+#include <utility>
 
 #include "acquisition/spectrometer_app.h"
 #include "platform/posix/posix_machine.h"
@@ -21,6 +23,9 @@ public:
   // Creates the automation object of this name; error 429 for a name that is not the simulator's.
   std::unique_ptr<acquisition::SpectrometerApp> Create(const std::string& prog_id);
 
+  // Receives the Windows path of each page that is printed through a template, once it is on disk.
+  void OnPrint(std::function<void(const std::string& path)> printed) { printed_ = std::move(printed); }
+
   simulator::Compartment& SampleCompartment() { return compartment_; }
   simulator::CallLog& Calls() { return *calls_; }
 
@@ -29,6 +34,7 @@ private:
   simulator::Compartment compartment_;
   simulator::SimulatedInstrument instrument_;
   std::shared_ptr<simulator::CallLog> calls_;
+  std::function<void(const std::string& path)> printed_;
 };
 
 }  // namespace veritane::apps

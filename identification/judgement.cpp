@@ -7,6 +7,7 @@
 #include "identification/correlation.h"
 #include "identification/lumivar.h"
 #include "identification/mark_peaks.h"
+#include "identification/pls_prediction.h"
 #include "identification/result_records.h"
 #include "platform/run_time_error.h"
 #include "shell/state/string_table.h"
@@ -26,7 +27,7 @@ void ClearResult(acquisition::Bench& bench) {
 }
 
 bool CanJudge(const std::string& algorithm) {
-  const auto known = {state::kEuclidean, state::kFourier, state::kLumivar, state::kMarkPeaks};
+  const auto known = {state::kEuclidean, state::kFourier, state::kLumivar, state::kPls, state::kMarkPeaks};
   return std::find(known.begin(), known.end(), algorithm) != known.end();
 }
 
@@ -40,6 +41,8 @@ void Judge(acquisition::Bench& bench) {
     Lumivar(bench);
   } else if (state.algorithm == state::kMarkPeaks) {
     MarkPeaks(bench);
+  } else if (state.algorithm == state::kPls) {
+    PredictByPls(bench);
   } else {
     throw platform::RunTimeError(platform::ErrorNumber::kInvalidCall, state.algorithm);
   }

@@ -11,6 +11,7 @@
 #include "acquisition/prompts.h"
 #include "identification/judgement.h"
 #include "identification/mark_peaks.h"
+#include "identification/pls_prediction.h"
 #include "identification/result_records.h"
 #include "identification/spectrum_preparation.h"
 #include "platform/number_text.h"
@@ -75,12 +76,11 @@ bool SampleRun::Refuse(const std::string& text) {
 
 bool SampleRun::FindProduct() {
   const platform::FileSystem& files = bench_.machine.files;
-  const std::string table = state_.folders.appDir + state_.folderSet.methTable;
+  const std::string table = acquisition::ProductTablePath(state_);
   state_.prod = acquisition::ProductKey(files, state_.folders, frm_samp_.cmbStandards.Text());
   state_.tmpRefName = state_.folders.InStandards(state_.prod);
   state_.tmpSampName = state_.folders.InSamples(state_.prod + ".bsp");
-  const auto product = acquisition::FindProduct(
-      files.ReadBytes(state_.folders.appDir + state_.folderSet.methTable), state_.prod);
+  const auto product = acquisition::FindProduct(files.ReadBytes(table), state_.prod, table);
   if (!product) {
     bench_.desktop.SetMousePointer(platform::Pointer::kDefault);
     state::Notice(bench_.desktop, TextId::kProductNotFound, MessageIcon::kCritical);
@@ -118,7 +118,10 @@ void SampleRun::RunForProduct(const acquisition::BackgroundSchedule& schedule) {
   ShowResult();
   // What fails from here on is told over the result, which the operator must not lose.
   bench_.desktop.Perform([this] { RecordResult(); });
-  bench_.desktop.Perform([this] { NameResultInSampleFile(); });
+  bench_.desktop.Perform([this] {
+    NameResultInSampleFile();
+    if (state_.options.printOption != 0) bench_.PrintByTemplate();
+  });
 }
 
 void SampleRun::RecordResult() {
@@ -183,7 +186,7 @@ bool SampleRun::OpenSampleDocument() {
 }
 
 bool SampleRun::FindRollOverName() {
-  const std::string table = state_.folders.appDir + state_.folderSet.methTable;
+  const std::string table = acquisition::ProductTablePath(state_);
   std::set<std::string> products;
   for (const acquisition::Product& product :
        acquisition::ReadProductTable(bench_.machine.files.ReadBytes(table), table)) {
@@ -226,6 +229,9 @@ bool SampleRun::CollectSample() {
   }
   if (acquisition::CollectIntoDocument(bench_) != CollectOutcome::kCollected) return false;
   state_.Samp = session_.ReadSpectrum();
+  if (state_.algorithm == state::kPls) {
+    state_.SpectrumIndex = platform::ToInt16(session_.CurrentDocument->GetSpectrumCount());
+  }
   session_.spect->GetParameter("SpectName")->SetValue(frm_samp_.txtSampName.Text());
   return true;
 }
@@ -276,7 +282,7 @@ void SampleRun::ShowResult() {
   state::ShowPanel(bench_.panel, bench_.panel.fraSpectrum);
 }
 
-// A print template shows these two; the sample is the last spectrum of its file.
+// A print template shows these; the sample is the last spectrum of its file.
 void SampleRun::NameResultInSampleFile() {
   // The application need not open again what it has open.
   if (LeavesDocumentOpen(state_.algorithm)) {
@@ -292,6 +298,12 @@ void SampleRun::NameResultInSampleFile() {
   session_.spect->GetParameter("Comparison")
       ->SetValue(std::isnan(state_.comparison) ? ParameterValue("") : ParameterValue(state_.comparison));
   session_.spect->GetParameter("Sample Name")->SetValue(frm_samp_.txtSampName.Text());
+  if (state_.algorithm == state::kPls) {
+    for (const PredictedValue& predicted : PredictedValues(state_)) {
+      parameters->AddParameter(predicted.name, 1);
+      session_.spect->GetParameter(predicted.name)->SetValue(predicted.value);
+    }
+  }
   session_.CurrentDocument->CloseDocument(true);
 }
 

@@ -39,14 +39,21 @@ bool LeavesDocumentOpen(const std::string& algorithm) {
 
 void PlotTraces(state::ProgramState& state, platform::Chart& chart) {
   const platform::ChartBatch batch(chart);
-  const auto standard =
-      std::minmax_element(state.ChartRefData.values.begin(), state.ChartRefData.values.end());
   const auto sample =
       std::minmax_element(state.ChartSampData.values.begin(), state.ChartSampData.values.end());
-  state.minm = std::min(*standard.first, *sample.first);
-  state.maxm = std::max(*standard.second, *sample.second);
+  state.minm = *sample.first;
+  state.maxm = *sample.second;
+  // A prediction alone needs no Standard.
+  if (!state.ChartRefData.Empty()) {
+    const auto standard =
+        std::minmax_element(state.ChartRefData.values.begin(), state.ChartRefData.values.end());
+    state.minm = std::min(state.minm, *standard.first);
+    state.maxm = std::max(state.maxm, *standard.second);
+  }
   chart.SetTitles("Wavenumber (cm\u207B\u00B9)", "Normalised intensity");
-  chart.SetSeries(state::kStandardSeries, Trace("Standard", state.ChartRefData, state.Ref.Res));
+  chart.SetSeries(state::kStandardSeries, state.ChartRefData.Empty()
+                                              ? platform::ChartSeries()
+                                              : Trace("Standard", state.ChartRefData, state.Ref.Res));
   chart.SetSeries(state::kSampleSeries, Trace("Sample", state.ChartSampData, state.Samp.Res));
   chart.RemoveSeriesFrom(state::kSampleSeries + 1);
   ResetChartLimits(state, chart);

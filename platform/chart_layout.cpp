@@ -164,7 +164,7 @@ private:
       legend_left_ = layout_.plot.left;
       legend_top_ += unit_ * kLineSpacing;
     }
-    const PlacedText placed{text, {legend_left_ + before, legend_top_}};
+    PlacedText placed{text, {legend_left_ + before, legend_top_}};
     legend_left_ += width + unit_ * 1.5;
     return placed;
   }

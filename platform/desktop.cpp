@@ -30,6 +30,11 @@ std::optional<std::string> Desktop::ChooseFile(const FileChoice& choice) {
   return user_interface_.ChooseFile(choice);
 }
 
+void Desktop::Print(Printout& printout) {
+  if (printer_ == nullptr) throw RunTimeError(ErrorNumber::kDeviceError, "there is no printer");
+  user_interface_.NotePrint(printout.Kind(), printer_->Print(printout));
+}
+
 void Desktop::SetMousePointer(Pointer pointer) {
   if (pointer == pointer_) return;
   pointer_ = pointer;

@@ -7,8 +7,11 @@
 #include <string>
 #include <vector>
 
+#include "platform/printer.h"
+
 namespace veritane::platform {
 
+class Control;
 class Form;
 class RunTimeError;
 
@@ -49,6 +52,11 @@ public:
   virtual void ShowPointer(Pointer pointer) = 0;
   // Lets pending window messages run.
   virtual void ProcessPendingEvents() = 0;
+  // Something was printed: into the file of this Windows path, or by a printer when it is "".
+  virtual void NotePrint(PrintKind kind, const std::string& file) = 0;
+  // Puts a picture of what a control shows, and of everything in it, on the clipboard; error 57 when that
+  // fails.
+  virtual void CopyPicture(const Control& control) = 0;
   // A run-time error reached the dispatcher; its message box follows.
   virtual void NoteError(const RunTimeError& error) = 0;
   // The program ends: no further events.
@@ -69,6 +77,12 @@ public:
 
   MessageAnswer ShowMessage(const Message& message);
   std::optional<std::string> ChooseFile(const FileChoice& choice);
+
+  // What Print prints with; it outlives the last print.
+  void UsePrinter(Printer& printer) { printer_ = &printer; }
+  // Prints, and lets the user interface tell where the print went. Errors as the printer's; 57 without one.
+  void Print(Printout& printout);
+  void CopyPicture(const Control& control) { user_interface_.CopyPicture(control); }
 
   Pointer MousePointer() const { return pointer_; }
   void SetMousePointer(Pointer pointer);
@@ -95,6 +109,7 @@ private:
   std::vector<Form*> forms_;
   std::vector<Form*> modal_forms_;
   std::function<Restore()> snapshot_;
+  Printer* printer_ = nullptr;
   Pointer pointer_ = Pointer::kDefault;
   bool ended_ = false;
 };

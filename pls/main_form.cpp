@@ -10,6 +10,7 @@
 #include "platform/number_text.h"
 #include "platform/run_time_error.h"
 #include "platform/text_file.h"
+#include "platform/text_printout.h"
 
 namespace veritane::pls {
 
@@ -44,10 +45,9 @@ MainForm::MainForm(platform::Desktop& desktop, PredictionSurroundings surroundin
   cmdPrint.SetCaption("&Print");
   cmdDone.SetCaption("&Done");
   cmdPredict.SetEnabled(false);
-  cmdPrint.SetEnabled(false);
-  cmdPrint.SetToolTip("Not available in this version");
   cmdNewCalFile.OnClick = [this] { cmdNewCalFile_Click(); };
   cmdPredict.OnClick = [this] { cmdPredict_Click(); };
+  cmdPrint.OnClick = [this] { cmdPrint_Click(); };
   cmdDone.OnClick = [this] { cmdDone_Click(); };
 }
 
@@ -73,6 +73,13 @@ void MainForm::TakeCalibrationFile(const std::string& path) {
   calibrationPath_ = path;
   lblCalFileName.SetCaption(path);
   cmdPredict.SetEnabled(!path.empty());
+}
+
+void MainForm::cmdPrint_Click() {
+  std::string text;
+  for (const std::string& line : iqoutput.Items()) text += line + std::string(platform::kLineEnd);
+  platform::TextPrintout printout("Prediction", text);
+  Screen().Print(printout);
 }
 
 void MainForm::cmdDone_Click() {

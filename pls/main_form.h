@@ -48,6 +48,7 @@ public:
   void cmdNewCalFile_Click();
   // Every fault of a step is told in a message box; the following steps run all the same.
   void cmdPredict_Click();
+  void cmdPrint_Click();
   void cmdDone_Click();
 
   // Whether the last prediction found concentrations and no step of it failed. Without that, what the arrays

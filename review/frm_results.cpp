@@ -1,6 +1,9 @@
 // The results window.
 #include "review/frm_results.h"
 
+#include "platform/desktop.h"
+#include "platform/text_printout.h"
+
 namespace veritane::review {
 
 FrmResults::FrmResults(platform::Desktop& desktop) : Form(desktop, "frmResults") {
@@ -9,9 +12,12 @@ FrmResults::FrmResults(platform::Desktop& desktop) : Form(desktop, "frmResults")
   txtResults.isReadOnly = true;
   txtResults.OnKeyPress = [this](int key) { return txtResults_KeyPress(key); };
   cmdPrint.SetCaption("&Print");
-  // Printing comes later.
-  cmdPrint.SetEnabled(false);
-  cmdPrint.SetToolTip("Not available in this version");
+  cmdPrint.OnClick = [this] { cmdPrint_Click(); };
+}
+
+void FrmResults::cmdPrint_Click() {
+  platform::TextPrintout printout("Results", txtResults.Text());
+  Screen().Print(printout);
 }
 
 bool FrmResults::txtResults_KeyPress(int key) {

@@ -13,6 +13,8 @@ public:
   platform::TextBox txtResults{*this, "txtResults"};
   platform::Button cmdPrint{*this, "cmdPrint"};
 
+  // Prints the report as it stands.
+  void cmdPrint_Click();
   // Escape closes the window.
   bool txtResults_KeyPress(int key);
 };

@@ -4,6 +4,7 @@
 #include "acquisition/additional_file.h"
 #include "acquisition/product_table.h"
 #include "identification/judgement.h"
+#include "identification/pls_prediction.h"
 #include "identification/result_records.h"
 #include "identification/spectrum_preparation.h"
 #include "platform/number_text.h"
@@ -69,12 +70,10 @@ std::string LeafWithoutExtension(const std::string& path) {
   return leaf.substr(0, leaf.rfind('.'));
 }
 
-// Prepares the spectrum as a sample run does, and closes the document where that has not done so.
-void Prepare(acquisition::Bench& bench, DocumentInUse& document, state::SpectrumBuffer& spectrum,
-             state::Ordinates& chart, state::Ordinates& transform) {
-  identification::PrepareSpectrum(bench, spectrum, chart, transform);
+// Once the spectrum is prepared as a sample run does it, the document is closed where that has not done so.
+void CloseAfterPreparation(const acquisition::Bench& bench, DocumentInUse& document) {
   acquisition::Document& prepared = document.Release();
-  if (bench.state.algorithm == state::kMarkPeaks) prepared.CloseDocument(false);
+  if (identification::LeavesDocumentOpen(bench.state.algorithm)) prepared.CloseDocument(false);
 }
 
 double FirstWavenumber(const state::SpectrumBuffer& spectrum) {
@@ -166,9 +165,23 @@ void Reprocessing::Run(const std::string& algorithm) {
   state_.reprocessing = 1;
   state_.algorithm = algorithm;
   const acquisition::DrivenApplication driven(bench_);
-  if (!LoadStandard()) return;
+  if (algorithm == state::kPls) {
+    ForgetStandard();
+  } else if (!LoadStandard()) {
+    return;
+  }
+  DocumentInUse document(session_, state_.reprocesssampname);
   LoadSample();
-  if (IsComparable()) ShowResult();
+  if (algorithm != state::kPls) CloseAfterPreparation(bench_, document);
+  if (algorithm != state::kPls && !IsComparable()) return;
+  ShowResult();
+  if (algorithm == state::kPls) document.Release().CloseDocument(false);
+}
+
+void Reprocessing::ForgetStandard() {
+  state_.Ref = {};
+  state_.ChartRefData = {};
+  standard_name_.clear();
 }
 
 bool Reprocessing::IsChosen(const std::string& algorithm) {
@@ -183,12 +196,7 @@ bool Reprocessing::AskForExtraFile(const std::string& algorithm) {
   const auto path = acquisition::ChooseAdditionalFile(bench_.desktop, state_.folders, algorithm);
   if (!path) return false;
   state_.calfilename = *path;
-  if (algorithm != state::kPls) return true;
-  bench_.desktop.ShowMessage(
-      {.text = "The algorithm \"" + algorithm + "\" is not available in this version of Veritane.",
-       .title = state::kPlainNotice,
-       .icon = MessageIcon::kCritical});
-  return false;
+  return true;
 }
 
 bool Reprocessing::LoadStandard() {
@@ -206,7 +214,8 @@ bool Reprocessing::LoadStandard() {
     document.Release().CloseDocument(false);
     return false;
   }
-  Prepare(bench_, document, state_.Ref, state_.ChartRefData, state_.RefFFTData);
+  identification::PrepareSpectrum(bench_, state_.Ref, state_.ChartRefData, state_.RefFFTData);
+  CloseAfterPreparation(bench_, document);
   return true;
 }
 
@@ -219,13 +228,14 @@ bool Reprocessing::FindCollectMethod() {
 
 void Reprocessing::LoadSample() {
   const StatusShown status(bench_, Text(TextId::kCalculating));
-  DocumentInUse document(session_, state_.reprocesssampname);
-  document->SetDocumentShown(0);
-  document->SelectSpectrum(state_.reprocesssampindex);
-  document->PrepareSampleView();
-  sample_name_ = TextOf(*document->GetSpectrum(), "SpectName");
+  acquisition::Document& document = *session_.CurrentDocument;
+  document.SetDocumentShown(0);
+  document.SelectSpectrum(state_.reprocesssampindex);
+  document.PrepareSampleView();
+  sample_name_ = TextOf(*document.GetSpectrum(), "SpectName");
   state_.Samp = session_.ReadSpectrum();
-  Prepare(bench_, document, state_.Samp, state_.ChartSampData, state_.SampFFTData);
+  state_.SpectrumIndex = state_.reprocesssampindex;
+  identification::PrepareSpectrum(bench_, state_.Samp, state_.ChartSampData, state_.SampFFTData);
 }
 
 bool Reprocessing::IsComparable() {
@@ -257,8 +267,12 @@ std::vector<std::string> Reprocessing::HeaderLines() const {
   } else {
     result += Text(TextId::kAlgorithmHeader) + "=" + state_.algorithm;
   }
-  return {Text(TextId::kReprocessStandard) + standard_name_, Text(TextId::kReprocessSample) + sample_name_,
-          result};
+  std::vector<std::string> lines{Text(TextId::kReprocessStandard) + standard_name_,
+                                 Text(TextId::kReprocessSample) + sample_name_, result};
+  if (state_.algorithm == state::kPls) {
+    for (const std::string& line : identification::PredictionLines(state_)) lines.push_back(line);
+  }
+  return lines;
 }
 
 void Reprocessing::ClearNames() {

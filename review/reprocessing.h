@@ -38,6 +38,8 @@ private:
   bool IsChosen(const std::string& algorithm);
   bool AskForExtraFile(const std::string& algorithm);
   bool LoadStandard();
+  // A prediction alone has none.
+  void ForgetStandard();
   bool FindCollectMethod();
   void LoadSample();
   bool IsComparable();

@@ -6,6 +6,7 @@
 #include "identification/spectrum_preparation.h"
 #include "platform/desktop.h"
 #include "platform/number_text.h"
+#include "review/printing.h"
 
 namespace veritane::shell {
 
@@ -38,7 +39,10 @@ FrmVeritane::FrmVeritane(platform::Desktop& desktop, const platform::Machine& ma
                        .chart = chart,
                        .lblResult = lblResult,
                        .txtResults = dialogs_.frmResults.txtResults,
-                       .frmResults = dialogs_.frmResults}},
+                       .frmResults = dialogs_.frmResults},
+             .Predict = [this] { return Predict(); },
+             .MarkStandard = [this] { MarkStandard(); },
+             .PrintByTemplate = [this] { review::Printing(bench_).PrintByTemplate(); }},
       methods_(desktop, machine.files, state_,
                {.lstMeths = lstMeths,
                 .lstNullRegions = lstNullRegions,
@@ -54,7 +58,6 @@ FrmVeritane::FrmVeritane(platform::Desktop& desktop, const platform::Machine& ma
   ConnectSupervisorHandlers();
   ConnectSetUpHandlers();
   ConnectSpectrumHandlers();
-  DisableWhatIsNotThereYet();
   // After a fault in a handler the panel that it came from is there again.
   desktop.OnError([this] {
     const bool menu = fraMainMenu.Visible();
@@ -81,14 +84,9 @@ void FrmVeritane::ConnectSpectrumHandlers() {
   chart.OnMouseMove = [this](double x, double y) { chart_MouseMove(x, y); };
   cmdNextSample.OnClick = [this] { cmdNextSample_Click(); };
   cmdResetLimits.OnClick = [this] { cmdResetLimits_Click(); };
+  cmdPrint.OnClick = [this] { cmdPrint_Click(); };
+  cmdScreenCopy.OnClick = [this] { cmdScreenCopy_Click(); };
   cmdBacktoMainMenu.OnClick = [this] { cmdBacktoMainMenu_Click(); };
-}
-
-void FrmVeritane::DisableWhatIsNotThereYet() {
-  for (platform::Control* control : std::initializer_list<platform::Control*>{&cmdPrint, &cmdScreenCopy}) {
-    control->SetEnabled(false);
-    control->SetToolTip("Not available in this version");
-  }
 }
 
 void FrmVeritane::cmdSample_Click() {
@@ -120,6 +118,14 @@ void FrmVeritane::cmdNextSample_Click() {
 
 void FrmVeritane::cmdResetLimits_Click() {
   identification::ResetChartLimits(state_, chart);
+}
+
+void FrmVeritane::cmdPrint_Click() {
+  review::Printing(bench_).Print();
+}
+
+void FrmVeritane::cmdScreenCopy_Click() {
+  Screen().CopyPicture(fraSpectrum);
 }
 
 void FrmVeritane::cmdBacktoMainMenu_Click() {

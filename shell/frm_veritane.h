@@ -65,9 +65,13 @@ public:
   void chart_MouseMove(double pixel_x, double pixel_y);
   void cmdNextSample_Click();
   void cmdResetLimits_Click();
+  void cmdPrint_Click();
+  void cmdScreenCopy_Click();
   void cmdBacktoMainMenu_Click();
 
   const state::ProgramState& State() const { return state_; }
+  // Where print-outs go that go into files.
+  std::string PrintFolder() const { return state_.folders.appDir + "Prints"; }
 
 protected:
   void Form_QueryUnload() override;
@@ -77,9 +81,10 @@ private:
   void ConnectSupervisorHandlers();
   void ConnectSetUpHandlers();
   void ConnectSpectrumHandlers();
-  void DisableWhatIsNotThereYet();
 
   pls::PredictionSurroundings PredictionAround();
+  bool Predict();
+  void MarkStandard();
   std::string NameOfSpectrum();
   void ExportSpectrum(const std::string& path);
 

@@ -1,4 +1,6 @@
 // What the prediction form needs of the main form: the spectrum at hand, and the program's exit.
+#include "identification/mark_peaks.h"
+#include "identification/pls_prediction.h"
 #include "platform/run_time_error.h"
 #include "shell/frm_veritane.h"
 
@@ -15,6 +17,31 @@ pls::PredictionSurroundings FrmVeritane::PredictionAround() {
           .exportSpectrum = [this](const std::string& path) { ExportSpectrum(path); },
           .driveApplication = [this] { session_.SpectrometerApp->Interactive(false); },
           .endProgram = [this] { cmdExit_Click(); }};
+}
+
+// The form predicts as it shows, and has nothing to wait for.
+bool FrmVeritane::Predict() {
+  class HiddenAtLast {
+  public:
+    explicit HiddenAtLast(platform::Form& form) : form_(form) {}
+    ~HiddenAtLast() { form_.Hide(); }
+    HiddenAtLast(const HiddenAtLast&) = delete;
+    HiddenAtLast& operator=(const HiddenAtLast&) = delete;
+
+  private:
+    platform::Form& form_;
+  };
+  const HiddenAtLast hidden(dialogs_.mainForm);
+  dialogs_.mainForm.Show();
+  return dialogs_.mainForm.Succeeded();
+}
+
+void FrmVeritane::MarkStandard() {
+  if (state_.algorithm == state::kMarkPeaks) identification::MarkPeaks(bench_);
+  if (state_.algorithm == state::kPls) {
+    state_.SpectrumIndex = 1;
+    identification::PredictByPls(bench_);
+  }
 }
 
 // The spectrum that was read last is the one to predict.

@@ -8,6 +8,8 @@
 #include "platform/run_time_error.h"
 #include "platform/windows_path.h"
 #include "simulator/jcamp_writer.h"
+#include "simulator/print_object.h"
+#include "simulator/print_template.h"
 #include "simulator/simulated_collect_method.h"
 #include "simulator/spc_writer.h"
 #include "simulator/spectrum_file.h"
@@ -42,22 +44,6 @@ public:
 
 private:
   std::string path_;
-};
-
-// A template that was found and opened.
-class SimulatedPrint : public acquisition::PrintObject {
-public:
-  explicit SimulatedPrint(std::shared_ptr<CallLog> calls) : calls_(std::move(calls)) {}
-
-  void PrintDoc() override {
-    calls_->Note("PrintDoc");
-    throw RunTimeError(ErrorNumber::kInvalidCall,
-                       "printing through a template is not available in this version");
-  }
-  void CloseDoc() override { calls_->Note("CloseDoc"); }
-
-private:
-  std::shared_ptr<CallLog> calls_;
 };
 
 std::size_t PrintOf(std::string_view bytes) {
@@ -317,6 +303,7 @@ void SimulatedDocument::PrepareSampleView() {
   around_->calls->Note("PrepareSampleView");
   RequireOpen();
   view_.sampleView = true;
+  around_->sampleInView = {Current(), path_};
 }
 
 void SimulatedDocument::PrepareStandardView() {
@@ -325,11 +312,16 @@ void SimulatedDocument::PrepareStandardView() {
   view_.standardView = true;
 }
 
+PrintSubject SimulatedDocument::Subject() {
+  if (view_.sampleView) return {.sample = {Current(), path_}, .standard = {}, .printed = {}};
+  return {.sample = around_->sampleInView, .standard = {Current(), path_}, .printed = {}};
+}
+
 std::shared_ptr<acquisition::PrintObject> SimulatedDocument::OpenPrintTemplate(const std::string& path) {
   around_->calls->Note("OpenPrintTemplate", path);
   RequireOpen();
-  if (!around_->files.FileExists(path)) throw RunTimeError(ErrorNumber::kFileNotFound, path);
-  return std::make_shared<SimulatedPrint>(around_->calls);
+  PrintTemplate print_template = ReadPrintTemplate(path, around_->files.ReadBytes(path));
+  return std::make_shared<SimulatedPrint>(around_, std::move(print_template), Subject());
 }
 
 }  // namespace veritane::simulator

@@ -12,6 +12,8 @@
 #include "platform/file_system.h"
 #include "simulator/call_log.h"
 #include "simulator/measuring.h"
+#include "simulator/print_fields.h"
+#include "simulator/print_settings.h"
 #include "simulator/simulated_spectrum.h"
 
 namespace veritane::simulator {
@@ -23,6 +25,10 @@ struct DocumentSurroundings {
   MeasuringDevice& device;
   std::shared_ptr<CallLog> calls;
   std::function<void(double fraction)> progress;
+  PrintSettings printing;
+  // The sample that the program brought into view last, until it is printed; closing its document leaves it.
+  PrintedSpectrum sampleInView = {};
+  bool printBegun = false;
 };
 
 // How the program asked for a document to be looked at.
@@ -59,8 +65,12 @@ public:
   void ApplyOperation(acquisition::Operation& operation) override;
   void SaveDocumentAs(const std::string& path) override;
   void SetDocumentShown(std::int32_t flag) override;
+  // The current spectrum becomes the sample of the prints that follow. Error 9 for a document without
+  // spectra.
   void PrepareSampleView() override;
   void PrepareStandardView() override;
+  // A document brought into view as the sample prints by itself; any other prints as the Standard beside the
+  // sample brought into view last. Errors 53 for a missing template, kInvalidFileFormat for a damaged one.
   std::shared_ptr<acquisition::PrintObject> OpenPrintTemplate(const std::string& path) override;
 
   bool IsOpen() const { return open_; }
@@ -81,6 +91,7 @@ private:
   void Transform(std::int16_t operation);
   void Export(const std::string& path);
   std::shared_ptr<OpenSpectrum>& Current();
+  PrintSubject Subject();
 
   std::shared_ptr<DocumentSurroundings> around_;
   std::string path_;

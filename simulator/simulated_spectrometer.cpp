@@ -11,7 +11,7 @@ namespace veritane::simulator {
 SimulatedSpectrometer::SimulatedSpectrometer(platform::FileSystem& files, platform::Clock& clock,
                                              MeasuringDevice& device, std::shared_ptr<CallLog> calls)
     : around_(std::make_shared<DocumentSurroundings>(
-          DocumentSurroundings{files, clock, device, std::move(calls), {}})) {}
+          DocumentSurroundings{files, clock, device, std::move(calls), {}, {}})) {}
 
 void SimulatedSpectrometer::RequireRunning() const {
   if (!running_) {
@@ -70,6 +70,7 @@ std::shared_ptr<acquisition::Document> SimulatedSpectrometer::ActiveDocument() {
 void SimulatedSpectrometer::BeginPrint() {
   around_->calls->Note("BeginPrint");
   RequireRunning();
+  around_->printBegun = true;
 }
 
 void SimulatedSpectrometer::QuitApplication() {
@@ -84,6 +85,10 @@ void SimulatedSpectrometer::QuitApplication() {
 
 void SimulatedSpectrometer::OnProgress(std::function<void(double fraction)> progress) {
   around_->progress = std::move(progress);
+}
+
+void SimulatedSpectrometer::PrintInto(PrintSettings settings) {
+  around_->printing = std::move(settings);
 }
 
 }  // namespace veritane::simulator

@@ -10,6 +10,7 @@
 #include "acquisition/spectrometer_app.h"
 #include "simulator/call_log.h"
 #include "simulator/measuring.h"
+#include "simulator/print_settings.h"
 #include "simulator/simulated_document.h"
 
 namespace veritane::simulator {
@@ -37,6 +38,8 @@ public:
 
   // Receives the progress of collections and alignments, 0 to 1.
   void OnProgress(std::function<void(double fraction)> progress);
+  // Where prints go and who is told; without it PrintDoc is error 57.
+  void PrintInto(PrintSettings settings);
   // The operations called since the last taking, e.g. "OpenDocument(C:\…)".
   std::vector<std::string> TakeCalls() { return around_->calls->Take(); }
   bool IsInteractive() const { return interactive_; }

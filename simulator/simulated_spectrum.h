@@ -22,6 +22,14 @@ struct StoredMarker {
   double lowerBound = 0;
 };
 
+// The defining method that puts a marker at its lower bound.
+inline constexpr std::int32_t kDefinedByBound = 2;
+
+// The wavenumber where a marker stands.
+inline double PlaceOf(const StoredMarker& marker) {
+  return marker.definingMethod == kDefinedByBound ? marker.lowerBound : marker.x;
+}
+
 // A spectrum with what belongs to it while it is open. Whoever holds it can read it for ever; it is written
 // to only as long as it stands in an open document.
 struct OpenSpectrum {

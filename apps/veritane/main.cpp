@@ -5,6 +5,8 @@
 
 #include "apps/command_line.h"
 #include "apps/simulated_bench.h"
+#include "platform/pdf/pdf_printer.h"
+#include "platform/posix/command_print_queue.h"
 #include "platform/run_time_error.h"
 #include "platform/wx/wx_user_interface.h"
 #include "shell/frm_veritane.h"
@@ -19,7 +21,13 @@ struct Program {
       : desktop(screen),
         bench(machine, [this](std::chrono::milliseconds time) { WaitAlive(time); }),
         main(desktop, machine.Facilities(),
-             [this](const std::string& prog_id) { return bench.Create(prog_id); }) {}
+             [this](const std::string& prog_id) { return bench.Create(prog_id); }),
+        printer(
+            machine.files, machine.clock, [this] { return main.PrintFolder(); }, &print_queue) {
+    desktop.UsePrinter(printer);
+    bench.OnPrint(
+        [&screen](const std::string& file) { screen.NotePrint(platform::PrintKind::kTemplate, file); });
+  }
 
   // A measurement takes its time, but the windows go on being drawn.
   void WaitAlive(std::chrono::milliseconds time) {
@@ -34,6 +42,8 @@ struct Program {
   platform::Desktop desktop;
   apps::SimulatedBench bench;
   shell::FrmVeritane main;
+  platform::CommandPrintQueue print_queue;
+  platform::PdfPrinter printer;
 };
 
 int Run(int argument_count, char** arguments) {

@@ -129,6 +129,7 @@ std::vector<Sample> ReadSpectrumSamples(const std::string& path) {
 
 std::vector<Sample> MatrixSamples(const CsvTable& table, const std::vector<std::size_t>& rows) {
   std::vector<Sample> samples;
+  samples.reserve(rows.size());
   for (const std::size_t row : rows) {
     samples.push_back({table.SampleName(row), table.Place(row), table.Spectrum(row), ""});
   }

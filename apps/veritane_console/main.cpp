@@ -7,6 +7,7 @@
 #include "apps/command_line.h"
 #include "apps/simulated_bench.h"
 #include "apps/veritane_console/instrument_commands.h"
+#include "platform/pdf/pdf_printer.h"
 #include "platform/run_time_error.h"
 #include "platform/scripted/scripted_interface.h"
 #include "shell/frm_veritane.h"
@@ -35,6 +36,9 @@ int Play(const apps::CommandLine& line, std::istream& script) {
   platform::ScriptedInterface screen(platform::LinesOf(script), platform::JsonLines(std::cout));
   platform::Desktop desktop(screen);
   std::unique_ptr<shell::FrmVeritane> program;
+  platform::PdfPrinter printer(machine.files, machine.clock, [&] { return program->PrintFolder(); });
+  desktop.UsePrinter(printer);
+  bench.OnPrint([&](const std::string& file) { screen.NotePrint(platform::PrintKind::kTemplate, file); });
   const int exit_status = screen.Run(
       desktop,
       {.start =

@@ -1,6 +1,8 @@
 // What ships, and how it gets onto the disk.
 #include "apps/veritane_setup/data_layout.h"
 
+#include "apps/veritane_setup/blend_calibration.h"
+#include "apps/veritane_setup/measurement.h"
 #include "apps/veritane_setup/shipped_files.h"
 #include "platform/run_time_error.h"
 #include "platform/text_file.h"
@@ -8,7 +10,6 @@
 #include "shell/state/data_folders.h"
 #include "shell/state/settings_file.h"
 #include "simulator/collect_method.h"
-#include "simulator/instrument_model.h"
 #include "simulator/jcamp_writer.h"
 #include "simulator/stored_spectrum.h"
 
@@ -56,20 +57,15 @@ constexpr ShippedSpectrum kSpectra[] = {
     {"POLYETHYLENE.bsp", "ATR crystal", "polyethylene", kStandardSeed},
     {"PET.bsp", "ATR crystal", "pet", kStandardSeed},
     {"POLYSTYRENE-PEAKS.bsp", "ATR crystal", "polystyrene", kStandardSeed},
+    {"ASA-100-BANDS.bsp", "Pressed disc", "acetylsalicylic acid", kStandardSeed},
+    {"PS-PE-BLEND.bsp", "ATR crystal", "polystyrene 0.5 + polyethylene 0.5", kStandardSeed},
     {"aspirin.bsp", "Pressed disc", "acetylsalicylic acid", kDemonstrationSeed},
     {"polys.bsp", "ATR crystal", "polystyrene", kDemonstrationSeed},
     {"poly pls test.bsp", "ATR crystal", "polystyrene 0.6 + polyethylene 0.4", kDemonstrationSeed},
 };
 
-state::Ordinates SingleBeamOf(const std::string& sample, const simulator::CollectMethodSettings& method,
-                              std::uint64_t seed) {
-  simulator::ScanSettings scan;
-  scan.resolution = method.resolution;
-  scan.apodization = method.apodization;
-  scan.scans = method.scans;
-  scan.attenuatedTotalReflection = method.accessory == simulator::kAtrAccessory;
-  scan.seed = seed;
-  return simulator::SingleBeam(simulator::SampleOf(sample, {}), simulator::GridOf(method), scan);
+simulator::CollectMethodSettings ShippedMethod(const std::string& name) {
+  return simulator::ParseCollectMethod(ShippedText("Standards/" + name + ".clm"));
 }
 
 std::string TimeText(const platform::DateTime& now) {
@@ -89,6 +85,7 @@ public:
     for (const ShippedSpectrum& spectrum : kSpectra) WriteMeasurement(spectrum);
     WriteSingleBeam("back.bsp", "Pressed disc");
     WriteSingleBeam("Autoalign.bsp", "Initial");
+    WriteCalibration("polymer blend.cal", "ATR crystal");
     return std::move(made_);
   }
 
@@ -127,19 +124,21 @@ private:
   void WriteMeasurement(const ShippedSpectrum& shipped) {
     const std::string path = folders_.InStandards(shipped.leaf);
     if (machine_.files.FileExists(path)) return;
-    const auto method =
-        simulator::ParseCollectMethod(ShippedText("Standards/" + std::string(shipped.method) + ".clm"));
-    const state::Ordinates background = SingleBeamOf("empty", method, shipped.seed + 100);
-    WriteSpectrum(
-        path, shipped.sample, method, "ABSORBANCE",
-        simulator::AbsorbanceAgainst(background, SingleBeamOf(shipped.sample, method, shipped.seed)));
+    const auto method = ShippedMethod(shipped.method);
+    WriteSpectrum(path, shipped.sample, method, "ABSORBANCE",
+                  MeasureAbsorbance(shipped.sample, method, shipped.seed));
   }
 
   void WriteSingleBeam(const std::string& leaf, const std::string& method_name) {
     if (machine_.files.FileExists(folders_.InStandards(leaf))) return;
-    const auto method = simulator::ParseCollectMethod(ShippedText("Standards/" + method_name + ".clm"));
+    const auto method = ShippedMethod(method_name);
     WriteSpectrum(folders_.InStandards(leaf), "Background", method, "ARBITRARY UNITS",
-                  SingleBeamOf("empty", method, kDemonstrationSeed));
+                  MeasureSingleBeam("empty", method, kDemonstrationSeed));
+  }
+
+  void WriteCalibration(const std::string& leaf, const std::string& method_name) {
+    const std::string path = folders_.InStandards(leaf);
+    if (!machine_.files.FileExists(path)) Write(path, BlendCalibration(ShippedMethod(method_name)));
   }
 
   const platform::Machine& machine_;

@@ -22,6 +22,18 @@ constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 const std::string kStatusForm = "frmStatus";
 const std::string kStatusLabel = "lblStatus";
 
+const char* KindText(PrintKind kind) {
+  switch (kind) {
+    case PrintKind::kChart:
+      return "chart";
+    case PrintKind::kText:
+      return "text";
+    case PrintKind::kTemplate:
+      break;
+  }
+  return "template";
+}
+
 }  // namespace
 
 LineSource LinesOf(std::istream& stream) {
@@ -127,8 +139,12 @@ void ScriptedInterface::StartProgram() {
   if (program_.start) program_.start();
 }
 
-void ScriptedInterface::NotePrint(const std::string& kind, const std::string& file) {
-  Emit({{"event", "print"}, {"kind", kind}, {"file", file}});
+void ScriptedInterface::NotePrint(PrintKind kind, const std::string& file) {
+  Emit({{"event", "print"}, {"kind", KindText(kind)}, {"file", file}});
+}
+
+void ScriptedInterface::CopyPicture(const Control& control) {
+  Emit({{"event", "picture"}, {"control", FullName(control)}});
 }
 
 void ScriptedInterface::EmitStatus(const Control& label) {

@@ -71,9 +71,6 @@ public:
   // What stopped the run, "" when nothing did.
   const std::string& StopReason() const { return stop_reason_; }
 
-  // Tells that a page was printed: how ("template", "default", …) and the Windows path of what came out.
-  void NotePrint(const std::string& kind, const std::string& file);
-
   void Attach(Form& form) override;
   void RunModal(Form& form) override;
   MessageAnswer ShowMessage(const Message& message) override;
@@ -81,6 +78,9 @@ public:
   void ShowPointer(Pointer) override {}
   // The script waits for no window messages, and a line is read only when the program waits for its user.
   void ProcessPendingEvents() override {}
+  void NotePrint(PrintKind kind, const std::string& file) override;
+  // There is no clipboard: the script is told that the picture was asked for.
+  void CopyPicture(const Control& control) override;
   void NoteError(const RunTimeError& error) override;
   void End(int exit_status) override { exit_status_ = exit_status; }
 

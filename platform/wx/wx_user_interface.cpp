@@ -10,11 +10,13 @@
 #include <algorithm>
 #include <cstdio>
 
+#include "platform/control.h"
 #include "platform/form.h"
 #include "platform/run_time_error.h"
 #include "platform/wx/file_filter.h"
 #include "platform/wx/form_window.h"
 #include "platform/wx/message_dialog.h"
+#include "platform/wx/panel_picture.h"
 #include "platform/wx/wx_text.h"
 
 namespace veritane::platform {
@@ -99,6 +101,22 @@ void WxUserInterface::ShowPointer(Pointer pointer) {
 void WxUserInterface::ProcessPendingEvents() {
   for (const auto& window : windows_) window->Pulse();
   gate_.ProcessPendingEvents();
+}
+
+void WxUserInterface::NotePrint(PrintKind kind, const std::string& file) {
+  if (file.empty()) return;
+  const std::string why = kind == PrintKind::kTemplate ? "" : "No printer is installed. ";
+  ShowMessage({.text = why + "The print-out is in this file:\n" + paths_.toNative(file),
+               .title = "Print-out",
+               .icon = MessageIcon::kInformation});
+}
+
+void WxUserInterface::CopyPicture(const Control& control) {
+  const FormWindow* window = WindowOf(control.Owner());
+  wxWindow* part =
+      window == nullptr ? nullptr : wxWindow::FindWindowByName(ToWx(control.Name()), window->Window());
+  if (part == nullptr) throw RunTimeError(ErrorNumber::kDeviceError, control.Name() + " is not on screen");
+  CopyToClipboard(*part);
 }
 
 void WxUserInterface::NoteError(const RunTimeError& error) {

@@ -35,6 +35,9 @@ public:
   std::optional<std::string> ChooseFile(const FileChoice& choice) override;
   void ShowPointer(Pointer pointer) override;
   void ProcessPendingEvents() override;
+  // Where a file was written the user is told of it; a printer speaks for itself.
+  void NotePrint(PrintKind kind, const std::string& file) override;
+  void CopyPicture(const Control& control) override;
   // Writes the error to standard error; the message box comes from the dispatcher.
   void NoteError(const RunTimeError& error) override;
   // Closes all loops. Message boxes from now on answer themselves with the choice that changes nothing.

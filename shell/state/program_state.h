@@ -116,6 +116,8 @@ struct ProgramState {
   std::vector<double> PLSConcentrations;
   std::vector<std::string> PLSConstituentNames;
   std::int16_t PLSConstituentCount = 0;
+  // Whether that prediction gave values. Without that, what the arrays hold is no result.
+  bool predictionSucceeded = false;
 };
 
 }  // namespace veritane::state

@@ -24,6 +24,8 @@ public:
   std::optional<std::string> ChooseFile(const FileChoice&) override { return std::nullopt; }
   void ShowPointer(Pointer) override {}
   void ProcessPendingEvents() override {}
+  void NotePrint(PrintKind, const std::string&) override {}
+  void CopyPicture(const Control&) override {}
   void NoteError(const RunTimeError&) override {}
   void End(int) override {}
 };

@@ -116,6 +116,8 @@ public:
   std::optional<std::string> ChooseFile(const platform::FileChoice&) override { return std::nullopt; }
   void ShowPointer(platform::Pointer) override {}
   void ProcessPendingEvents() override {}
+  void NotePrint(platform::PrintKind, const std::string&) override {}
+  void CopyPicture(const platform::Control&) override {}
   void NoteError(const platform::RunTimeError&) override {}
   void End(int) override {}
 };

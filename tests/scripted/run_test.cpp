@@ -3,6 +3,7 @@
 
 #include <sstream>
 
+#include "platform/text_printout.h"
 #include "tests/scripted/sample_forms.h"
 
 namespace veritane::platform {
@@ -170,7 +171,7 @@ TEST(PanelsAndStatus, AreReportedWhenTheyChange) {
     sample.frmStatus.lblStatus.SetCaption(" Scanning...");
     sample.frmStatus.lblStatus.SetCaption(" Calculating...");
     sample.frmStatus.Hide();
-    sample.run.Interface().NotePrint("template", "C:\\out.pdf");
+    sample.run.Interface().NotePrint(PrintKind::kTemplate, "C:\\out.pdf");
   };
   const Events events = sample.Lines({"click frmMain.cmdGo"});
   const std::vector<ordered_json> panels = events.Named("panel");
@@ -179,6 +180,17 @@ TEST(PanelsAndStatus, AreReportedWhenTheyChange) {
   EXPECT_EQ(panels[1].dump(), R"({"event":"panel","name":"fraResult","shown":true})");
   EXPECT_THAT(events.Statuses(), ElementsAre(" Scanning...", " Calculating..."));
   EXPECT_EQ(events.Last("print").dump(), R"({"event":"print","kind":"template","file":"C:\\out.pdf"})");
+}
+
+TEST(Printing, WithoutAPrinterIsToldAsAnError) {
+  SampleRun sample;
+  sample.frmMain.cmdGo.OnClick = [&] {
+    TextPrintout printout("Results", "one");
+    sample.run.Screen().Print(printout);
+  };
+  const Events events = sample.Lines({"click frmMain.cmdGo", "answer OK"});
+  EXPECT_THAT(events.Messages(), ElementsAre(HasSubstr("Run-time error 57")));
+  EXPECT_THAT(events.Named("print"), IsEmpty());
 }
 
 TEST(PanelsAndStatus, OfAFormThatDoesNotShowAreNoEvents) {

@@ -20,6 +20,8 @@ ProgramTest::ProgramTest() {
   machine_.clock.Set({.year = 2026, .month = 11, .day = 21, .hour = 10, .minute = 59, .second = 0});
   Write(Data("Meths.tbl"), " 1 \r\n" + Standard("Disc.clm") + "\r\n");
   WriteProducts({"ASPIRIN-1,Disc,Euclidean,"});
+  bench_.OnPrint(
+      [this](const std::string& file) { run_.Interface().NotePrint(platform::PrintKind::kTemplate, file); });
   run_.program.start = Starter(run_, program_);
   run_.program.setClock = [this](const platform::DateTime& now) { machine_.clock.Set(now); };
 }
@@ -33,7 +35,8 @@ std::function<void()> ProgramTest::Starter(platform::ScriptRun& run,
                                     .user = machine_.user,
                                     .clock = machine_.clock,
                                     .regional = machine_.regional,
-                                    .libraries = machine_.libraries};
+                                    .libraries = libraries_};
+    run.Screen().UsePrinter(printer_);
     program = std::make_unique<shell::FrmVeritane>(
         run.Screen(), machine, [this](const std::string& prog_id) { return bench_.Create(prog_id); });
     program->Form_Load();

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "apps/simulated_bench.h"
+#include "platform/pdf/pdf_printer.h"
 #include "platform/posix/posix_machine.h"
 #include "platform/scripted/script_run.h"
 #include "shell/frm_veritane.h"
@@ -79,7 +80,11 @@ protected:
   TemporaryFolder folder_;
   platform::PosixMachine machine_{folder_.Path(), "C"};
   TestFolders folders_;
+  // The prediction library lies beside the programs, not beside the tests.
+  platform::DynamicLibraryLoader libraries_{machine_.paths, VERITANE_PROGRAMS};
   apps::SimulatedBench bench_{machine_, [](std::chrono::milliseconds) {}};
+  // There is no printer: everything goes into files.
+  platform::PdfPrinter printer_{machine_.files, machine_.clock, [this] { return program_->PrintFolder(); }};
   platform::ScriptRun run_;
   std::unique_ptr<shell::FrmVeritane> program_;
 };

@@ -10,6 +10,7 @@
 
 #include "apps/simulated_bench.h"
 #include "apps/veritane_setup/data_layout.h"
+#include "platform/pdf/pdf_printer.h"
 #include "shell/frm_veritane.h"
 #include "tests/support/temporary_folder.h"
 #include "tests/window/window_test.h"
@@ -48,6 +49,7 @@ protected:
     setup::LayOutData(machine_.Facilities());
     setup::SetDemonstrationMode(machine_.Facilities(), is_demonstration);
     bench_.SampleCompartment().Write({.sample = "empty", .duration = 0, .seed = 1});
+    desktop_.UsePrinter(printer_);
     main_.Form_Load();
     Settle(500);
   }
@@ -93,6 +95,8 @@ protected:
   apps::SimulatedBench bench_{machine_, [](std::chrono::milliseconds) {}};
   shell::FrmVeritane main_{desktop_, machine_.Facilities(),
                            [this](const std::string& prog_id) { return bench_.Create(prog_id); }};
+  // There is no printer: everything goes into files.
+  PdfPrinter printer_{machine_.files, machine_.clock, [this] { return main_.PrintFolder(); }};
   std::deque<Step> steps_;
   wxTimer timer_;
   bool acting_ = false;
