@@ -146,8 +146,7 @@ std::vector<double> MarkerPlaces(const PrintSubject& subject) {
     }
   }
   std::ranges::sort(places, std::greater());
-  const auto repeated = std::ranges::unique(places);
-  places.erase(repeated.begin(), repeated.end());
+  places.erase(std::unique(places.begin(), places.end()), places.end());
   return places;
 }
 

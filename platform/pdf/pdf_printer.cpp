@@ -40,7 +40,7 @@ std::string PdfPrinter::Print(Printout& printout) {
     queue_->Submit(pdf, printout.Title());
     return "";
   }
-  const std::string path = NewPrintPath(files_, folder_(), printout.Title(), now);
+  std::string path = NewPrintPath(files_, folder_(), printout.Title(), now);
   files_.WriteBytes(path, pdf);
   return path;
 }
