@@ -30,7 +30,6 @@ public:
     std::filesystem::create_directories(folder_.Path() / "drive_c");
     machine_.clock.Set({.year = 2026, .month = 11, .day = 21, .hour = 10, .minute = 59, .second = 0});
     setup::LayOutData(machine_.Facilities());
-    AddLumivarProduct();
     PutIn("empty", "Transmission");
     PlanDialogs();
     desktop_.Perform([this] { main_.Form_Load(); });
@@ -54,15 +53,6 @@ public:
   }
 
 private:
-  void AddLumivarProduct() {
-    FileSystem& files = machine_.files;
-    const std::string standards = kDataFolder + "Standards\\";
-    files.WriteBytes(standards + "ASA-100-LV.bsp", files.ReadBytes(standards + "ASA-100.bsp"));
-    std::string rows = files.ReadBytes(kDataFolder + "Meth.tbl");
-    rows.replace(0, std::strlen(" 9 "), " 10 ");
-    files.WriteBytes(kDataFolder + "Meth.tbl", rows + "ASA-100-LV,Pressed disc,Lumivar,\r\n");
-  }
-
   void PutIn(const std::string& sample, const std::string& accessory) {
     simulator::CompartmentState state;
     state.sample = sample;
@@ -179,7 +169,7 @@ private:
     TakeMainWindow("result-fail");
     Click(main_.cmdBacktoMainMenu);
 
-    Measure("ASA-100-LV", "Lot 4713-C", "acetylsalicylic acid 0.9 + lactose 0.3", "Transmission");
+    Measure("ASA-100-BANDS", "Lot 4713-C", "acetylsalicylic acid 0.9 + lactose 0.3", "Transmission");
     screen_.TakePicture("result-lumivar", {"frmVeritane", "frmResults"});
     desktop_.Perform([this] { desktop_.Find("frmResults")->Close(); });
     Click(main_.cmdBacktoMainMenu);
