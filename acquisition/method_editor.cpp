@@ -5,6 +5,7 @@
 #include "acquisition/null_regions.h"
 #include "acquisition/prompts.h"
 #include "platform/run_time_error.h"
+#include "platform/text_file.h"
 #include "platform/windows_path.h"
 #include "shell/state/messages.h"
 
@@ -38,7 +39,7 @@ void MethodEditor::AddMethod() {
   std::vector<std::string> paths = state_.methodPaths;
   paths.push_back(*path);
   // The list in memory follows only what is on disk.
-  files_.WriteBytes(MethodListPath(state_), MethodListText(paths));
+  files_.WriteBytes(MethodListPath(state_), platform::CountedLines(paths));
   state_.methodPaths = std::move(paths);
   state_.methodShortNames.push_back(short_name);
   controls_.lstMeths.Add(*path);
@@ -65,7 +66,7 @@ void MethodEditor::DeleteMethod() {
   }
   std::vector<std::string> paths = state_.methodPaths;
   paths.erase(paths.begin() + selected);
-  files_.WriteBytes(MethodListPath(state_), MethodListText(paths));
+  files_.WriteBytes(MethodListPath(state_), platform::CountedLines(paths));
   load_methods_();
 }
 
@@ -92,7 +93,7 @@ void MethodEditor::EditNullRegions() {
   dialog.lstNulls.AddAll(controls_.lstNullRegions.Items());
   dialog.ShowModal();
   const std::vector<std::string> regions = dialog.lstNulls.Items();
-  files_.WriteBytes(NullRegionPath(state_.folders, SelectedShortName()), NullRegionText(regions));
+  files_.WriteBytes(NullRegionPath(state_.folders, SelectedShortName()), platform::CountedLines(regions));
   controls_.lstNullRegions.Clear();
   controls_.lstNullRegions.AddAll(regions);
 }

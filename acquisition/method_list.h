@@ -2,7 +2,6 @@
 #pragma once
 
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "platform/controls.h"
@@ -14,12 +13,6 @@ namespace veritane::acquisition {
 // Where the list lies.
 std::string MethodListPath(const state::ProgramState& state);
 
-// The full paths of the list's text. Errors 62 and 13 as for every table.
-std::vector<std::string> ReadMethodList(std::string_view bytes, const std::string& path = "");
-
-// The list's text: the count, then a path a line.
-std::string MethodListText(const std::vector<std::string>& paths);
-
 // The text behind the last "\" without its last four characters. A path without "\" keeps the name that came
 // before it.
 std::string MethodShortName(const std::string& path, const std::string& previous);
@@ -30,7 +23,8 @@ struct MethodListControls {
   std::vector<platform::ComboBox*> shortNames;
 };
 
-// Reads the list into the state's arrays and all its controls.
+// Reads the list, the count and then a full path a line, into the state's arrays and all its controls. Errors
+// 62 and 13 as for every table.
 void LoadMethodList(const platform::FileSystem& files, state::ProgramState& state,
                     const MethodListControls& controls);
 

@@ -1,8 +1,6 @@
 // Reading null-region files.
 #include "acquisition/null_regions.h"
 
-#include <algorithm>
-
 #include "platform/number_text.h"
 #include "platform/run_time_error.h"
 #include "platform/text_file.h"
@@ -15,18 +13,7 @@ std::string NullRegionPath(const state::DataFolders& folders, const std::string&
 
 std::vector<std::string> ReadNullRegionLines(const platform::FileSystem& files, const std::string& path) {
   if (!files.FileExists(path)) return {};
-  platform::TextReader reader(files.ReadBytes(path), path);
-  const int count = reader.ReadInt16();
-  std::vector<std::string> lines;
-  lines.reserve(static_cast<std::size_t>(std::max(count, 0)));
-  for (int region = 0; region < count; ++region) lines.push_back(reader.ReadLine());
-  return lines;
-}
-
-std::string NullRegionText(const std::vector<std::string>& regions) {
-  std::string text = platform::CountText(static_cast<long long>(regions.size())).append(platform::kLineEnd);
-  for (const std::string& region : regions) text.append(region).append(platform::kLineEnd);
-  return text;
+  return platform::ReadCountedLines(files.ReadBytes(path), path);
 }
 
 void LoadNullRegions(const platform::FileSystem& files, state::ProgramState& state) {

@@ -16,9 +16,6 @@ std::string NullRegionPath(const state::DataFolders& folders, const std::string&
 // for a file that ends too soon or has no count.
 std::vector<std::string> ReadNullRegionLines(const platform::FileSystem& files, const std::string& path);
 
-// The file's text: the count, then a region a line.
-std::string NullRegionText(const std::vector<std::string>& regions);
-
 // Reads the regions of `state.clmName` into the state. A method without a file has none. Errors 62 and 13 for
 // a file that ends too soon or has no count.
 void LoadNullRegions(const platform::FileSystem& files, state::ProgramState& state);

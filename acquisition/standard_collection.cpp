@@ -19,16 +19,43 @@ using platform::MessageIcon;
 using state::Text;
 using state::TextId;
 
+namespace {
+
+// A Product ID that holds no key by the parser is its own key.
+std::string KeyOf(const platform::FileSystem& files, const state::DataFolders& folders,
+                  const std::string& product_id) {
+  const std::string key = ProductKey(files, folders, product_id);
+  return key.empty() ? product_id : key;
+}
+
+}  // namespace
+
+std::string WhyNotAProduct(const platform::FileSystem& files, const state::ProgramState& state,
+                           const std::string& product_id) {
+  const std::string key = KeyOf(files, state.folders, product_id);
+  if (const std::string why = platform::WhyNotAFileName(key); !why.empty()) {
+    return "\"" + key + "\" cannot name a product's files. " + why;
+  }
+  if (key.find(',') != std::string::npos) return "A Product ID cannot hold a comma.";
+  if (key.front() == ' ') return "A Product ID cannot begin with a blank.";
+  // The Standard would be written over the background of that method.
+  const bool is_background =
+      std::any_of(state.methodShortNames.begin(), state.methodShortNames.end(), [&](const std::string& name) {
+        return platform::UpperCase(BackgroundPath(state.folders, name)) ==
+               platform::UpperCase(state.folders.InStandards(key + ".bsp"));
+      });
+  if (is_background) {
+    return "\"" + key + "\" is the name of a background file. Please enter a different Product ID";
+  }
+  return "";
+}
+
 StandardCollection::StandardCollection(Bench& bench, FrmCollectStd& frm_collect_std)
     : bench_(bench), state_(bench.state), session_(bench.session), frm_collect_std_(frm_collect_std) {}
 
 bool StandardCollection::Run() {
   // A table that cannot be read could not take the product either; better to hear of it before measuring.
   ReadProductTable(bench_.machine.files.ReadBytes(ProductTablePath(state_)), ProductTablePath(state_));
-  frm_collect_std_.WhyNotAProduct = [this](const std::string& id) { return WhyNotAProduct(id); };
-  frm_collect_std_.ChooseFile = [this](const std::string& algorithm) {
-    return ChooseAdditionalFile(bench_.desktop, state_.folders, algorithm);
-  };
   frm_collect_std_.ShowModal();
   if (frm_collect_std_.cancelled || bench_.desktop.Ended()) return false;
   NoteProduct();
@@ -49,36 +76,12 @@ bool StandardCollection::Run() {
   return true;
 }
 
-std::string StandardCollection::KeyOf(const std::string& product_id) const {
-  const std::string key = ProductKey(bench_.machine.files, state_.folders, product_id);
-  return key.empty() ? product_id : key;
-}
-
-std::string StandardCollection::WhyNotAProduct(const std::string& product_id) const {
-  const std::string key = KeyOf(product_id);
-  if (const std::string why = platform::WhyNotAFileName(key); !why.empty()) {
-    return "\"" + key + "\" cannot name a product's files. " + why;
-  }
-  if (key.find(',') != std::string::npos) return "A Product ID cannot hold a comma.";
-  if (key.front() == ' ') return "A Product ID cannot begin with a blank.";
-  // The Standard would be written over the background of that method.
-  const bool is_background = std::any_of(
-      state_.methodShortNames.begin(), state_.methodShortNames.end(), [&](const std::string& name) {
-        return platform::UpperCase(BackgroundPath(state_.folders, name)) ==
-               platform::UpperCase(state_.folders.InStandards(key + ".bsp"));
-      });
-  if (is_background) {
-    return "\"" + key + "\" is the name of a background file. Please enter a different Product ID";
-  }
-  return "";
-}
-
 std::string StandardCollection::StandardPath() const {
   return state_.folders.InStandards(state_.prod + ".bsp");
 }
 
 void StandardCollection::NoteProduct() {
-  state_.prod = KeyOf(frm_collect_std_.txtProductID.Text());
+  state_.prod = KeyOf(bench_.machine.files, state_.folders, frm_collect_std_.txtProductID.Text());
   state_.algorithm = frm_collect_std_.cmbAlg.Text();
   state_.calfilename =
       NeedsAdditionalFile(state_.algorithm) ? frm_collect_std_.txtCalFileName.Text() : std::string();

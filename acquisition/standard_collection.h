@@ -10,6 +10,10 @@
 
 namespace veritane::acquisition {
 
+// Why a Product ID cannot become a product, as a sentence for the supervisor, or "".
+std::string WhyNotAProduct(const platform::FileSystem& files, const state::ProgramState& state,
+                           const std::string& product_id);
+
 class StandardCollection {
 public:
   StandardCollection(Bench& bench, FrmCollectStd& frm_collect_std);
@@ -21,8 +25,6 @@ public:
 private:
   // What the state is to hold of the product that the dialog describes.
   void NoteProduct();
-  std::string KeyOf(const std::string& product_id) const;
-  std::string WhyNotAProduct(const std::string& product_id) const;
   std::string StandardPath() const;
   bool CollectNewBackground(const std::string& prompt);
   bool CollectStandard(const std::string& prompt);

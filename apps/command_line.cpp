@@ -1,6 +1,10 @@
 // Reading command lines.
 #include "apps/command_line.h"
 
+#include <algorithm>
+#include <iostream>
+#include <string_view>
+
 namespace veritane::apps {
 
 CommandLine::CommandLine(int argument_count, char** arguments, const std::set<std::string>& options,
@@ -26,6 +30,25 @@ std::optional<std::string> CommandLine::Option(const std::string& name) const {
 std::vector<std::string> CommandLine::Values(const std::string& name) const {
   const auto found = options_.find(name);
   return found == options_.end() ? std::vector<std::string>() : found->second;
+}
+
+int RunProgram(const Program& program, int argument_count, char** arguments,
+               const std::function<int(const CommandLine&)>& run) {
+  if (std::any_of(arguments + 1, arguments + argument_count,
+                  [](std::string_view argument) { return argument == "--help"; })) {
+    std::cout << program.usage;
+    return 0;
+  }
+  try {
+    return run(CommandLine(argument_count, arguments, program.options, program.mostWords));
+  } catch (const UsageError& error) {
+    std::cerr << program.name << ": " << error.what() << '\n'
+              << program.name << " --help tells how it is used.\n";
+    return 2;
+  } catch (const std::exception& error) {
+    std::cerr << program.name << ": " << error.what() << '\n';
+    return 1;
+  }
 }
 
 }  // namespace veritane::apps

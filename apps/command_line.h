@@ -1,6 +1,7 @@
 // The options of a program's command line: "--name value" pairs, flags, and what stands beside them.
 #pragma once
 
+#include <functional>
 #include <map>
 #include <optional>
 #include <set>
@@ -32,5 +33,21 @@ private:
   std::map<std::string, std::vector<std::string>> options_;
   std::vector<std::string> words_;
 };
+
+// A program as its command line sees it.
+struct Program {
+  std::string name;
+  // How it is used, as --help tells.
+  std::string usage;
+  // The options that take a value, and how many words may stand beside them.
+  std::set<std::string> options = {};
+  std::size_t mostWords = 0;
+};
+
+// What a program's main does: runs `run` on the command line and returns the exit status, which is what `run`
+// returned, 0 after --help, 2 for a command line that cannot be understood and 1 for any other exception. The
+// reason goes to the standard error output.
+int RunProgram(const Program& program, int argument_count, char** arguments,
+               const std::function<int(const CommandLine&)>& run);
 
 }  // namespace veritane::apps

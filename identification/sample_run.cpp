@@ -28,40 +28,15 @@ using platform::MessageIcon;
 using state::Text;
 using state::TextId;
 
-namespace {
-
-// Closes what the run left open, however it ends.
-class DocumentsClosedAtLast {
-public:
-  explicit DocumentsClosedAtLast(std::vector<std::shared_ptr<acquisition::Document>>& documents)
-      : documents_(documents) {}
-  ~DocumentsClosedAtLast() {
-    for (const auto& document : documents_) {
-      try {
-        document->CloseDocument(false);
-      } catch (const platform::RunTimeError&) {
-        // A document that cannot be closed is the application's to keep; the run's own outcome is what the
-        // operator has to hear of.
-        continue;
-      }
-    }
-    documents_.clear();
-  }
-  DocumentsClosedAtLast(const DocumentsClosedAtLast&) = delete;
-  DocumentsClosedAtLast& operator=(const DocumentsClosedAtLast&) = delete;
-
-private:
-  std::vector<std::shared_ptr<acquisition::Document>>& documents_;
-};
-
-}  // namespace
-
 SampleRun::SampleRun(acquisition::Bench& bench, FrmSamp& frm_samp, platform::AppendingFile& log)
-    : bench_(bench), state_(bench.state), session_(bench.session), frm_samp_(frm_samp), log_(log) {}
+    : bench_(bench),
+      state_(bench.state),
+      session_(bench.session),
+      frm_samp_(frm_samp),
+      log_(log),
+      driven_(bench) {}
 
 void SampleRun::Run(const acquisition::BackgroundSchedule& schedule) {
-  const acquisition::DrivenApplication driven(bench_);
-  const DocumentsClosedAtLast closed(open_documents_);
   ClearResult(bench_);
   frm_samp_.ShowModal();
   if (frm_samp_.cancelled || bench_.desktop.Ended()) return;
@@ -153,7 +128,7 @@ void SampleRun::LoadStandard() {
 void SampleRun::Prepare(state::SpectrumBuffer& spectrum, state::Ordinates& chart,
                         state::Ordinates& transform) {
   PrepareSpectrum(bench_, spectrum, chart, transform);
-  if (LeavesDocumentOpen(state_.algorithm)) open_documents_.push_back(session_.CurrentDocument);
+  if (LeavesDocumentOpen(state_.algorithm)) opened_.Add(session_.CurrentDocument);
 }
 
 bool SampleRun::CollectBackgroundIfDue(const acquisition::BackgroundSchedule& schedule,
@@ -286,8 +261,7 @@ void SampleRun::ShowResult() {
 void SampleRun::NameResultInSampleFile() {
   // The application need not open again what it has open.
   if (LeavesDocumentOpen(state_.algorithm)) {
-    session_.CurrentDocument->CloseDocument(false);
-    open_documents_.pop_back();
+    opened_.ReleaseLast()->CloseDocument(false);
   }
   session_.Open(state_.tmpSampName);
   session_.CurrentDocument->SelectSpectrum(platform::ToInt16(session_.CurrentDocument->GetSpectrumCount()));

@@ -1,12 +1,11 @@
 // The operator's sample run, from the entry dialog to the filed spectrum and its records.
 #pragma once
 
-#include <memory>
 #include <string>
-#include <vector>
 
 #include "acquisition/background.h"
 #include "acquisition/bench.h"
+#include "acquisition/opened_documents.h"
 #include "identification/frm_samp.h"
 
 namespace veritane::identification {
@@ -16,12 +15,13 @@ inline constexpr int kSpectraPerFile = 50;
 // Full files are numbered up to here.
 inline constexpr int kMostFullFiles = 1000;
 
+// One run; the application is the user's again, with nothing of the run left open, when the object goes.
 class SampleRun {
 public:
   // `log` is the run log that stays open for the whole run of the program.
   SampleRun(acquisition::Bench& bench, FrmSamp& frm_samp, platform::AppendingFile& log);
 
-  // Runs once, to the end or to an early end that the operator has been told of. An early end files and
+  // To the end or to an early end that the operator has been told of. An early end files and
   // records nothing and leaves the spectrum panel hidden.
   void Run(const acquisition::BackgroundSchedule& schedule);
 
@@ -47,8 +47,9 @@ private:
   acquisition::SpectrometerSession& session_;
   FrmSamp& frm_samp_;
   platform::AppendingFile& log_;
+  const acquisition::DrivenApplication driven_;
   // Documents that stay open until the run is over.
-  std::vector<std::shared_ptr<acquisition::Document>> open_documents_;
+  acquisition::OpenedDocuments opened_;
   // Where a file that has to make room goes.
   std::string roll_over_name_;
 };

@@ -57,6 +57,8 @@ public:
   // Puts a picture of what a control shows, and of everything in it, on the clipboard; error 57 when that
   // fails.
   virtual void CopyPicture(const Control& control) = 0;
+  // The text on the clipboard, nothing when it holds none.
+  virtual std::optional<std::string> ClipboardText() = 0;
   // A run-time error reached the dispatcher; its message box follows.
   virtual void NoteError(const RunTimeError& error) = 0;
   // The program ends: no further events.
@@ -83,6 +85,7 @@ public:
   // Prints, and lets the user interface tell where the print went. Errors as the printer's; 57 without one.
   void Print(Printout& printout);
   void CopyPicture(const Control& control) { user_interface_.CopyPicture(control); }
+  std::optional<std::string> ClipboardText() { return user_interface_.ClipboardText(); }
 
   Pointer MousePointer() const { return pointer_; }
   void SetMousePointer(Pointer pointer);

@@ -12,6 +12,8 @@ std::string ErrorText(ErrorNumber number) {
       return "Invalid procedure call or argument";
     case ErrorNumber::kOverflow:
       return "Overflow";
+    case ErrorNumber::kOutOfMemory:
+      return "Out of memory";
     case ErrorNumber::kSubscript:
       return "Subscript out of range";
     case ErrorNumber::kDivisionByZero:

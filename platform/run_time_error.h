@@ -11,6 +11,7 @@ namespace veritane::platform {
 enum class ErrorNumber : int {
   kInvalidCall = 5,
   kOverflow = 6,
+  kOutOfMemory = 7,
   kSubscript = 9,
   kDivisionByZero = 11,
   kTypeMismatch = 13,

@@ -1,6 +1,7 @@
 // Reading small text files by fields and lines.
 #include "platform/text_file.h"
 
+#include <algorithm>
 #include <array>
 
 #include "platform/number_text.h"
@@ -109,6 +110,21 @@ double TextReader::ReadDouble() {
   const std::optional<double> number = ParseNumber(field);
   if (!number) throw RunTimeError(ErrorNumber::kTypeMismatch, place + "\"" + field + "\" is not a number");
   return *number;
+}
+
+std::vector<std::string> ReadCountedLines(std::string_view bytes, const std::string& source) {
+  TextReader reader(bytes, source);
+  const int count = reader.ReadInt16();
+  std::vector<std::string> lines;
+  lines.reserve(static_cast<std::size_t>(std::max(count, 0)));
+  for (int line = 0; line < count; ++line) lines.push_back(reader.ReadLine());
+  return lines;
+}
+
+std::string CountedLines(const std::vector<std::string>& lines) {
+  std::string text = CountText(static_cast<long long>(lines.size())).append(kLineEnd);
+  for (const std::string& line : lines) text.append(line).append(kLineEnd);
+  return text;
 }
 
 }  // namespace veritane::platform

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace veritane::platform {
 
@@ -42,5 +43,10 @@ private:
   int line_ = 1;
   std::size_t position_ = 0;
 };
+
+// A list in a file of its own: the count, then a line an entry. Errors 62 and 13 for a file that ends too
+// soon or has no count.
+std::vector<std::string> ReadCountedLines(std::string_view bytes, const std::string& source);
+std::string CountedLines(const std::vector<std::string>& lines);
 
 }  // namespace veritane::platform

@@ -13,6 +13,11 @@ std::string LeafName(std::string_view path) {
   return std::string(slash == std::string_view::npos ? path : path.substr(slash + 1));
 }
 
+std::string LeafWithoutExtension(std::string_view path) {
+  const std::string leaf = LeafName(path);
+  return leaf.substr(0, leaf.rfind('.'));
+}
+
 std::string FolderOf(std::string_view path) {
   const std::size_t slash = path.rfind('\\');
   return std::string(slash == std::string_view::npos ? std::string_view() : path.substr(0, slash));

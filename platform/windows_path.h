@@ -8,6 +8,8 @@ namespace veritane::platform {
 
 // The text after the last "\", or the whole text where there is none.
 std::string LeafName(std::string_view path);
+// The leaf name without its last extension, e.g. "ASA-100" of "C:\Data\ASA-100.bsp".
+std::string LeafWithoutExtension(std::string_view path);
 // The text before the last "\", or "" where there is none.
 std::string FolderOf(std::string_view path);
 

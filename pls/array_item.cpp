@@ -16,8 +16,7 @@ namespace {
 constexpr std::int32_t kMostValues = 1 << 24;
 
 [[noreturn]] void RaiseOutOfMemory(std::int32_t size) {
-  constexpr int kOutOfMemory = 7;
-  throw RunTimeError(kOutOfMemory, "Out of memory: an array of " + std::to_string(size) + " values");
+  throw RunTimeError(ErrorNumber::kOutOfMemory, "an array of " + std::to_string(size) + " values");
 }
 
 }  // namespace

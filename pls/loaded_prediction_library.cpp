@@ -5,6 +5,7 @@
 #include <array>
 #include <exception>
 #include <new>
+#include <utility>
 
 #include "platform/dynamic_library.h"
 #include "platform/run_time_error.h"
@@ -28,14 +29,33 @@ Function* Bound(const platform::DynamicLibrary& library, const char* name) {
   return reinterpret_cast<Function*>(library.Function(name));
 }
 
+// A function that only some libraries have.
+template <typename Function>
+Function* BoundIfThere(const platform::DynamicLibrary& library, const char* name) {
+  try {
+    return Bound<Function>(library, name);
+  } catch (const RunTimeError&) {
+    return nullptr;
+  }
+}
+
+// What ReadClipboard hands over; the library's interface passes no object to it.
+thread_local std::optional<std::string> text_on_clipboard;
+
+std::int32_t VERITANE_PLS_CALL ReadClipboard(char* text, std::int32_t capacity) {
+  if (!text_on_clipboard) return -1;
+  const std::size_t length = text_on_clipboard->size();
+  text_on_clipboard->copy(text, std::min(length, static_cast<std::size_t>(std::max(capacity, 0))));
+  return static_cast<std::int32_t>(length);
+}
+
 // Calls into the library. It may be written in any language, so whatever it throws ends here.
 template <typename Function, typename... Arguments>
 std::int32_t Call(Function* function, const char* name, Arguments... arguments) {
   try {
     return function(arguments...);
   } catch (const std::bad_alloc&) {
-    constexpr int kOutOfMemory = 7;
-    throw RunTimeError(kOutOfMemory, std::string("Out of memory: ") + name + " of the prediction library");
+    throw RunTimeError(ErrorNumber::kOutOfMemory, std::string(name) + " of the prediction library");
   } catch (const std::exception& error) {
     throw RunTimeError(ErrorNumber::kInvalidCall,
                        std::string(name) + " of the prediction library: " + error.what());
@@ -65,10 +85,13 @@ struct LoadedPredictionLibrary::Functions {
   decltype(::GetItemSize)* getItemSize = Bound<decltype(::GetItemSize)>(*library, "GetItemSize");
   decltype(::CopyItem)* copyItem = Bound<decltype(::CopyItem)>(*library, "CopyItem");
   decltype(::ReadCalFile)* readCalFile = Bound<decltype(::ReadCalFile)>(*library, "ReadCalFile");
+  decltype(::SetPlsClipboardReader)* setPlsClipboardReader =
+      BoundIfThere<decltype(::SetPlsClipboardReader)>(*library, "SetPlsClipboardReader");
 };
 
-LoadedPredictionLibrary::LoadedPredictionLibrary(const platform::DynamicLibraries& libraries)
-    : libraries_(libraries) {}
+LoadedPredictionLibrary::LoadedPredictionLibrary(const platform::DynamicLibraries& libraries,
+                                                 ClipboardText clipboard)
+    : libraries_(libraries), clipboard_(std::move(clipboard)) {}
 
 LoadedPredictionLibrary::~LoadedPredictionLibrary() = default;
 
@@ -106,7 +129,12 @@ std::int32_t LoadedPredictionLibrary::LoadAsciiDiskFile(std::int32_t handle, con
 }
 
 std::int32_t LoadedPredictionLibrary::LoadClipboardText(std::int32_t handle) {
-  return Call(Loaded().loadClipboardText, "LoadClipboardText", handle);
+  const Functions& functions = Loaded();
+  text_on_clipboard = clipboard_();
+  if (functions.setPlsClipboardReader != nullptr) functions.setPlsClipboardReader(ReadClipboard);
+  const std::int32_t code = Call(functions.loadClipboardText, "LoadClipboardText", handle);
+  text_on_clipboard.reset();
+  return code;
 }
 
 std::int32_t LoadedPredictionLibrary::LoadMemDouble(std::int32_t handle, const std::string& path) {

@@ -1,7 +1,9 @@
 // The prediction library as the machine has it: loaded by name at the first call.
 #pragma once
 
+#include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "pls/prediction_library.h"
@@ -16,7 +18,11 @@ namespace veritane::pls {
 // while the program runs. Error 7 when a function runs out of memory, 5 when it fails by any other exception.
 class LoadedPredictionLibrary : public PredictionLibrary {
 public:
-  explicit LoadedPredictionLibrary(const platform::DynamicLibraries& libraries);
+  // Gives the text on the clipboard, nothing when it holds none.
+  using ClipboardText = std::function<std::optional<std::string>()>;
+
+  // A library that asks for it gets the clipboard's text from `clipboard`; others read the system's own.
+  LoadedPredictionLibrary(const platform::DynamicLibraries& libraries, ClipboardText clipboard);
   ~LoadedPredictionLibrary() override;
 
   std::int32_t LoadCalFile(const std::string& path) override;
@@ -37,6 +43,7 @@ private:
   const Functions& Loaded();
 
   const platform::DynamicLibraries& libraries_;
+  const ClipboardText clipboard_;
   std::unique_ptr<const Functions> functions_;
 };
 

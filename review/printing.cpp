@@ -2,9 +2,8 @@
 #include "review/printing.h"
 
 #include <memory>
-#include <utility>
-#include <vector>
 
+#include "acquisition/opened_documents.h"
 #include "platform/run_time_error.h"
 #include "platform/windows_path.h"
 #include "review/chart_printout.h"
@@ -23,44 +22,6 @@ constexpr std::int32_t kDefinedByPosition = 2;
 
 constexpr std::int32_t kShown = -1;
 
-// Closes without saving what was opened for a print, however that ends.
-class OpenedDocuments {
-public:
-  OpenedDocuments() = default;
-  ~OpenedDocuments() {
-    for (const auto& document : documents_) {
-      try {
-        document->CloseDocument(false);
-      } catch (const RunTimeError&) {
-        // What cannot be closed is the application's to keep; how the print ended is what the user has to
-        // hear of.
-        continue;
-      }
-    }
-  }
-  OpenedDocuments(const OpenedDocuments&) = delete;
-  OpenedDocuments& operator=(const OpenedDocuments&) = delete;
-
-  void Add(std::shared_ptr<acquisition::Document> document) { documents_.push_back(std::move(document)); }
-  // The application may hand out another object for the document opened last.
-  void ReplaceLast(std::shared_ptr<acquisition::Document> document) {
-    documents_.back() = std::move(document);
-  }
-  void CloseLast() {
-    const auto document = documents_.back();
-    documents_.pop_back();
-    document->CloseDocument(false);
-  }
-
-private:
-  std::vector<std::shared_ptr<acquisition::Document>> documents_;
-};
-
-std::string LeafWithoutExtension(const std::string& path) {
-  const std::string leaf = platform::LeafName(path);
-  return leaf.substr(0, leaf.rfind('.'));
-}
-
 }  // namespace
 
 Printing::Printing(acquisition::Bench& bench) : bench_(bench), state_(bench.state), session_(bench.session) {}
@@ -73,7 +34,7 @@ void Printing::Print() {
 }
 
 void Printing::PrintChart() {
-  ChartPrintout printout("Spectrum " + LeafWithoutExtension(SampleFile()), bench_.panel.chart,
+  ChartPrintout printout("Spectrum " + platform::LeafWithoutExtension(SampleFile()), bench_.panel.chart,
                          bench_.panel.lblResult.Caption());
   bench_.desktop.Print(printout);
 }
@@ -89,15 +50,11 @@ void Printing::PrintByTemplate() {
 
 void Printing::PrintDocuments() {
   const bool has_standard = state_.algorithm != state::kPls;
-  OpenedDocuments opened;
-  session_.Open(SampleFile());
-  opened.Add(session_.CurrentDocument);
+  acquisition::OpenedDocuments opened;
+  opened.Open(session_, SampleFile());
   session_.CurrentDocument->SelectSpectrum(SpectrumToPrint());
   session_.CurrentDocument->PrepareSampleView();
-  if (has_standard) {
-    session_.Open(StandardFile());
-    opened.Add(session_.CurrentDocument);
-  }
+  if (has_standard) opened.Open(session_, StandardFile());
   std::shared_ptr<acquisition::MarkerList> markers;
   if (state_.algorithm == state::kMarkPeaks) {
     session_.CurrentDocument = session_.SpectrometerApp->ActiveDocument();
@@ -110,7 +67,7 @@ void Printing::PrintDocuments() {
   if (markers != nullptr) markers->ClearMarkers();
   markers.reset();
   session_.SpectrometerApp->Interactive(false);
-  opened.CloseLast();
+  opened.ReleaseLast()->CloseDocument(false);
   if (has_standard) {
     session_.CurrentDocument = session_.SpectrometerApp->OpenDocument(StandardFile());
     opened.Add(session_.CurrentDocument);

@@ -2,6 +2,7 @@
 #include "review/reprocessing.h"
 
 #include "acquisition/additional_file.h"
+#include "acquisition/opened_documents.h"
 #include "acquisition/product_table.h"
 #include "identification/judgement.h"
 #include "identification/pls_prediction.h"
@@ -28,52 +29,16 @@ constexpr std::int16_t kIndexInSingleSpectrumFile = 2;
 // The caption of the spectrum panel over a reprocessed result.
 constexpr int kReprocessedCaption = 88;
 
-// A document that is closed without saving when the workflow does not come to close it.
-class DocumentInUse {
-public:
-  DocumentInUse(acquisition::SpectrometerSession& session, const std::string& path) : session_(session) {
-    session_.Open(path);
-  }
-  ~DocumentInUse() {
-    if (!is_in_use_) return;
-    try {
-      session_.CurrentDocument->CloseDocument(false);
-    } catch (const platform::RunTimeError&) {
-      // The error that ended the workflow is on its way to the user already; the step that raised it may have
-      // closed the document as well.
-    }
-  }
-  DocumentInUse(const DocumentInUse&) = delete;
-  DocumentInUse& operator=(const DocumentInUse&) = delete;
-
-  acquisition::Document* operator->() const { return session_.CurrentDocument.get(); }
-
-  // Ends the use: the document is closed, or is about to be closed by the caller.
-  acquisition::Document& Release() {
-    is_in_use_ = false;
-    return *session_.CurrentDocument;
-  }
-
-private:
-  acquisition::SpectrometerSession& session_;
-  bool is_in_use_ = true;
-};
-
 std::string TextOf(acquisition::Spectrum& spectrum, const char* parameter) {
   const acquisition::ParameterValue value = spectrum.GetParameter(parameter)->Value();
   if (const auto* text = std::get_if<std::string>(&value)) return *text;
   return platform::PlainNumberText(std::get<double>(value));
 }
 
-std::string LeafWithoutExtension(const std::string& path) {
-  const std::string leaf = platform::LeafName(path);
-  return leaf.substr(0, leaf.rfind('.'));
-}
-
 // Once the spectrum is prepared as a sample run does it, the document is closed where that has not done so.
-void CloseAfterPreparation(const acquisition::Bench& bench, DocumentInUse& document) {
-  acquisition::Document& prepared = document.Release();
-  if (identification::LeavesDocumentOpen(bench.state.algorithm)) prepared.CloseDocument(false);
+void CloseAfterPreparation(const acquisition::Bench& bench, acquisition::OpenedDocuments& opened) {
+  const auto prepared = opened.ReleaseLast();
+  if (identification::LeavesDocumentOpen(bench.state.algorithm)) prepared->CloseDocument(false);
 }
 
 double FirstWavenumber(const state::SpectrumBuffer& spectrum) {
@@ -124,12 +89,13 @@ void Reprocessing::ChooseSample() {
 
   const acquisition::DrivenApplication driven(bench_);
   bench_.desktop.SetMousePointer(Pointer::kHourglass);
-  DocumentInUse document(session_, *path);
+  acquisition::OpenedDocuments opened;
+  opened.Open(session_, *path);
   session_.SpectrometerApp->Interactive(false);
-  document->SetDocumentShown(0);
+  session_.CurrentDocument->SetDocumentShown(0);
   bench_.desktop.SetMousePointer(Pointer::kDefault);
   const auto index = ChooseSpectrum();
-  document.Release().CloseDocument();
+  opened.ReleaseLast()->CloseDocument();
   if (!index) {
     names_.lblSampleName.SetCaption("");
     return;
@@ -170,12 +136,13 @@ void Reprocessing::Run(const std::string& algorithm) {
   } else if (!LoadStandard()) {
     return;
   }
-  DocumentInUse document(session_, state_.reprocesssampname);
+  acquisition::OpenedDocuments opened;
+  opened.Open(session_, state_.reprocesssampname);
   LoadSample();
-  if (algorithm != state::kPls) CloseAfterPreparation(bench_, document);
+  if (algorithm != state::kPls) CloseAfterPreparation(bench_, opened);
   if (algorithm != state::kPls && !IsComparable()) return;
   ShowResult();
-  if (algorithm == state::kPls) document.Release().CloseDocument(false);
+  if (algorithm == state::kPls) opened.ReleaseLast()->CloseDocument(false);
 }
 
 void Reprocessing::ForgetStandard() {
@@ -201,21 +168,22 @@ bool Reprocessing::AskForExtraFile(const std::string& algorithm) {
 
 bool Reprocessing::LoadStandard() {
   std::optional<StatusShown> status(std::in_place, bench_, Text(TextId::kLoadingStandard));
-  DocumentInUse document(session_, state_.reprocessStdName);
+  acquisition::OpenedDocuments opened;
+  opened.Open(session_, state_.reprocessStdName);
   state_.tmpRefName = state_.reprocessStdName;
-  document->SetDocumentShown(0);
-  document->SelectSpectrum(1);
+  session_.CurrentDocument->SetDocumentShown(0);
+  session_.CurrentDocument->SelectSpectrum(1);
   state_.Ref = session_.ReadSpectrum();
-  standard_name_ = LeafWithoutExtension(state_.reprocessStdName);
+  standard_name_ = platform::LeafWithoutExtension(state_.reprocessStdName);
   if (!FindCollectMethod()) {
     status.reset();
     state::Notice(bench_.desktop, TextId::kProductNotFound, MessageIcon::kCritical);
     ClearNames();
-    document.Release().CloseDocument(false);
+    opened.ReleaseLast()->CloseDocument(false);
     return false;
   }
   identification::PrepareSpectrum(bench_, state_.Ref, state_.ChartRefData, state_.RefFFTData);
-  CloseAfterPreparation(bench_, document);
+  CloseAfterPreparation(bench_, opened);
   return true;
 }
 

@@ -15,7 +15,7 @@ FrmVeritane::FrmVeritane(platform::Desktop& desktop, const platform::Machine& ma
     : MainControls(desktop),
       machine_(machine),
       create_spectrometer_app_(std::move(create_spectrometer_app)),
-      prediction_library_(machine.libraries),
+      prediction_library_(machine.libraries, [&desktop] { return desktop.ClipboardText(); }),
       dialogs_(
           desktop,
           [this] {

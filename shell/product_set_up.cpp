@@ -1,4 +1,5 @@
 // The tabs on which a supervisor sets up collect methods and products.
+#include "acquisition/additional_file.h"
 #include "acquisition/product_key.h"
 #include "acquisition/standard_collection.h"
 #include "shell/frm_veritane.h"
@@ -19,6 +20,12 @@ void FrmVeritane::ConnectSetUpHandlers() {
   cmdParse.OnClick = [this] { cmdParse_Click(); };
   dialogs_.frmParse.Define = [this](const std::string& example, const std::string& part) {
     acquisition::DefineProductKey(machine_, state_.folderSet, example, part);
+  };
+  dialogs_.frmCollectStd.WhyNotAProduct = [this](const std::string& product_id) {
+    return acquisition::WhyNotAProduct(machine_.files, state_, product_id);
+  };
+  dialogs_.frmCollectStd.ChooseFile = [this](const std::string& algorithm) {
+    return acquisition::ChooseAdditionalFile(Screen(), state_.folders, algorithm);
   };
   dialogs_.frmParse.Reset = [this] { acquisition::DeleteProductKeyDefinition(machine_, state_.folderSet); };
 }

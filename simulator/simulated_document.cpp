@@ -66,8 +66,7 @@ std::string TimeText(const platform::DateTime& moment) {
 }
 
 std::string NameInDocument(const std::string& path, std::size_t number) {
-  const std::string leaf = platform::LeafName(path);
-  return leaf.substr(0, leaf.rfind('.')) + " " + std::to_string(number);
+  return platform::LeafWithoutExtension(path) + " " + std::to_string(number);
 }
 
 }  // namespace

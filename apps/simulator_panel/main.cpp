@@ -59,13 +59,8 @@ int Run(const apps::CommandLine& line, int argument_count, char** arguments) {
 }  // namespace
 
 int main(int argument_count, char** arguments) {
-  try {
-    return Run(apps::CommandLine(argument_count, arguments, {"--root"}, 0), argument_count, arguments);
-  } catch (const apps::UsageError& error) {
-    std::cerr << "simulator-panel: " << error.what() << "\nusage: simulator-panel [--root DIR]\n";
-    return 2;
-  } catch (const std::exception& error) {
-    std::cerr << "simulator-panel: " << error.what() << '\n';
-    return 1;
-  }
+  return apps::RunProgram(
+      {.name = "simulator-panel", .usage = "usage: simulator-panel [--root DIR]\n", .options = {"--root"}},
+      argument_count, arguments,
+      [&](const apps::CommandLine& line) { return Run(line, argument_count, arguments); });
 }

@@ -69,14 +69,6 @@ int Run(int argument_count, char** arguments) {
 }  // namespace
 
 int main(int argument_count, char** arguments) {
-  try {
-    const apps::CommandLine line(argument_count, arguments, {}, 0);
-    return Run(argument_count, arguments);
-  } catch (const apps::UsageError& error) {
-    std::cerr << "veritane: " << error.what() << "\nusage: veritane\n";
-    return 2;
-  } catch (const std::exception& error) {
-    std::cerr << "veritane: " << error.what() << '\n';
-    return 1;
-  }
+  return apps::RunProgram({.name = "veritane", .usage = "usage: veritane\n"}, argument_count, arguments,
+                          [&](const apps::CommandLine&) { return Run(argument_count, arguments); });
 }

@@ -1,5 +1,4 @@
 // veritane-calibrate: builds a calibration from spectra and reference values.
-#include <algorithm>
 #include <iostream>
 
 #include "apps/command_line.h"
@@ -71,23 +70,11 @@ int Calibrate(const CommandLine& line) {
 }  // namespace
 
 int main(int argument_count, char** arguments) {
-  if (std::ranges::any_of(arguments + 1, arguments + argument_count,
-                          [](std::string_view argument) { return argument == "--help"; })) {
-    std::cout << kUsage;
-    return 0;
-  }
-  try {
-    return Calibrate(
-        CommandLine(argument_count, arguments,
-                    {"--reference", "--constituent", "--rows", "--factors", "--max-factors", "--cv",
-                     "--range", "--scale", "--x-unit", "--y-unit", "--memo", "--out", "--add-to", "--report"},
-                    100'000));
-  } catch (const UsageError& error) {
-    std::cerr << "veritane-calibrate: " << error.what()
-              << "\nveritane-calibrate --help tells how it is used.\n";
-    return 2;
-  } catch (const std::exception& error) {
-    std::cerr << "veritane-calibrate: " << error.what() << '\n';
-    return 1;
-  }
+  return veritane::apps::RunProgram(
+      {.name = "veritane-calibrate",
+       .usage = kUsage,
+       .options = {"--reference", "--constituent", "--rows", "--factors", "--max-factors", "--cv", "--range",
+                   "--scale", "--x-unit", "--y-unit", "--memo", "--out", "--add-to", "--report"},
+       .mostWords = 100'000},
+      argument_count, arguments, Calibrate);
 }

@@ -66,13 +66,9 @@ int Run(const apps::CommandLine& line) {
 }  // namespace
 
 int main(int argument_count, char** arguments) {
-  try {
-    return Run(apps::CommandLine(argument_count, arguments, {"--root", "--now", "--locale"}, 1));
-  } catch (const apps::UsageError& error) {
-    std::cerr << "veritane-console: " << error.what() << '\n' << kUsage;
-    return 1;
-  } catch (const std::exception& error) {
-    std::cerr << "veritane-console: " << error.what() << '\n';
-    return 1;
-  }
+  return apps::RunProgram({.name = "veritane-console",
+                           .usage = kUsage,
+                           .options = {"--root", "--now", "--locale"},
+                           .mostWords = 1},
+                          argument_count, arguments, Run);
 }

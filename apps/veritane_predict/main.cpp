@@ -1,5 +1,4 @@
 // veritane-predict: applies a calibration to spectra.
-#include <algorithm>
 #include <charconv>
 #include <iostream>
 #include <nlohmann/json.hpp>
@@ -96,19 +95,9 @@ int PredictSamples(const CommandLine& line) {
 }  // namespace
 
 int main(int argument_count, char** arguments) {
-  if (std::ranges::any_of(arguments + 1, arguments + argument_count,
-                          [](std::string_view argument) { return argument == "--help"; })) {
-    std::cout << kUsage;
-    return 0;
-  }
-  try {
-    return PredictSamples(
-        CommandLine(argument_count, arguments, {"--rows", "--calibration", "--report"}, 100'000));
-  } catch (const UsageError& error) {
-    std::cerr << "veritane-predict: " << error.what() << "\nveritane-predict --help tells how it is used.\n";
-    return 2;
-  } catch (const std::exception& error) {
-    std::cerr << "veritane-predict: " << error.what() << '\n';
-    return 1;
-  }
+  return veritane::apps::RunProgram({.name = "veritane-predict",
+                                     .usage = kUsage,
+                                     .options = {"--rows", "--calibration", "--report"},
+                                     .mostWords = 100'000},
+                                    argument_count, arguments, PredictSamples);
 }

@@ -30,13 +30,7 @@ int SetUp(const veritane::apps::CommandLine& line) {
 }  // namespace
 
 int main(int argument_count, char** arguments) {
-  try {
-    return SetUp(veritane::apps::CommandLine(argument_count, arguments, {"--root", "--mode"}, 0));
-  } catch (const veritane::apps::UsageError& error) {
-    std::cerr << "veritane-setup: " << error.what() << '\n' << kUsage;
-    return 2;
-  } catch (const std::exception& error) {
-    std::cerr << "veritane-setup: " << error.what() << '\n';
-    return 1;
-  }
+  return veritane::apps::RunProgram(
+      {.name = "veritane-setup", .usage = kUsage, .options = {"--root", "--mode"}}, argument_count, arguments,
+      SetUp);
 }

@@ -81,6 +81,7 @@ public:
   void NotePrint(PrintKind kind, const std::string& file) override;
   // There is no clipboard: the script is told that the picture was asked for.
   void CopyPicture(const Control& control) override;
+  std::optional<std::string> ClipboardText() override { return std::nullopt; }
   void NoteError(const RunTimeError& error) override;
   void End(int exit_status) override { exit_status_ = exit_status; }
 

@@ -13,10 +13,10 @@
 #include "platform/control.h"
 #include "platform/form.h"
 #include "platform/run_time_error.h"
+#include "platform/wx/clipboard.h"
 #include "platform/wx/file_filter.h"
 #include "platform/wx/form_window.h"
 #include "platform/wx/message_dialog.h"
-#include "platform/wx/panel_picture.h"
 #include "platform/wx/wx_text.h"
 
 namespace veritane::platform {
@@ -117,6 +117,10 @@ void WxUserInterface::CopyPicture(const Control& control) {
       window == nullptr ? nullptr : wxWindow::FindWindowByName(ToWx(control.Name()), window->Window());
   if (part == nullptr) throw RunTimeError(ErrorNumber::kDeviceError, control.Name() + " is not on screen");
   CopyToClipboard(*part);
+}
+
+std::optional<std::string> WxUserInterface::ClipboardText() {
+  return TextOnClipboard();
 }
 
 void WxUserInterface::NoteError(const RunTimeError& error) {

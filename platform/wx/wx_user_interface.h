@@ -38,6 +38,7 @@ public:
   // Where a file was written the user is told of it; a printer speaks for itself.
   void NotePrint(PrintKind kind, const std::string& file) override;
   void CopyPicture(const Control& control) override;
+  std::optional<std::string> ClipboardText() override;
   // Writes the error to standard error; the message box comes from the dispatcher.
   void NoteError(const RunTimeError& error) override;
   // Closes all loops. Message boxes from now on answer themselves with the choice that changes nothing.

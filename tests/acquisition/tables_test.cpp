@@ -9,6 +9,7 @@
 #include "acquisition/product_table.h"
 #include "acquisition/prompts.h"
 #include "platform/posix/posix_machine.h"
+#include "platform/text_file.h"
 #include "tests/support/errors.h"
 #include "tests/support/temporary_folder.h"
 
@@ -52,10 +53,13 @@ TEST(MethodList, ShortNamesAreTheLeafWithoutItsExtension) {
   EXPECT_EQ(MethodShortName("C:\\x\\Tablet A.clm", "old"), "Tablet A");
   EXPECT_EQ(MethodShortName("Tablet A.clm", "old"), "old") << "without a folder the name before stays";
   EXPECT_EQ(MethodShortName("C:\\a", "old"), "");
-  EXPECT_EQ(MethodListText({"C:\\x\\A,B.clm"}), " 1 \r\nC:\\x\\A,B.clm\r\n");
-  EXPECT_THAT(ReadMethodList(" 2 \r\nC:\\x\\A,B.clm\r\nD:\\c.clm"),
+}
+
+TEST(CountedLines, AreTheirNumberAndThenALineAnEntryAsItStands) {
+  EXPECT_EQ(platform::CountedLines({"C:\\x\\A,B.clm"}), " 1 \r\nC:\\x\\A,B.clm\r\n");
+  EXPECT_THAT(platform::ReadCountedLines(" 2 \r\nC:\\x\\A,B.clm\r\nD:\\c.clm", ""),
               ElementsAre("C:\\x\\A,B.clm", "D:\\c.clm"));
-  EXPECT_EQ(ErrorOf([] { ReadMethodList(" 2 \r\nC:\\x\\A.clm\r\n"); }), 62);
+  EXPECT_EQ(ErrorOf([] { platform::ReadCountedLines(" 2 \r\nC:\\x\\A.clm\r\n", ""); }), 62);
 }
 
 class SmallFilesTest : public ::testing::Test {

@@ -26,6 +26,7 @@ public:
   void ProcessPendingEvents() override {}
   void NotePrint(PrintKind, const std::string&) override {}
   void CopyPicture(const Control&) override {}
+  std::optional<std::string> ClipboardText() override { return std::nullopt; }
   void NoteError(const RunTimeError&) override {}
   void End(int) override {}
 };

@@ -44,7 +44,7 @@ protected:
   tests::TemporaryFolder folder_;
   platform::PosixMachine files_{folder_.Path(), "C"};
   platform::DynamicLibraryLoader libraries_{files_.paths, Programs()};
-  LoadedPredictionLibrary library_{libraries_};
+  LoadedPredictionLibrary library_{libraries_, [] { return std::nullopt; }};
 };
 
 TEST_F(Binding, EachFunctionReachesTheLibraryWithItsArguments) {

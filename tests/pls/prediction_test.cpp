@@ -4,6 +4,7 @@
 
 #include <filesystem>
 
+#include "platform/number_text.h"
 #include "platform/posix/posix_machine.h"
 #include "pls/loaded_prediction_library.h"
 #include "pls/main_form.h"
@@ -59,7 +60,8 @@ protected:
   tests::TemporaryFolder folder_;
   platform::PosixMachine machine_{folder_.Path(), "C"};
   platform::DynamicLibraryLoader libraries_{machine_.paths, Programs()};
-  LoadedPredictionLibrary library_{libraries_};
+  std::optional<std::string> clipboard_;
+  LoadedPredictionLibrary library_{libraries_, [this] { return clipboard_; }};
   state::ProgramState state_;
   NotingScreen screen_;
   platform::Desktop desktop_{screen_};
@@ -115,6 +117,27 @@ TEST_F(Prediction, TheSecondCalibrationOfAFileIsReachedThroughTheWrapper) {
   }
   EXPECT_EQ(pls.GetBands(values, size), 0);
   EXPECT_EQ(size, 10);
+}
+
+TEST_F(Prediction, TextOnTheClipboardIsASpectrumToo) {
+  const Eigen::MatrixXd reference = plslibrary::NumbersOf("gasoline_reference_predictions.csv");
+  PLSPred pls(library_, desktop_);
+  pls.LoadCalFile(state_.calfilename);
+  EXPECT_EQ(pls.LoadClipboardText(), 4) << "there is no text";
+  clipboard_ = "wavelength\tabsorbance\r\n";
+  for (Eigen::Index point = 0; point < gasoline_.spectra.cols(); ++point) {
+    const double x = gasoline_.axis.firstX + 2.0 * static_cast<double>(point);
+    *clipboard_ += platform::PlainNumberText(x) + "\t" +
+                   platform::PlainNumberText(gasoline_.spectra(kFirstPredicted, point)) + "\r\n";
+  }
+  ASSERT_EQ(pls.LoadClipboardText(), 0);
+  ASSERT_EQ(pls.PlsIqPredic(1), 0);
+  Array values;
+  std::int32_t size = 0;
+  ASSERT_EQ(pls.GetConcentration(values, size), 0);
+  EXPECT_NEAR(values[0], reference(0, 1 + kFactors), 1e-6);
+  clipboard_ = "drum 7";
+  EXPECT_EQ(pls.LoadClipboardText(), 5);
 }
 
 TEST_F(Prediction, ASpectrumOfAnotherRangeIsRefusedAndGivesNoResult) {

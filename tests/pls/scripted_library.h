@@ -118,6 +118,7 @@ public:
   void ProcessPendingEvents() override {}
   void NotePrint(platform::PrintKind, const std::string&) override {}
   void CopyPicture(const platform::Control&) override {}
+  std::optional<std::string> ClipboardText() override { return std::nullopt; }
   void NoteError(const platform::RunTimeError&) override {}
   void End(int) override {}
 };

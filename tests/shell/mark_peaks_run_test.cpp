@@ -59,10 +59,7 @@ TEST_F(MarkPeaksRunTest, ADemonstrationMarksThePeaksAndJudgesNothing) {
 
 TEST_F(MarkPeaksRunTest, MeasuredSamplesAreFiledOneAfterAnotherAndNoDocumentStaysOpen) {
   WriteSettings(false);
-  const std::string method = "From = 400\r\nTo = 1600\r\nSpacing = 4\r\n";
-  Write(Standard("Disc.clm"), method);
-  Write(Standard("Initial.clm"), method);
-  WriteSpectrum(Standard("Autoalign.bsp"), 100, 4, Bands(301));
+  WriteMeasuringMethod();
   WriteSpectrum(Standard("PS.bsp"), 100, 4, Bands(301));
   bench_.SampleCompartment().Write({.sample = "polystyrene", .noise = 0, .duration = 0, .seed = 1});
   RunDemonstration("PS");

@@ -18,13 +18,10 @@ using ::testing::StartsWith;
 class MeasuredRunTest : public ProgramTest {
 protected:
   void SetUp() override {
-    const std::string method = "From = 400\r\nTo = 1600\r\nSpacing = 4\r\n";
     WriteSettings(false);
     WriteProducts({"PS,Disc,Euclidean,"});
-    Write(Standard("Disc.clm"), method);
-    Write(Standard("Initial.clm"), method);
+    WriteMeasuringMethod();
     Write(Standard("Disc.pro"), " Empty it.\r\n Fill it.\r\n");
-    WriteSpectrum(Standard("Autoalign.bsp"), 100, 4, Bands(301));
     WriteSpectrum(Standard("PS.bsp"), 100, 4, Bands(301));
     SetInstrument("polystyrene");
     Play({"start"});

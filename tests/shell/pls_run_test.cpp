@@ -1,7 +1,6 @@
 // "PLS" in a sample run, for a new Standard and in reprocessing, on the data that ship.
 #include <algorithm>
 
-#include "apps/veritane_setup/data_layout.h"
 #include "plslibrary/calibration_file.h"
 #include "simulator/collect_method.h"
 #include "simulator/spectrum_file.h"
@@ -19,15 +18,7 @@ using ::testing::StartsWith;
 class PlsRunTest : public ProgramTest {
 protected:
   void SetUp() override {
-    machine_.files.DeleteFile(Data("Meth.tbl"));
-    machine_.files.DeleteFile(Data("Meths.tbl"));
-    setup::LayOutData({.files = machine_.files,
-                       .registry = machine_.registry,
-                       .folders = folders_,
-                       .user = machine_.user,
-                       .clock = machine_.clock,
-                       .regional = machine_.regional,
-                       .libraries = libraries_});
+    LayOutShippedData();
     WriteSettings(false);
     SetInstrument("empty");
     Play({"start"});

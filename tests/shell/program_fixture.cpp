@@ -5,6 +5,7 @@
 #include <fstream>
 #include <iterator>
 
+#include "apps/veritane_setup/data_layout.h"
 #include "simulator/jcamp_writer.h"
 #include "simulator/stored_spectrum.h"
 
@@ -29,18 +30,34 @@ ProgramTest::ProgramTest() {
 std::function<void()> ProgramTest::Starter(platform::ScriptRun& run,
                                            std::unique_ptr<shell::FrmVeritane>& program) {
   return [this, &run, &program] {
-    const platform::Machine machine{.files = machine_.files,
-                                    .registry = machine_.registry,
-                                    .folders = folders_,
-                                    .user = machine_.user,
-                                    .clock = machine_.clock,
-                                    .regional = machine_.regional,
-                                    .libraries = libraries_};
     run.Screen().UsePrinter(printer_);
     program = std::make_unique<shell::FrmVeritane>(
-        run.Screen(), machine, [this](const std::string& prog_id) { return bench_.Create(prog_id); });
+        run.Screen(), Facilities(), [this](const std::string& prog_id) { return bench_.Create(prog_id); });
     program->Form_Load();
   };
+}
+
+platform::Machine ProgramTest::Facilities() {
+  return {.files = machine_.files,
+          .registry = machine_.registry,
+          .folders = folders_,
+          .user = machine_.user,
+          .clock = machine_.clock,
+          .regional = machine_.regional,
+          .libraries = libraries_};
+}
+
+void ProgramTest::LayOutShippedData() {
+  machine_.files.DeleteFile(Data("Meth.tbl"));
+  machine_.files.DeleteFile(Data("Meths.tbl"));
+  setup::LayOutData(Facilities());
+}
+
+void ProgramTest::WriteMeasuringMethod() {
+  const std::string method = "From = 400\r\nTo = 1600\r\nSpacing = 4\r\n";
+  Write(Standard("Disc.clm"), method);
+  Write(Standard("Initial.clm"), method);
+  WriteSpectrum(Standard("Autoalign.bsp"), 100, 4, Bands(301));
 }
 
 void ProgramTest::WriteSettings(bool demonstration, const std::string& threshold,

@@ -15,19 +15,9 @@
 #include "platform/scripted/script_run.h"
 #include "shell/frm_veritane.h"
 #include "tests/support/temporary_folder.h"
+#include "tests/support/test_folders.h"
 
 namespace veritane::tests {
-
-// Folders as the tests want them: the program's own folder lies below the data root too.
-class TestFolders : public platform::ShellFolders {
-public:
-  std::string CommonApplicationData(bool create) const override {
-    return commonDataMissing && !create ? "" : "C:\\ProgramData";
-  }
-  std::string ProgramFolder() const override { return "C:\\Program"; }
-
-  bool commonDataMissing = false;
-};
 
 class ProgramTest : public ::testing::Test {
 protected:
@@ -48,6 +38,12 @@ protected:
   // Ten lines of settings; the threshold and whether the program demonstrates.
   void WriteSettings(bool demonstration, const std::string& threshold = "90",
                      const std::string& background = "1");
+  platform::Machine Facilities();
+  // Puts what ships in place of the empty data folder.
+  void LayOutShippedData();
+  // What measuring by the method "Disc" takes: the method, 301 points from 400 cm⁻¹ on, and the
+  // calibration's.
+  void WriteMeasuringMethod();
   // The product table with these rows ("ID,method,algorithm,file").
   void WriteProducts(const std::vector<std::string>& rows);
   // A spectrum file with the given ordinates from point `lower` on.

@@ -10,10 +10,7 @@ using ::testing::IsEmpty;
 class SettingsTest : public ProgramTest {
 protected:
   // A start that measures would need an instrument; these tests look at the settings alone.
-  void SetUp() override {
-    WriteSpectrum(Standard("Autoalign.bsp"), 100, 4, Bands(300));
-    Write(Standard("Initial.clm"), "From = 400\r\nTo = 1600\r\nSpacing = 4\r\n");
-  }
+  void SetUp() override { WriteMeasuringMethod(); }
 };
 
 TEST_F(SettingsTest, AMissingOrDamagedFileGivesTheDefaultsAndIsWrittenAtOnceFromTheControlsAsTheyStood) {

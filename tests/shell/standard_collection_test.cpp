@@ -12,12 +12,9 @@ using ::testing::IsEmpty;
 class StandardTest : public ProgramTest {
 protected:
   void SetUp() override {
-    const std::string method = "From = 400\r\nTo = 1600\r\nSpacing = 4\r\n";
     WriteSettings(false);
-    Write(Standard("Disc.clm"), method);
-    Write(Standard("Initial.clm"), method);
+    WriteMeasuringMethod();
     Write(Standard("Disc.pro"), " Empty it.\r\n\r\n");
-    WriteSpectrum(Standard("Autoalign.bsp"), 100, 4, Bands(301));
     SetInstrument("empty");
   }
 

@@ -12,11 +12,6 @@ using ::testing::IsEmpty;
 
 class StartUpTest : public ProgramTest {
 protected:
-  // What a measuring start needs besides the tables.
-  void WriteCalibration() {
-    WriteSpectrum(Standard("Autoalign.bsp"), 100, 4, Bands(300));
-    Write(Standard("Initial.clm"), "From = 400\r\nTo = 1600\r\nSpacing = 4\r\n");
-  }
   void SetFault(int number, int count) {
     auto state = bench_.SampleCompartment().Read();
     state.fault = number;
@@ -27,7 +22,7 @@ protected:
 
 TEST_F(StartUpTest, AMeasuringStartCalibratesAgainstTheAlignmentSpectrumAndLeavesItsFileAlone) {
   WriteSettings(false);
-  WriteCalibration();
+  WriteMeasuringMethod();
   const std::string alignment = Read(Standard("Autoalign.bsp"));
   const auto events = Play({"start"});
   EXPECT_THAT(events.Messages(), IsEmpty());
@@ -45,7 +40,7 @@ TEST_F(StartUpTest, AMeasuringStartCalibratesAgainstTheAlignmentSpectrumAndLeave
 
 TEST_F(StartUpTest, ACalibrationThatFailsOnceTellsAYoungerInstrumentApart) {
   WriteSettings(false);
-  WriteCalibration();
+  WriteMeasuringMethod();
   SetFault(5, 1);
   EXPECT_THAT(Play({"start"}).Messages(), IsEmpty());
   EXPECT_EQ(program_->State().isVantor, state::kFalse);
@@ -57,7 +52,7 @@ TEST_F(StartUpTest, ACalibrationThatFailsOnceTellsAYoungerInstrumentApart) {
 
 TEST_F(StartUpTest, ACalibrationThatFailsTwiceIsReportedAndTheOperatorScreenOpensAllTheSame) {
   WriteSettings(false);
-  WriteCalibration();
+  WriteMeasuringMethod();
   SetFault(77, 2);
   const auto events = Play({"start", "answer OK"});
   EXPECT_THAT(events.Messages(), ElementsAre(" Spectrometer reported an error. Error #77"));
@@ -73,7 +68,7 @@ TEST_F(StartUpTest, ACalibrationThatFailsTwiceIsReportedAndTheOperatorScreenOpen
 
 TEST_F(StartUpTest, WithoutItsCalibrationMethodTheProgramSaysSoAndEnds) {
   WriteSettings(false);
-  WriteCalibration();
+  WriteMeasuringMethod();
   machine_.files.DeleteFile(Standard("Initial.clm"));
   const auto events = Play({"start", "answer OK"});
   EXPECT_THAT(

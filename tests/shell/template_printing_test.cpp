@@ -2,7 +2,6 @@
 // what is left when it fails. On the data that ship.
 #include <algorithm>
 
-#include "apps/veritane_setup/data_layout.h"
 #include "simulator/spectrum_file.h"
 #include "tests/shell/program_fixture.h"
 #include "tests/support/pdf_text.h"
@@ -22,15 +21,7 @@ using ::testing::SizeIs;
 class TemplatePrintingTest : public ProgramTest {
 protected:
   void SetUp() override {
-    machine_.files.DeleteFile(Data("Meth.tbl"));
-    machine_.files.DeleteFile(Data("Meths.tbl"));
-    setup::LayOutData({.files = machine_.files,
-                       .registry = machine_.registry,
-                       .folders = folders_,
-                       .user = machine_.user,
-                       .clock = machine_.clock,
-                       .regional = machine_.regional,
-                       .libraries = libraries_});
+    LayOutShippedData();
     // Template printing, by the template that ships.
     Write(Data("settings.ini"), "0\r\n0\r\n\r\n1\r\n0\r\n90\r\n1\r\n" + kTemplate + "\r\n1\r\n1\r\n");
     Compartment("empty");

@@ -13,6 +13,7 @@
 #include "platform/pdf/pdf_printer.h"
 #include "shell/frm_veritane.h"
 #include "tests/support/temporary_folder.h"
+#include "tests/support/test_folders.h"
 #include "tests/window/window_test.h"
 
 namespace veritane::platform {
@@ -45,9 +46,9 @@ inline bool DialogShows(const std::string& text) {
 class ProgramWindowTest : public WindowTest {
 protected:
   explicit ProgramWindowTest(bool is_demonstration) {
-    std::filesystem::create_directories(folder_.Path() / "drive_c");
-    setup::LayOutData(machine_.Facilities());
-    setup::SetDemonstrationMode(machine_.Facilities(), is_demonstration);
+    std::filesystem::create_directories(folder_.Path() / "drive_c" / "Program");
+    setup::LayOutData(Facilities());
+    setup::SetDemonstrationMode(Facilities(), is_demonstration);
     bench_.SampleCompartment().Write({.sample = "empty", .duration = 0, .seed = 1});
     desktop_.UsePrinter(printer_);
     main_.Form_Load();
@@ -90,10 +91,21 @@ protected:
     return false;
   }
 
+  Machine Facilities() {
+    return {.files = machine_.files,
+            .registry = machine_.registry,
+            .folders = folders_,
+            .user = machine_.user,
+            .clock = machine_.clock,
+            .regional = machine_.regional,
+            .libraries = machine_.libraries};
+  }
+
   tests::TemporaryFolder folder_;
   PosixMachine machine_{folder_.Path(), "C"};
+  tests::TestFolders folders_;
   apps::SimulatedBench bench_{machine_, [](std::chrono::milliseconds) {}};
-  shell::FrmVeritane main_{desktop_, machine_.Facilities(),
+  shell::FrmVeritane main_{desktop_, Facilities(),
                            [this](const std::string& prog_id) { return bench_.Create(prog_id); }};
   // There is no printer: everything goes into files.
   PdfPrinter printer_{machine_.files, machine_.clock, [this] { return main_.PrintFolder(); }};

@@ -85,7 +85,7 @@ TEST_F(SupervisorWindowTest, ThePartOfAProductIdIsHighlightedWithMouseOrKeyboard
   Press('I', wxMOD_ALT);
   ASSERT_EQ(main_.SSTab1.Tab(), shell::kOptionsTab);
   auto& example = On<TextBox>("frmParse", "txtTmpProductID");
-  const std::string definition = machine_.Facilities().folders.ProgramFolder() + "\\Standards\\ProductID.par";
+  const std::string definition = folders_.ProgramFolder() + "\\Standards\\ProductID.par";
   PlayAlong({{"the dialog", [] { return FocusIsIn("txtTmpProductID"); },
               [&] { mouse_and_keys_.Text("lot-asa-26"); }},
              // A scanner ends its code with Enter.

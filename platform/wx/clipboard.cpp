@@ -1,5 +1,5 @@
 // Taking the picture and handing it over.
-#include "platform/wx/panel_picture.h"
+#include "platform/wx/clipboard.h"
 
 #include <wx/bitmap.h>
 #include <wx/clipbrd.h>
@@ -51,6 +51,15 @@ void CopyToClipboard(wxWindow& part) {
   }
   // The picture stays for other programs when this one ends, where the system can do that.
   wxTheClipboard->Flush();
+}
+
+std::optional<std::string> TextOnClipboard() {
+  const wxClipboardLocker clipboard;
+  wxTextDataObject text;
+  if (!clipboard || !wxTheClipboard->IsSupported(wxDF_UNICODETEXT) || !wxTheClipboard->GetData(text)) {
+    return std::nullopt;
+  }
+  return text.GetText().utf8_string();
 }
 
 }  // namespace veritane::platform
