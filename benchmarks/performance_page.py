@@ -1,8 +1,8 @@
 #!/usr/bin/python3
 """Writes docs/performance.md from the results of the benchmarks, of numpy_comparison.py, of
-reprocess_benchmark.py and of pls_comparison.py.
+reprocess_benchmark.py, of pls_comparison.py and of load_benchmark.py.
 
-    performance_page.py BENCHMARKS.json NUMPY.json REPROCESS.json PLS.json COMPILER PAGE
+    performance_page.py BENCHMARKS.json NUMPY.json REPROCESS.json PLS.json LOAD.json COMPILER PAGE
 """
 import json
 import math
@@ -82,6 +82,28 @@ def pls_lines(times, reference):
     return lines + [""]
 
 
+def load_lines(results):
+    """The section on much work: time and memory must not grow with what was done before."""
+    samples, rows, fine = results["samples"], results["rows"], results["long"]
+    return [
+        "## Much work", "",
+        f"Wall time through `veritane-console`, files on disk, an instrument that takes no time. Load average before the "
+        f"run: {results['load']}.", "",
+        "| | |", "|---|---:|",
+        f"| {samples['samples']:,} samples of one product in a row: full files moved aside | {samples['full_files']} |",
+        f"| A sample, mean of the first tenth | {samples['first_tenth_ms']:.3g} ms |",
+        f"| A sample, mean of the last tenth | {samples['last_tenth_ms']:.3g} ms |",
+        f"| The longest of all | {samples['longest_ms']:.3g} ms |",
+        f"| Memory after each tenth | {', '.join(f'{value:.0f}' for value in samples['memory_mb'])} MB |",
+        f"| The most memory at any moment | {samples['most_mb']:.0f} MB |",
+        f"| Open files after each tenth, at most | {max(samples['open_files'])} |",
+        f"| Start with 10,000 products and 1,000 collect methods | {rows['start_ms']:.3g} ms |",
+        f"| Supervisor mode up to the first product of these | {rows['supervisor_ms']:.3g} ms |",
+        f"| Memory with them | {rows['memory_mb']:.0f} MB |",
+        f"| A sample of {fine['points']:,} points, median of ten in one file | {fine['median_ms']:.3g} ms |", "",
+    ]
+
+
 def by_hand(page):
     """The section that a person measured in the window, as it stands on the page."""
     text = page.read_text(encoding="utf-8") if page.exists() else ""
@@ -94,7 +116,8 @@ def main():
     numpy = json.loads(pathlib.Path(sys.argv[2]).read_text())
     reprocess = json.loads(pathlib.Path(sys.argv[3]).read_text())
     pls = json.loads(pathlib.Path(sys.argv[4]).read_text())
-    compiler, page = sys.argv[5], pathlib.Path(sys.argv[6])
+    load = json.loads(pathlib.Path(sys.argv[5]).read_text())
+    compiler, page = sys.argv[6], pathlib.Path(sys.argv[7])
 
     times, rates, qualities, pls_results = {}, {}, set(), {}
     for run in benchmarks["benchmarks"]:
@@ -138,7 +161,7 @@ def main():
         f"regions and correlate it with the Standard; both find {numpy['quality']} %. The program takes "
         f"{euclidean[0] / numpy['best_ns']:.2f} of numpy's time (best runs).", "",
         "Times are processor time over repetitions of one run each; documents and tables are in memory.", "",
-    ] + pls_lines(times, pls) + reprocessing_lines(reprocess)
+    ] + pls_lines(times, pls) + reprocessing_lines(reprocess) + load_lines(load)
     page.write_text("\n".join(lines) + by_hand(page), encoding="utf-8")
 
 

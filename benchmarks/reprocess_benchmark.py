@@ -13,51 +13,22 @@ import json
 import os
 import statistics
 import subprocess
-import sys
 import tempfile
 import time
 from pathlib import Path
 
-DATA = "C:\\ProgramData\\Kestrova\\Veritane\\"
+from console import DATA, Console
+
 PRODUCT = "POLYSTYRENE"
 ALGORITHMS = ("Euclidean", "Fourier", "Lumivar")
-
-
-class Console:
-    """The program, one line at a time."""
-
-    def __init__(self, program, root):
-        self.process = subprocess.Popen([program, "--root", root], stdin=subprocess.PIPE, stdout=subprocess.PIPE,
-                                        text=True, encoding="utf-8", bufsize=1)
-
-    def send(self, *lines):
-        for line in lines:
-            self.process.stdin.write(line + "\n")
-        self.process.stdin.flush()
-
-    def wait_for(self, **wanted):
-        """Reads events up to the one with these members."""
-        for line in self.process.stdout:
-            event = json.loads(line)
-            if event.get("event") in ("error", "refused", "exit"):
-                sys.exit(f"waiting for {wanted}: {line}")
-            if wanted.items() <= event.items():
-                return
-        sys.exit(f"the program ended before {wanted}")
 
 
 def measure_samples(console, count):
     """Files `count` spectra of one product. The first needs a background, which is announced and told done."""
     console.send("app duration 0", "app seed 1", "app sample \"empty\"", "start", "app accessory ATR")
     for number in range(count):
-        console.send("click frmVeritane.cmdSample", f"choose frmSamp.cmbStandards \"{PRODUCT}\"",
-                     f"type frmSamp.txtSampName \"Sample {number + 1}\"", "type frmSamp.txtOperatorName \"Ann\"",
-                     "click frmSamp.cmdProductIDOkay")
-        if number == 0:
-            console.send("answer OK", "answer OK", "app sample \"polystyrene\"")
-        console.send("answer OK")
-        console.wait_for(event="panel", name="fraSpectrum", shown=True)
-        console.send("click frmVeritane.cmdBacktoMainMenu")
+        background = ("answer OK", "answer OK", "app sample \"polystyrene\"") if number == 0 else ()
+        console.measure(PRODUCT, f"Sample {number + 1}", (*background, "answer OK"))
 
 
 def reprocess(console, index, algorithm):
@@ -103,11 +74,7 @@ def main():
                     list_time, chart_time = reprocess(console, index, algorithm)
                     times["list"].append(list_time * 1000)
                     times[algorithm].append(chart_time * 1000)
-        console.send("click frmVeritane.cmdExit")
-        console.process.stdin.close()
-        console.process.stdout.read()
-        if console.process.wait() != 0:
-            sys.exit(f"the program ended with {console.process.returncode}")
+        console.end()
 
     print(json.dumps({"samples": options.samples, "load": round(load, 2),
                       "median_ms": {name: round(statistics.median(values), 2) for name, values in times.items()},

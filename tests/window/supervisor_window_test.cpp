@@ -25,12 +25,12 @@ protected:
   }
 };
 
-TEST_F(SupervisorWindowTest, ANewProductIsDefinedMeasuredAndItsSamplePasses) {
+TEST_F(SupervisorWindowTest, ANewProductIsDefinedMeasuredAndItsSamplePassesByKeysAlone) {
   auto& product_id = On<TextBox>("frmCollectStd", "txtProductID");
   auto& method = On<ComboBox>("frmCollectStd", "cmbmth");
   auto& operators_product = On<ComboBox>("frmSamp", "cmbStandards");
   auto& sample_name = On<TextBox>("frmSamp", "txtSampName");
-  Click("cmdSupervisor");
+  Press('P', wxMOD_ALT);
   ASSERT_TRUE(main_.fraSupervisorMode.IsShown());
   // The tabs by their access keys, the dialog by the keys of a scanner and a keyboard.
   Press('T', wxMOD_ALT);
@@ -55,14 +55,14 @@ TEST_F(SupervisorWindowTest, ANewProductIsDefinedMeasuredAndItsSamplePasses) {
           mouse_and_keys_.Char(WXK_RETURN);
         }},
        {"the tabs again", [&] { return main_.fraSupervisorMode.IsShown(); }, [] {}}});
-  Click("cmdCollectStdNow");
+  Press('W', wxMOD_ALT);
   WaitForTheLastStep();
   const std::string data = "C:\\ProgramData\\Kestrova\\Veritane\\";
   EXPECT_TRUE(machine_.files.FileExists(data + "Standards\\caff-9.bsp"));
   EXPECT_NE(machine_.files.ReadBytes(data + "Meth.tbl").find("caff-9,Pressed disc,Euclidean,\r\n"),
             std::string::npos);
 
-  Click("cmdMainMenu");
+  Press('U', wxMOD_ALT);
   ASSERT_TRUE(main_.fraMainMenu.IsShown());
   PlayAlong({{"the sample's dialog", [] { return FocusIsIn("cmbStandards"); },
               [&] { mouse_and_keys_.Text("caff-9"); }},
@@ -73,7 +73,8 @@ TEST_F(SupervisorWindowTest, ANewProductIsDefinedMeasuredAndItsSamplePasses) {
                  "the typed name", [&] { return sample_name.Text() == "drum 1"; }, WXK_RETURN),
              AnswerBox("Ready for Sample."),
              {"the result", [&] { return main_.fraSpectrum.IsShown(); }, [] {}}});
-  Click("cmdSample");
+  // The menu's first button has the focus.
+  Press(WXK_SPACE);
   WaitForTheLastStep();
   EXPECT_EQ(main_.chart.Labels()[Chart::kVerdictLabel], "PASS");
   EXPECT_GT(main_.State().comparison, 99);

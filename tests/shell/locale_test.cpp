@@ -1,0 +1,88 @@
+// The program where the whole process follows another language's customs: files, fields and names stay what
+// they are. Only dates and times follow, and those are the machine's to write.
+#include <clocale>
+#include <locale>
+
+#include "simulator/spectrum_file.h"
+#include "tests/shell/program_fixture.h"
+
+namespace veritane::tests {
+namespace {
+
+using ::testing::HasSubstr;
+using ::testing::MatchesRegex;
+
+// A decimal comma and points between thousands; letters whose case differs from everybody else's.
+class LocaleTest : public ProgramTest, public ::testing::WithParamInterface<const char*> {
+protected:
+  void SetUp() override {
+    ASSERT_NE(std::setlocale(LC_ALL, GetParam()), nullptr) << GetParam() << " is not installed";
+    std::locale::global(std::locale(GetParam()));
+    LayOutShippedData();
+  }
+  void TearDown() override { std::locale::global(std::locale::classic()); }
+
+  platform::Events MeasureFirst(const std::string& product, const std::string& material) {
+    SetInstrument("empty");
+    Steps steps = EnterSample(product);
+    steps.insert(steps.end(),
+                 {"answer OK", "answer OK", [=, this] { SetInstrument(material); }, "answer OK"});
+    return Play(steps);
+  }
+};
+
+TEST_P(LocaleTest, NumbersKeepTheirPointOnScreenAndInFiles) {
+  WriteSettings(false, "85.5");
+  Play({"start", "click frmVeritane.cmdSupervisor"});
+  EXPECT_EQ(run_.Get("frmVeritane.txtThreshold")["text"], "85.5");
+  Play({"click frmVeritane.cmdMainMenu"});
+  MeasureFirst("asa-100", "paracetamol");
+  EXPECT_EQ(Verdict(), "FAIL");
+  EXPECT_THAT(Caption("frmVeritane.lblResult"), MatchesRegex("Sample Name: Lot 7  [0-9.]+%\\. .*"));
+  EXPECT_THAT(Read(Sample("asa-100.his")),
+              MatchesRegex("[^\r]*\r\nLot 7,11/21/26 10:59:00,asa-100,Euclidean,Fail, [0-9.]+,Ann\r\n"));
+  const auto filed = simulator::ReadSpectrumFile("", Read(Sample("asa-100.bsp"))).spectra.at(0);
+  EXPECT_EQ(filed.ordinates.values.size(), 3601U);
+  Play({"click frmVeritane.cmdExit"});
+  EXPECT_THAT(Read(Data("settings.ini")), HasSubstr("\r\n85.5\r\n"));
+}
+
+TEST_P(LocaleTest, APredictionGoesThroughExportLibraryAndCalibrationUnchanged) {
+  WriteSettings(false);
+  Play({"start"});
+  bench_.SampleCompartment().Write(
+      {.sample = "empty", .accessory = "ATR", .noise = 0, .duration = 0, .seed = 1});
+  Steps steps = EnterSample("ps-pe-blend");
+  steps.insert(steps.end(),
+               {"answer OK", "answer OK",
+                [this] {
+                  bench_.SampleCompartment().Write({.sample = "polystyrene 0.3 + polyethylene 0.7",
+                                                    .accessory = "ATR",
+                                                    .noise = 0,
+                                                    .duration = 0,
+                                                    .seed = 1});
+                },
+                "answer OK"});
+  Play(steps);
+  const std::vector<std::string> header = run_.Get("frmVeritane.chart")["header"];
+  EXPECT_THAT(header, ::testing::ElementsAre(MatchesRegex("Polystyrene = (29|30)\\.[0-9]+ %"),
+                                             MatchesRegex("Polyethylene = (69|70)\\.[0-9]+ %")));
+}
+
+TEST_P(LocaleTest, NamesAreTheSameInUpperAndLowerCase) {
+  WriteSettings(true);
+  WriteProducts({"INDIGO-i1,Pressed disc,Euclidean,"});
+  for (const char* name : {"Indigo-I1.bsp", "aspirin.bsp", "back.bsp"}) {
+    WriteSpectrum(Standard(name), 100, 4, Bands(301));
+  }
+  Play({"start"});
+  RunDemonstration("indigo-I1");
+  EXPECT_EQ(Verdict(), "PASS");
+  EXPECT_THAT(Read(Sample("INDIGO-I1.his")),
+              HasSubstr("\r\nLot 7,11/21/26 10:59:00,indigo-I1,Euclidean,Pass, 100,"));
+}
+
+INSTANTIATE_TEST_SUITE_P(Customs, LocaleTest, ::testing::Values("de_DE.UTF-8", "tr_TR.UTF-8"));
+
+}  // namespace
+}  // namespace veritane::tests
