@@ -12,6 +12,7 @@
 #include <string>
 #include <variant>
 
+#include "platform/automation.h"
 #include "shell/state/spectrum_buffer.h"
 
 namespace veritane::acquisition {
@@ -143,13 +144,7 @@ public:
   virtual std::shared_ptr<PrintObject> OpenPrintTemplate(const std::string& path) = 0;
 };
 
-// How a program waits for a busy automation server.
-struct AutomationWaiting {
-  bool busyServerRaisesError = true;
-  std::string pendingText;
-  std::int32_t pendingMilliseconds = 0;
-  std::int32_t busyMilliseconds = 0;
-};
+using platform::AutomationWaiting;
 
 class SpectrometerApp {
 public:

@@ -3,6 +3,7 @@
 
 #include <random>
 
+#include "apps/compartment_path.h"
 #include "platform/pdf/pdf_document.h"
 #include "platform/run_time_error.h"
 #include "shell/state/data_folders.h"
@@ -11,10 +12,10 @@
 
 namespace veritane::apps {
 
-SimulatedBench::SimulatedBench(platform::PosixMachine& machine,
+SimulatedBench::SimulatedBench(platform::SystemMachine& machine,
                                std::function<void(std::chrono::milliseconds)> wait)
     : machine_(machine),
-      compartment_(machine.files, machine.paths.ToWindows(machine.paths.Root() / "compartment.txt")),
+      compartment_(machine.files, CompartmentPath(machine)),
       instrument_(
           compartment_,
           {.openSpectrum =

@@ -7,7 +7,7 @@
 #include <utility>
 
 #include "acquisition/spectrometer_app.h"
-#include "platform/posix/posix_machine.h"
+#include "platform/system/system_machine.h"
 #include "simulator/call_log.h"
 #include "simulator/compartment.h"
 #include "simulator/instrument.h"
@@ -18,7 +18,7 @@ class SimulatedBench {
 public:
   // `wait` lets the time of a measurement pass. The machine must outlive the bench, the bench whatever Create
   // made.
-  SimulatedBench(platform::PosixMachine& machine, std::function<void(std::chrono::milliseconds)> wait);
+  SimulatedBench(platform::SystemMachine& machine, std::function<void(std::chrono::milliseconds)> wait);
 
   // Creates the automation object of this name; error 429 for a name that is not the simulator's.
   std::unique_ptr<acquisition::SpectrometerApp> Create(const std::string& prog_id);
@@ -30,7 +30,7 @@ public:
   simulator::CallLog& Calls() { return *calls_; }
 
 private:
-  platform::PosixMachine& machine_;
+  platform::SystemMachine& machine_;
   simulator::Compartment compartment_;
   simulator::SimulatedInstrument instrument_;
   std::shared_ptr<simulator::CallLog> calls_;

@@ -1,14 +1,18 @@
-# veritane_room(NAME <target> FOLDER <folder> [MAY_INCLUDE <folder>...] [LINK <library>...])
+# veritane_room(NAME <target> FOLDER <folder> [WITH <folder>...] [MAY_INCLUDE <folder>...] [LINK <library>...])
 #
-# Makes one room of the program a static library of all sources directly in its folder. A room sees only
-# itself, the rooms it names, and what those rooms name; including anything else fails the build.
+# Makes one room of the program a static library of all sources directly in its folder, and in the folders WITH it that
+# hold the half of it which differs between systems. A room sees only itself, the rooms it names, and what those rooms
+# name; including anything else fails the build.
 set_property(GLOBAL PROPERTY veritane_rooms "")
 
 function(veritane_room)
-  cmake_parse_arguments(ROOM "" "NAME;FOLDER" "MAY_INCLUDE;LINK" ${ARGN})
-  set(folder ${CMAKE_SOURCE_DIR}/${ROOM_FOLDER})
-  file(GLOB sources CONFIGURE_DEPENDS ${folder}/*.cpp)
-  file(GLOB headers CONFIGURE_DEPENDS ${folder}/*.h)
+  cmake_parse_arguments(ROOM "" "NAME;FOLDER" "WITH;MAY_INCLUDE;LINK" ${ARGN})
+  set(folders ${ROOM_FOLDER} ${ROOM_WITH})
+  list(TRANSFORM folders PREPEND ${CMAKE_SOURCE_DIR}/)
+  list(TRANSFORM folders APPEND /*.cpp OUTPUT_VARIABLE source_names)
+  list(TRANSFORM folders APPEND /*.h OUTPUT_VARIABLE header_names)
+  file(GLOB sources CONFIGURE_DEPENDS ${source_names})
+  file(GLOB headers CONFIGURE_DEPENDS ${header_names})
   if(NOT sources)
     file(WRITE ${CMAKE_CURRENT_BINARY_DIR}/${ROOM_NAME}_empty.cpp "")
     set(sources ${CMAKE_CURRENT_BINARY_DIR}/${ROOM_NAME}_empty.cpp)
@@ -17,7 +21,7 @@ function(veritane_room)
   set_target_properties(${ROOM_NAME} PROPERTIES LINKER_LANGUAGE CXX)
   target_include_directories(${ROOM_NAME} PUBLIC ${CMAKE_SOURCE_DIR})
 
-  set(allowed ${ROOM_FOLDER})
+  set(allowed ${ROOM_FOLDER} ${ROOM_WITH})
   foreach(neighbour IN LISTS ROOM_MAY_INCLUDE)
     get_property(reached GLOBAL PROPERTY veritane_reach_${neighbour})
     list(APPEND allowed ${neighbour} ${reached})
@@ -32,7 +36,7 @@ function(veritane_room)
   set(stamp ${CMAKE_CURRENT_BINARY_DIR}/${ROOM_NAME}_arrows.stamp)
   add_custom_command(
     OUTPUT ${stamp}
-    COMMAND ${CMAKE_COMMAND} "-DALLOWED=${allowed}" "-DFOLDER=${folder}" -DSTAMP=${stamp}
+    COMMAND ${CMAKE_COMMAND} "-DALLOWED=${allowed}" "-DFOLDERS=${folders}" -DSTAMP=${stamp}
             -P ${CMAKE_SOURCE_DIR}/cmake/check_arrows.cmake
     DEPENDS ${sources} ${headers} ${CMAKE_SOURCE_DIR}/cmake/check_arrows.cmake
     VERBATIM)

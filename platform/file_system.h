@@ -19,6 +19,12 @@ public:
   virtual void Append(std::string_view bytes) = 0;
 };
 
+// A file that no other program can take as long as this lives.
+class TakenFile {
+public:
+  virtual ~TakenFile() = default;
+};
+
 // All operations raise RunTimeError 52 for a path that names nothing, 53 for a missing file, 76 for a missing
 // folder, 70 or 75 where access is refused, 61 for a full disk, 57 for a device fault.
 class FileSystem {
@@ -36,6 +42,10 @@ public:
   virtual void WriteBytes(const std::string& path, std::string_view bytes) = 0;
   // Opens for appending, creating the file when it is missing.
   virtual std::unique_ptr<AppendingFile> OpenForAppending(const std::string& path) = 0;
+
+  // Takes the file for this program alone, creating it when it is missing; nothing while another program has
+  // it.
+  virtual std::unique_ptr<TakenFile> TakeFile(const std::string& path) = 0;
 
   virtual void DeleteFile(const std::string& path) = 0;
   // Renames within a volume; error 58 when `to` exists.

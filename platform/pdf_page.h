@@ -13,6 +13,9 @@ namespace veritane::platform {
 inline constexpr double kPointsPerInch = 72;
 inline constexpr double kPointsPerMillimetre = kPointsPerInch / 25.4;
 
+// What every printer leaves white at the edges, and room for the holes of a folder.
+inline constexpr double kPageMargin = 15 * kPointsPerMillimetre;
+
 struct PdfPageSize {
   // In points of 1/72 inch; A4 upright.
   double width = 210 * kPointsPerMillimetre;

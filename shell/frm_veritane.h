@@ -94,6 +94,7 @@ private:
   void CreateSpectrometerObject();
   // The run log; opened when it is not open yet.
   platform::AppendingFile& Log();
+  bool TakeDataFolder(const std::string& data_folder);
   bool LoadCalibrationMethod();
   void Calibrate();
   void FillAlgorithmLists();
@@ -122,6 +123,8 @@ private:
   acquisition::ProductEditor products_;
   // While the program itself brings a page back, the rules of leaving pages do not apply.
   bool is_turning_back_ = false;
+  // Keeps other copies of the program away from the data folder.
+  std::unique_ptr<platform::TakenFile> data_folder_lock_;
   std::unique_ptr<platform::AppendingFile> log_;
 };
 

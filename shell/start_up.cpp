@@ -32,7 +32,9 @@ void FrmVeritane::Form_Load() {
   state_.folderSet = state::ChooseFolderSet(machine_.registry);
   const std::string common = machine_.folders.CommonApplicationData(false);
   if (common.empty()) Screen().ShowMessage({.text = "Couldn't find AppData directory", .title = "Veritane"});
-  state::MakeTablesConcrete(machine_.files, state_.folderSet, state::DataFolderBelow(common));
+  const std::string data_folder = state::DataFolderBelow(common);
+  if (!TakeDataFolder(data_folder)) return;
+  state::MakeTablesConcrete(machine_.files, state_.folderSet, data_folder);
   LoadScreenTexts(dialogs_, *this);
   PrepareGrid();
   Screen().AttachForms();
@@ -57,6 +59,20 @@ void FrmVeritane::Form_Load() {
   chart.SetTitles("Wavenumber (cm\u207B\u00B9)", "Normalised intensity");
   state_.formStartup = 0;
   Screen().SetMousePointer(Pointer::kDefault);
+}
+
+// Two programs on the same files would write over what the other one filed. False when the program has ended
+// because of that.
+bool FrmVeritane::TakeDataFolder(const std::string& data_folder) {
+  if (!machine_.files.FolderExists(data_folder)) return true;
+  data_folder_lock_ = machine_.files.TakeFile(data_folder + "veritane.lock");
+  if (data_folder_lock_ != nullptr) return true;
+  Screen().ShowMessage({.text = "Veritane is running already with the data in " + data_folder +
+                                "\r\nPlease go on in its window.",
+                        .title = "Veritane",
+                        .icon = MessageIcon::kCritical});
+  Screen().End(1);
+  return false;
 }
 
 // Placeholders until the product table is loaded.

@@ -5,8 +5,11 @@
 #include <memory>
 
 #include "apps/command_line.h"
+#include "apps/compartment_path.h"
 #include "apps/simulator_panel/frm_simulator.h"
-#include "platform/posix/posix_machine.h"
+#include "platform/system/common_controls.h"
+#include "platform/system/native_path.h"
+#include "platform/system/system_machine.h"
 #include "platform/wx/wx_user_interface.h"
 
 namespace {
@@ -16,10 +19,8 @@ using namespace veritane;
 constexpr int kRefreshMilliseconds = 1000;
 
 struct Panel {
-  Panel(platform::PosixMachine& machine, platform::WxUserInterface& screen)
-      : desktop(screen),
-        form(desktop, machine.Facilities(),
-             machine.paths.ToWindows(machine.paths.Root() / "compartment.txt")) {
+  Panel(platform::SystemMachine& machine, platform::WxUserInterface& screen)
+      : desktop(screen), form(desktop, machine.Facilities(), apps::CompartmentPath(machine)) {
     timer.Bind(wxEVT_TIMER, [this](wxTimerEvent&) { Refresh(); });
     form.Watch([this](platform::Form::Change change) {
       if (change == platform::Form::Change::kHidden) timer.Stop();
@@ -43,11 +44,13 @@ struct Panel {
 };
 
 int Run(const apps::CommandLine& line, int argument_count, char** arguments) {
-  platform::PosixMachine machine(line.Option("--root").value_or(platform::DefaultRoot().string()), "");
+  platform::SystemMachine machine(line.Option("--root").value_or(platform::DefaultRoot().string()), "");
   std::unique_ptr<Panel> panel;
   const platform::PathMapping paths{
-      .toNative = [&](const std::string& path) { return machine.paths.ToNative(path).string(); },
-      .toWindows = [&](const std::string& path) { return machine.paths.ToWindows(path); }};
+      .toNative = [&](const std::string& path) { return platform::Utf8Of(machine.paths.ToNative(path)); },
+      .toWindows =
+          [&](const std::string& path) { return machine.paths.ToWindows(platform::PathFromUtf8(path)); }};
+  platform::InitialiseCommonControls();
   return platform::RunInWindow(argument_count, arguments, paths, [&](platform::WxUserInterface& screen) {
     panel = std::make_unique<Panel>(machine, screen);
     panel->desktop.AttachForms();

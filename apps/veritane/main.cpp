@@ -3,11 +3,14 @@
 #include <memory>
 #include <thread>
 
+#include "acquisition/automation_waiting_text.h"
 #include "apps/command_line.h"
+#include "apps/instrument.h"
 #include "apps/simulated_bench.h"
-#include "platform/pdf/pdf_printer.h"
-#include "platform/posix/command_print_queue.h"
+#include "platform/pdf/system_printer.h"
 #include "platform/run_time_error.h"
+#include "platform/system/common_controls.h"
+#include "platform/system/native_path.h"
 #include "platform/wx/wx_user_interface.h"
 #include "shell/frm_veritane.h"
 
@@ -17,14 +20,15 @@ using namespace veritane;
 
 // What exists while the window does.
 struct Program {
-  Program(platform::PosixMachine& machine, platform::WxUserInterface& screen)
+  Program(platform::SystemMachine& machine, platform::WxUserInterface& screen, apps::InstrumentKind kind)
       : desktop(screen),
         bench(machine, [this](std::chrono::milliseconds time) { WaitAlive(time); }),
+        instrument(machine, bench, kind, acquisition::ShowInStatusWindow(desktop)),
         main(desktop, machine.Facilities(),
-             [this](const std::string& prog_id) { return bench.Create(prog_id); }),
+             [this](const std::string& prog_id) { return instrument.Create(prog_id); }),
         printer(
-            machine.files, machine.clock, [this] { return main.PrintFolder(); }, &print_queue) {
-    desktop.UsePrinter(printer);
+            platform::SystemPrinter(machine.files, machine.clock, [this] { return main.PrintFolder(); })) {
+    desktop.UsePrinter(*printer);
     bench.OnPrint(
         [&screen](const std::string& file) { screen.NotePrint(platform::PrintKind::kTemplate, file); });
   }
@@ -41,19 +45,22 @@ struct Program {
 
   platform::Desktop desktop;
   apps::SimulatedBench bench;
+  apps::Instrument instrument;
   shell::FrmVeritane main;
-  platform::CommandPrintQueue print_queue;
-  platform::PdfPrinter printer;
+  std::unique_ptr<platform::Printer> printer;
 };
 
-int Run(int argument_count, char** arguments) {
-  platform::PosixMachine machine(platform::DefaultRoot(), "");
+int Run(const apps::CommandLine& line, int argument_count, char** arguments) {
+  platform::SystemMachine machine(platform::DefaultRoot(), "");
+  const apps::InstrumentKind kind = apps::ChosenInstrument(line, apps::UsualInstrument());
   std::unique_ptr<Program> program;
   const platform::PathMapping paths{
-      .toNative = [&](const std::string& path) { return machine.paths.ToNative(path).string(); },
-      .toWindows = [&](const std::string& path) { return machine.paths.ToWindows(path); }};
+      .toNative = [&](const std::string& path) { return platform::Utf8Of(machine.paths.ToNative(path)); },
+      .toWindows =
+          [&](const std::string& path) { return machine.paths.ToWindows(platform::PathFromUtf8(path)); }};
+  platform::InitialiseCommonControls();
   return platform::RunInWindow(argument_count, arguments, paths, [&](platform::WxUserInterface& screen) {
-    program = std::make_unique<Program>(machine, screen);
+    program = std::make_unique<Program>(machine, screen, kind);
     try {
       program->main.Form_Load();
     } catch (const platform::RunTimeError& error) {
@@ -69,6 +76,10 @@ int Run(int argument_count, char** arguments) {
 }  // namespace
 
 int main(int argument_count, char** arguments) {
-  return apps::RunProgram({.name = "veritane", .usage = "usage: veritane\n"}, argument_count, arguments,
-                          [&](const apps::CommandLine&) { return Run(argument_count, arguments); });
+  return apps::RunProgram({.name = "veritane",
+                           .usage = "usage: veritane [--instrument simulated|real]\n",
+                           .options = {apps::kInstrumentOption}},
+                          argument_count, arguments, [&](const apps::CommandLine& line) {
+                            return Run(line, argument_count, arguments);
+                          });
 }

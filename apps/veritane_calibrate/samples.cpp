@@ -8,8 +8,8 @@
 #include <iterator>
 
 #include "apps/command_line.h"
-#include "platform/posix/posix_machine.h"
 #include "platform/run_time_error.h"
+#include "platform/system/system_machine.h"
 #include "plslibrary/pls_error.h"
 #include "plslibrary/spc_reader.h"
 #include "simulator/spectrum_file.h"
@@ -104,7 +104,7 @@ std::string FileBytes(const std::string& path) {
 
 void WriteFile(const std::string& path, std::string_view bytes) {
   const platform::PathMap paths(platform::DefaultRoot());
-  const platform::PosixClock clock;
+  const platform::SystemClock clock;
   platform::DiskFileSystem files(paths, clock);
   try {
     files.WriteBytes(paths.ToWindows(path), bytes);

@@ -4,7 +4,9 @@
 #include <memory>
 #include <thread>
 
+#include "acquisition/automation_waiting_text.h"
 #include "apps/command_line.h"
+#include "apps/instrument.h"
 #include "apps/simulated_bench.h"
 #include "apps/veritane_console/instrument_commands.h"
 #include "platform/pdf/pdf_printer.h"
@@ -17,15 +19,16 @@ namespace {
 using namespace veritane;
 
 constexpr const char* kUsage =
-    "usage: veritane-console [--root DIR] [--now ISO-TIME] [--locale NAME] [SCRIPT]\n"
+    "usage: veritane-console [--root DIR] [--now ISO-TIME] [--locale NAME] [--instrument KIND] [SCRIPT]\n"
     "  --root DIR      the data root; drive C is its folder drive_c\n"
     "  --now TIME      the time that the program sees, e.g. 2026-11-21T10:59:00\n"
     "  --locale NAME   how dates and times are written, e.g. de_DE.UTF-8\n"
+    "  --instrument    simulated (the default), or real: the Spectrometer application of this system\n"
     "  SCRIPT          a file of lines; without it they come from standard input\n";
 
 int Play(const apps::CommandLine& line, std::istream& script) {
   const std::filesystem::path root = line.Option("--root").value_or(platform::DefaultRoot().string());
-  platform::PosixMachine machine(root, line.Option("--locale").value_or(""));
+  platform::SystemMachine machine(root, line.Option("--locale").value_or(""));
   if (const auto now = line.Option("--now")) {
     const auto moment = platform::ParseIsoDateTime(*now);
     if (!moment) throw apps::UsageError("\"" + *now + "\" is no time");
@@ -35,6 +38,8 @@ int Play(const apps::CommandLine& line, std::istream& script) {
                              [](std::chrono::milliseconds time) { std::this_thread::sleep_for(time); });
   platform::ScriptedInterface screen(platform::LinesOf(script), platform::JsonLines(std::cout));
   platform::Desktop desktop(screen);
+  apps::Instrument instrument(machine, bench, apps::ChosenInstrument(line, apps::InstrumentKind::kSimulated),
+                              acquisition::ShowInStatusWindow(desktop));
   std::unique_ptr<shell::FrmVeritane> program;
   platform::PdfPrinter printer(machine.files, machine.clock, [&] { return program->PrintFolder(); });
   desktop.UsePrinter(printer);
@@ -45,7 +50,7 @@ int Play(const apps::CommandLine& line, std::istream& script) {
            [&] {
              program = std::make_unique<shell::FrmVeritane>(
                  desktop, machine.Facilities(),
-                 [&](const std::string& prog_id) { return bench.Create(prog_id); });
+                 [&](const std::string& prog_id) { return instrument.Create(prog_id); });
              program->Form_Load();
            },
        .setInstrument =
@@ -68,7 +73,7 @@ int Run(const apps::CommandLine& line) {
 int main(int argument_count, char** arguments) {
   return apps::RunProgram({.name = "veritane-console",
                            .usage = kUsage,
-                           .options = {"--root", "--now", "--locale"},
+                           .options = {"--root", "--now", "--locale", apps::kInstrumentOption},
                            .mostWords = 1},
                           argument_count, arguments, Run);
 }

@@ -3,8 +3,8 @@
 
 #include "apps/command_line.h"
 #include "apps/veritane_setup/data_layout.h"
-#include "platform/posix/posix_machine.h"
 #include "platform/run_time_error.h"
+#include "platform/system/system_machine.h"
 
 namespace {
 
@@ -19,10 +19,12 @@ int SetUp(const veritane::apps::CommandLine& line) {
     throw veritane::apps::UsageError("no mode \"" + mode + "\"");
   const std::filesystem::path root =
       line.Option("--root").value_or(veritane::platform::DefaultRoot().string());
-  std::filesystem::create_directories(root / "drive_c");
-  veritane::platform::PosixMachine machine(root, "");
+  if (!root.empty()) std::filesystem::create_directories(root / "drive_c");
+  veritane::platform::SystemMachine machine(root, "");
   const auto made = veritane::setup::LayOutData(machine.Facilities());
-  if (!made.empty()) std::cout << "Laid out " << made.size() << " files in " << root.string() << '\n';
+  if (!made.empty())
+    std::cout << "Laid out " << made.size() << " files in "
+              << (root.empty() ? "the data folder" : root.string()) << '\n';
   if (!mode.empty()) veritane::setup::SetDemonstrationMode(machine.Facilities(), mode == "demo");
   return 0;
 }

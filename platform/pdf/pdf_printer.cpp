@@ -11,14 +11,11 @@ namespace veritane::platform {
 
 namespace {
 
-// What every printer leaves white at the edges, and room for the holes of a folder.
-constexpr double kMargin = 15 * kPointsPerMillimetre;
-
 std::string PdfOf(Printout& printout, const DateTime& now) {
   const PdfPageSize paper = printout.IsLandscape() ? Landscape({}) : PdfPageSize{};
   PdfDocument document(paper, {.title = printout.Title(), .created = now});
-  PartOfSurface page(document.Page(), {kMargin, kMargin}, paper.width - 2 * kMargin,
-                     paper.height - 2 * kMargin, document.Page().FontHeight());
+  PartOfSurface page(document.Page(), {kPageMargin, kPageMargin}, paper.width - 2 * kPageMargin,
+                     paper.height - 2 * kPageMargin, document.Page().FontHeight());
   const int pages = printout.LayOut(page);
   for (int number = 1; number <= pages; ++number) {
     if (number > 1) document.NextPage();

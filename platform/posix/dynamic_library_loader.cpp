@@ -1,5 +1,5 @@
 // Loading shared objects.
-#include "platform/posix/dynamic_library_loader.h"
+#include "platform/system/dynamic_library_loader.h"
 
 #include <dlfcn.h>
 

@@ -1,5 +1,5 @@
-// Windows paths mapped onto native ones.
-#include "platform/posix/path_map.h"
+// Windows paths mapped onto those of a POSIX system.
+#include "platform/system/path_map.h"
 
 #include <cstdlib>
 

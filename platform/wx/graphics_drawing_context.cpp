@@ -2,7 +2,9 @@
 #include "platform/wx/graphics_drawing_context.h"
 
 #include <wx/brush.h>
+#include <wx/fontenum.h>
 
+#include <map>
 #include <numbers>
 #include <vector>
 
@@ -16,6 +18,20 @@ wxColour ToWx(Colour colour) {
   return {colour.red, colour.green, colour.blue, colour.alpha};
 }
 
+// The face of a font that is installed. Systems name fonts for their screens that are none ("MS Shell Dlg"):
+// controls are drawn with what stands behind the name, but a drawing with no text at all.
+wxString InstalledFace(const wxFont& font) {
+  static std::map<wxString, wxString> known;
+  wxString& installed = known[font.GetFaceName()];
+  if (!installed.empty()) return installed;
+  for (const wxString& face :
+       {font.GetFaceName(), wxString("Segoe UI"), wxString("Tahoma"), wxString("DejaVu Sans")}) {
+    if (wxFontEnumerator::IsValidFacename(face)) return installed = face;
+  }
+  const wxArrayString all = wxFontEnumerator::GetFacenames();
+  return installed = all.empty() ? font.GetFaceName() : all.front();
+}
+
 }  // namespace
 
 GraphicsDrawingContext::GraphicsDrawingContext(wxGraphicsContext& graphics, double width, double height,
@@ -24,7 +40,7 @@ GraphicsDrawingContext::GraphicsDrawingContext(wxGraphicsContext& graphics, doub
       width_(width),
       height_(height),
       font_height_(font_height),
-      face_(font.GetFaceName()) {}
+      face_(InstalledFace(font)) {}
 
 void GraphicsDrawingContext::UseFont(double height, TextWeight weight, Colour colour) const {
   const int flags = weight == TextWeight::kBold ? wxFONTFLAG_BOLD : wxFONTFLAG_DEFAULT;

@@ -12,11 +12,17 @@ A script can ask for more in comments of its own:
     #! show C:\\ProgramData\\Veritane\\log.txt
                                        prints that file behind the events, so that it is compared too
 
+With --launcher the programs are those of another system: the launcher (Wine) starts them, and paths are handed to them
+as they know them. With --server the console drives that program by automation instead of the simulator in its own
+process: what the simulator was called and what it printed is then known to the server alone, and those events are not
+compared.
+
 What differs from run to run is masked before the comparison: the temporary root becomes <root>, and the
 program's version in its window title <version>. Times are fixed by the script's `now`, in the time zone UTC.
 """
 
 import argparse
+import contextlib
 import difflib
 import json
 import os
@@ -26,9 +32,12 @@ import shutil
 import subprocess
 import sys
 import tempfile
+import time
 from pathlib import Path
 
 TIME_LIMIT_SECONDS = 300
+SERVER_LIMIT_SECONDS = 20
+KNOWN_TO_THE_SIMULATOR = ('{"event":"calls"', '{"event":"print","kind":"template"')
 
 
 class Failure(Exception):
@@ -47,6 +56,8 @@ def parse_arguments():
     parser = argparse.ArgumentParser(description="Plays acceptance scripts and compares their events.")
     parser.add_argument("--console", required=True, type=program, help="the program veritane-console")
     parser.add_argument("--setup", required=True, type=program, help="the program veritane-setup")
+    parser.add_argument("--launcher", type=program, help="starts the programs of another system")
+    parser.add_argument("--server", type=program, help="the automation server that the console is to drive")
     parser.add_argument("--update", action="store_true", help="write the .expected files")
     parser.add_argument("scripts", nargs="+", type=Path, metavar="SCRIPT")
     return parser.parse_args()
@@ -74,6 +85,9 @@ def check(script, options):
         if not expected_file.exists():
             raise Failure(f"{expected_file} is missing; --update writes it.")
         expected = lines_of(expected_file.read_text(encoding="utf-8"))
+        if options.server:
+            actual, expected = ([line for line in lines if not line.startswith(KNOWN_TO_THE_SIMULATOR)]
+                                for lines in (actual, expected))
     except (Failure, OSError) as failure:
         print(f"FAILED: {script}: {failure}")
         return False
@@ -91,11 +105,16 @@ def play(script, options):
     with tempfile.TemporaryDirectory(prefix="veritane-") as folder:
         root = Path(folder).resolve() / "root"
         root.mkdir()
-        run([options.setup, "--root", root], allowed=[0])
+        run([options.setup, "--root", foreign(root, options)], options, allowed=[0])
         for words in wishes["root"]:
             place_file(script.parent / words[0], in_root(root, words[1]))
-        console_options = [word for words in wishes["console"] for word in words]
-        lines, status = run([options.console, "--root", root, *console_options, script], allowed=[0, 1, 2])
+        # The plain formats of dates, unless the script wants others.
+        console_options = ["--locale", "C"] + [word for words in wishes["console"] for word in words]
+        if options.server:
+            console_options += ["--instrument", "real"]
+        console = [options.console, "--root", foreign(root, options), *console_options, foreign(script, options)]
+        with served(root, console_options, options):
+            lines, status = run(console, options, allowed=[0, 1, 2])
         check_exit(lines, status)
         for words in wishes["show"]:
             lines += show(root, words[0])
@@ -118,13 +137,52 @@ def read_wishes(script):
     return wishes
 
 
-def run(command, allowed):
+def foreign(path, options):
+    """A path as the programs know it."""
+    return f"Z:{path.resolve()}".replace("/", "\\") if options.launcher else path
+
+
+def command_line(command, options):
+    return [str(word) for word in ([options.launcher] if options.launcher else []) + command]
+
+
+def environment():
+    variables = {name: value for name, value in os.environ.items() if name not in ("VERITANE_HOME", "LANG")}
+    return variables | {"TZ": "UTC", "LC_ALL": "C.UTF-8"}
+
+
+@contextlib.contextmanager
+def served(root, console_options, options):
+    """The automation server, with the console's clock, while a script is played; it must end by itself."""
+    if not options.server:
+        yield
+        return
+    ready = root / "ready"
+    clock = console_options[console_options.index("--now"):][:2] if "--now" in console_options else []
+    command = [options.server, "/automation", "--root", foreign(root, options), "--ready", foreign(ready, options), *clock]
+    with subprocess.Popen(command_line(command, options), env=environment(), stdin=subprocess.DEVNULL,
+                          stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL) as server:
+        try:
+            deadline = time.monotonic() + SERVER_LIMIT_SECONDS
+            while not ready.exists():
+                if server.poll() is not None or time.monotonic() > deadline:
+                    raise Failure("the automation server does not start")
+                time.sleep(0.05)
+            yield
+            if server.wait(SERVER_LIMIT_SECONDS) != 0:
+                raise Failure(f"the automation server ended with {server.returncode}")
+        except subprocess.TimeoutExpired as expired:
+            raise Failure("the automation server goes on after the program has ended") from expired
+        finally:
+            if server.poll() is None:
+                server.kill()
+
+
+def run(command, options, allowed):
     """Runs a program; returns the lines that it printed and its exit status."""
-    command = [str(word) for word in command]
-    environment = {name: value for name, value in os.environ.items() if name not in ("VERITANE_HOME", "LANG")}
-    environment.update(TZ="UTC", LC_ALL="C.UTF-8")
+    command = command_line(command, options)
     try:
-        done = subprocess.run(command, stdin=subprocess.DEVNULL, capture_output=True, env=environment,
+        done = subprocess.run(command, stdin=subprocess.DEVNULL, capture_output=True, env=environment(),
                               timeout=TIME_LIMIT_SECONDS, check=False)
     except subprocess.TimeoutExpired as expired:
         printed = lines_of((expired.stdout or b"").decode("utf-8", "replace"))

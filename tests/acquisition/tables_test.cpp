@@ -8,7 +8,7 @@
 #include "acquisition/product_key.h"
 #include "acquisition/product_table.h"
 #include "acquisition/prompts.h"
-#include "platform/posix/posix_machine.h"
+#include "platform/system/system_machine.h"
 #include "platform/text_file.h"
 #include "tests/support/errors.h"
 #include "tests/support/temporary_folder.h"
@@ -82,7 +82,7 @@ protected:
   }
 
   tests::TemporaryFolder folder_;
-  platform::PosixMachine machine_{folder_.Path(), "C"};
+  platform::SystemMachine machine_{folder_.Path(), "C"};
   state::ProgramState state_;
 };
 

@@ -5,8 +5,8 @@
 #include <memory>
 
 #include "apps/simulator_panel/frm_simulator.h"
-#include "platform/posix/posix_machine.h"
 #include "platform/scripted/script_run.h"
+#include "platform/system/system_machine.h"
 #include "tests/support/temporary_folder.h"
 
 namespace veritane::simulator_panel {
@@ -69,7 +69,7 @@ protected:
   }
 
   tests::TemporaryFolder folder_;
-  platform::PosixMachine machine_{folder_.Path(), "C"};
+  platform::SystemMachine machine_{folder_.Path(), "C"};
   simulator::Compartment compartment_{machine_.files, machine_.paths.ToWindows(File())};
   platform::ScriptRun run_;
   std::unique_ptr<FrmSimulator> form_;

@@ -1,16 +1,12 @@
 // Files on disk by Windows path: case, atomic replacement, errors by their numbers.
-#include "platform/posix/disk_file_system.h"
+#include "platform/system/disk_file_system.h"
 
 #include <gtest/gtest.h>
-#include <sys/resource.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
-#include <csignal>
-#include <cstdlib>
 #include <fstream>
 
-#include "platform/posix/posix_machine.h"
+#include "platform/system/registry_file.h"
+#include "platform/system/system_machine.h"
 #include "tests/support/errors.h"
 #include "tests/support/temporary_folder.h"
 
@@ -26,7 +22,7 @@ protected:
 
   tests::TemporaryFolder folder_;
   PathMap paths_{folder_.Path()};
-  PosixClock clock_;
+  SystemClock clock_;
   DiskFileSystem files_{paths_, clock_};
 };
 
@@ -40,11 +36,9 @@ TEST_F(DiskFileSystemTest, NamesAreFoundWithoutRegardToCaseAndKeepTheCaseTheyWer
   EXPECT_FALSE(files_.FileExists("C:\\Data\\Aspirin.bsp"));
 }
 
-TEST_F(DiskFileSystemTest, NativePathsBelowDriveCAndElsewhereComeBackAsTheyWent) {
+TEST_F(DiskFileSystemTest, PathsBelowDriveCComeBackAsTheyWentAndNoneIsNothing) {
   EXPECT_EQ(paths_.ToWindows(folder_.Path() / "drive_c" / "Data" / "x.clm"), "C:\\Data\\x.clm");
-  EXPECT_EQ(paths_.ToWindows("/usr/share"), "Z:\\usr\\share");
-  EXPECT_EQ(paths_.ToNative("Z:\\usr\\share"), fs::path("/usr/share"));
-  EXPECT_EQ(ErrorOf([&] { paths_.ToNative("Q:\\x"); }), 76);
+  EXPECT_EQ(paths_.ToNative("C:\\Data\\x.clm"), paths_.ToNative("\\Data\\x.clm"));
   EXPECT_EQ(ErrorOf([&] { paths_.ToNative(""); }), 52);
   EXPECT_FALSE(files_.FileExists("Q:\\x"));
 }
@@ -62,52 +56,13 @@ TEST_F(DiskFileSystemTest, FailuresCarryTheNumbersThatTheProgramKnows) {
   EXPECT_EQ(files_.ReadBytes("C:\\Data\\b"), "b");
 }
 
-TEST_F(DiskFileSystemTest, AFullDiskLeavesTheOldFileAndNoLitter) {
-  files_.WriteBytes("C:\\Data\\table", "old");
-  // A limit on the file size stands in for the full disk: the system refuses the write half way.
-  const auto write_beyond_the_limit = [&] {
-    ::signal(SIGXFSZ, SIG_IGN);
-    const rlimit limit{.rlim_cur = 4096, .rlim_max = RLIM_INFINITY};
-    ::setrlimit(RLIMIT_FSIZE, &limit);
-    const int error = ErrorOf([&] { files_.WriteBytes("C:\\Data\\table", std::string(100000, 'x')); });
-    const bool old_is_there = files_.ReadBytes("C:\\Data\\table") == "old";
-    const bool no_litter = files_.ListFiles("C:\\Data").size() == 1;
-    auto log = files_.OpenForAppending("C:\\Data\\log");
-    log->Append("first line\r\n");
-    const int append_error = ErrorOf([&] { log->Append(std::string(100000, 'y')); });
-    const bool no_half_line = files_.ReadBytes("C:\\Data\\log") == "first line\r\n";
-    std::_Exit(error != 0 && append_error != 0 && old_is_there && no_litter && no_half_line ? 0 : 1);
-  };
-  EXPECT_EXIT(write_beyond_the_limit(), ::testing::ExitedWithCode(0), "");
-}
-
-TEST_F(DiskFileSystemTest, AProgramThatDiesDuringARewriteLeavesTheOldTableOrTheNewOne) {
-  const std::string old_table = " 20000 \r\n" + std::string(400000, 'o');
-  const std::string new_table = " 20001 \r\n" + std::string(400020, 'n');
-  const std::string path = "C:\\Data\\Meth.tbl";
-  files_.WriteBytes(path, old_table);
-  int new_ones = 0;
-  for (int trial = 0; trial < 150; ++trial) {
-    const pid_t writer = ::fork();
-    ASSERT_GE(writer, 0);
-    if (writer == 0) {
-      for (;;) {
-        files_.WriteBytes(path, new_table);
-        files_.WriteBytes(path, old_table);
-      }
-    }
-    // Each trial ends at another moment of the rewrites.
-    ::usleep(static_cast<useconds_t>(500 + trial * 37));
-    ::kill(writer, SIGKILL);
-    ::waitpid(writer, nullptr, 0);
-    const std::string found = files_.ReadBytes(path);
-    ASSERT_TRUE(found == old_table || found == new_table)
-        << "trial " << trial << ": " << found.size() << " bytes";
-    new_ones += found == new_table ? 1 : 0;
-  }
-  EXPECT_GT(new_ones, 0) << "no rewrite was ever under way";
-  files_.WriteBytes(path, "whole");
-  EXPECT_EQ(files_.ReadBytes(path), "whole") << "what a dead writer left behind does not stand in the way";
+TEST_F(DiskFileSystemTest, AFileThatIsTakenIsNobodyElsesUntilItIsLetGo) {
+  auto taken = files_.TakeFile("C:\\Data\\lock");
+  ASSERT_NE(taken, nullptr);
+  EXPECT_EQ(files_.TakeFile("C:\\DATA\\Lock"), nullptr);
+  taken.reset();
+  EXPECT_NE(files_.TakeFile("C:\\Data\\lock"), nullptr);
+  EXPECT_EQ(ErrorOf([&] { files_.TakeFile("C:\\None\\lock"); }), 76);
 }
 
 TEST_F(DiskFileSystemTest, WrittenFilesCarryTheClocksTime) {
@@ -138,15 +93,15 @@ TEST_F(DiskFileSystemTest, TheRegistryGivesOnlyDwordsOfTheKeyAskedFor) {
 
 TEST_F(DiskFileSystemTest, DatesFollowTheLocaleThatWasAskedFor) {
   const DateTime moment{.year = 2026, .month = 11, .day = 21, .hour = 10, .minute = 59, .second = 7};
-  const PosixRegionalFormat plain("C");
+  const SystemRegionalFormat plain("C");
   EXPECT_EQ(plain.ShortDate(moment), "11/21/26");
   EXPECT_EQ(plain.ShortTime(moment), "10:59:07");
   EXPECT_EQ(plain.GeneralDate(moment), "11/21/26 10:59:07");
   EXPECT_EQ(plain.LongDate(moment), "Saturday November 21 2026");
-  const PosixRegionalFormat german("de_DE.UTF-8");
+  const SystemRegionalFormat german("de_DE.UTF-8");
   EXPECT_EQ(german.ShortDate(moment), "21.11.2026");
   EXPECT_EQ(german.LongDate(moment), "Samstag November 21 2026");
-  EXPECT_EQ(ErrorOf([] { PosixRegionalFormat("xx_YY"); }), 5);
+  EXPECT_EQ(ErrorOf([] { SystemRegionalFormat("xx_YY"); }), 5);
 }
 
 }  // namespace

@@ -5,8 +5,8 @@
 
 #include <filesystem>
 
-#include "platform/posix/posix_machine.h"
 #include "platform/run_time_error.h"
+#include "platform/system/system_machine.h"
 #include "platform/text_printout.h"
 #include "tests/support/errors.h"
 #include "tests/support/pdf_text.h"
@@ -51,7 +51,7 @@ protected:
   std::filesystem::path Native(const std::string& path) const { return machine_.paths.ToNative(path); }
 
   tests::TemporaryFolder folder_;
-  PosixMachine machine_{folder_.Path(), "C"};
+  SystemMachine machine_{folder_.Path(), "C"};
   PretendedQueue queue_;
 };
 

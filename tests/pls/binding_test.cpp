@@ -4,7 +4,7 @@
 
 #include <array>
 
-#include "platform/posix/posix_machine.h"
+#include "platform/system/system_machine.h"
 #include "pls/loaded_prediction_library.h"
 #include "tests/support/errors.h"
 #include "tests/support/temporary_folder.h"
@@ -38,11 +38,11 @@ protected:
 
   fs::path Programs() const { return folder_.Path() / "program"; }
   void Install(const char* built) {
-    fs::copy_file(built, Programs() / "libplsiqp32.so", fs::copy_options::overwrite_existing);
+    fs::copy_file(built, Programs() / VERITANE_LIBRARY_FILE_NAME, fs::copy_options::overwrite_existing);
   }
 
   tests::TemporaryFolder folder_;
-  platform::PosixMachine files_{folder_.Path(), "C"};
+  platform::SystemMachine files_{folder_.Path(), "C"};
   platform::DynamicLibraryLoader libraries_{files_.paths, Programs()};
   LoadedPredictionLibrary library_{libraries_, [] { return std::nullopt; }};
 };
@@ -74,7 +74,7 @@ TEST_F(Binding, AMissingLibraryIsNamedAtEachAttemptUntilItIsThere) {
   const auto load = [this] { library_.LoadCalFile("C:\\Data\\Gas.cal"); };
   for (int attempt = 0; attempt < 2; ++attempt) {
     EXPECT_EQ(ErrorOf(load), 53);
-    EXPECT_THAT(TextOf(load), HasSubstr("File not found: libplsiqp32.so"));
+    EXPECT_THAT(TextOf(load), HasSubstr("File not found: " VERITANE_LIBRARY_FILE_NAME));
   }
   Install(VERITANE_FOREIGN_LIBRARY);
   EXPECT_EQ(ErrorOf(load), 0);
@@ -82,13 +82,13 @@ TEST_F(Binding, AMissingLibraryIsNamedAtEachAttemptUntilItIsThere) {
 
 TEST_F(Binding, ALibraryThatIsNoneOrLacksAFunctionSaysSo) {
   const auto ask = [this] { library_.GetCalTotal(31); };
-  files_.files.WriteBytes(files_.paths.ToWindows(Programs() / "libplsiqp32.so"), "no library");
+  files_.files.WriteBytes(files_.paths.ToWindows(Programs() / VERITANE_LIBRARY_FILE_NAME), "no library");
   EXPECT_EQ(ErrorOf(ask), 53);
-  EXPECT_THAT(TextOf(ask), HasSubstr((Programs() / "libplsiqp32.so").string()));
-  fs::remove(Programs() / "libplsiqp32.so");
+  EXPECT_THAT(TextOf(ask), HasSubstr((Programs() / VERITANE_LIBRARY_FILE_NAME).string()));
+  fs::remove(Programs() / VERITANE_LIBRARY_FILE_NAME);
   Install(VERITANE_INCOMPLETE_LIBRARY);
   EXPECT_EQ(ErrorOf(ask), 53);
-  EXPECT_EQ(TextOf(ask), "File not found: ReadCalFile in libplsiqp32.so");
+  EXPECT_EQ(TextOf(ask), "File not found: ReadCalFile in " VERITANE_LIBRARY_FILE_NAME);
 }
 
 TEST_F(Binding, WhatTheLibraryThrowsBecomesARunTimeError) {

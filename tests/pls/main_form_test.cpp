@@ -6,8 +6,8 @@
 
 #include <cmath>
 
-#include "platform/posix/posix_machine.h"
 #include "platform/scripted/script_run.h"
+#include "platform/system/system_machine.h"
 #include "tests/pls/scripted_library.h"
 #include "tests/support/temporary_folder.h"
 
@@ -70,7 +70,7 @@ protected:
   static Steps Okays(std::size_t count) { return Steps(count, std::string("answer OK")); }
 
   tests::TemporaryFolder folder_;
-  platform::PosixMachine machine_{folder_.Path(), "C"};
+  platform::SystemMachine machine_{folder_.Path(), "C"};
   state::ProgramState state_;
   ScriptedLibrary library_;
   platform::ScriptRun run_;

@@ -5,7 +5,7 @@
 #include <filesystem>
 
 #include "platform/number_text.h"
-#include "platform/posix/posix_machine.h"
+#include "platform/system/system_machine.h"
 #include "pls/loaded_prediction_library.h"
 #include "pls/main_form.h"
 #include "plslibrary/calibration_file.h"
@@ -29,7 +29,7 @@ protected:
   Prediction() {
     fs::create_directories(folder_.Path() / "drive_c");
     fs::create_directories(Programs());
-    fs::copy_file(VERITANE_PREDICTION_LIBRARY, Programs() / "libplsiqp32.so");
+    fs::copy_file(VERITANE_PREDICTION_LIBRARY, Programs() / VERITANE_LIBRARY_FILE_NAME);
     state_.calfilename = "C:\\Gas.cal";
     machine_.files.WriteBytes(state_.calfilename,
                               plslibrary::CalibrationFileText(std::vector{
@@ -58,7 +58,7 @@ protected:
 
   const plslibrary::Gasoline gasoline_;
   tests::TemporaryFolder folder_;
-  platform::PosixMachine machine_{folder_.Path(), "C"};
+  platform::SystemMachine machine_{folder_.Path(), "C"};
   platform::DynamicLibraryLoader libraries_{machine_.paths, Programs()};
   std::optional<std::string> clipboard_;
   LoadedPredictionLibrary library_{libraries_, [this] { return clipboard_; }};

@@ -245,7 +245,7 @@ TEST_F(PlsLibrary, AFailedLoadLeavesNoSpectrumThatCouldBeTakenForIt) {
   ASSERT_EQ(PredictSpectrum(gasoline_.Measured(0)), 0);
   const std::vector<double> concentration = Item("concentration");
   EXPECT_EQ(LoadSpcDiskFile(handle_, PathOf("missing.spc").c_str()), 4);
-  EXPECT_EQ(LoadSpcDiskFile(handle_, folder_.c_str()), 4);
+  EXPECT_EQ(LoadSpcDiskFile(handle_, folder_.string().c_str()), 4);
   EXPECT_EQ(LoadSpcDiskFile(handle_, PathOf("gas.cal").c_str()), 5);
   EXPECT_EQ(Item("concentration"), concentration) << "an earlier prediction stays until the next one";
   EXPECT_EQ(PlsIqPredic(handle_, 1), 5);
@@ -301,7 +301,7 @@ TEST_F(PlsLibrary, SeveralFilesAreOpenAtOnce) {
 TEST_F(PlsLibrary, CallsThatMakeNoSenseAreAnsweredByACode) {
   EXPECT_EQ(LoadCalFile(nullptr), 0);
   EXPECT_EQ(LoadCalFile(PathOf("missing.cal").c_str()), 0);
-  EXPECT_EQ(LoadCalFile(folder_.c_str()), 0);
+  EXPECT_EQ(LoadCalFile(folder_.string().c_str()), 0);
   Write("foreign.cal", "something else");
   EXPECT_EQ(LoadCalFile(PathOf("foreign.cal").c_str()), 0);
   double value = 0;

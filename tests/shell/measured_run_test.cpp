@@ -85,6 +85,7 @@ TEST_F(MeasuredRunTest, AnInstrumentOfTheYoungerFamilyGetsItsOptionBeforeEveryCo
   SetInstrument("polystyrene", 5, 1);
   platform::ScriptRun second;
   std::unique_ptr<shell::FrmVeritane> program;
+  program_.reset();
   second.program.start = Starter(second, program);
   Steps steps = EnterSample("PS");
   for (int box = 0; box < 3; ++box) steps.push_back("answer OK");
@@ -204,6 +205,7 @@ TEST_F(MeasuredRunTest, ADemonstrationDestroysNothingThatWasMeasured) {
   WriteSpectrum(Standard("aspirin.bsp"), 100, 4, Bands(301));
   platform::ScriptRun second;
   std::unique_ptr<shell::FrmVeritane> program;
+  program_.reset();
   second.program.start = Starter(second, program);
   Steps steps = EnterSample("PS", "shown");
   steps.push_back("answer OK");

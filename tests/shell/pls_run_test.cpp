@@ -53,7 +53,8 @@ TEST_F(PlsRunTest, ABlendIsPredictedWithinTheErrorThatItsCrossValidationPromises
   const auto header = Header();
   ASSERT_EQ(header.size(), 2U);
   EXPECT_THAT(header[0], StartsWith("Polystyrene = "));
-  EXPECT_THAT(header[1], ::testing::MatchesRegex("Polyethylene = [67][0-9]\\.[0-9][0-9] %"));
+  EXPECT_THAT(header[1], ::testing::AnyOf(::testing::MatchesRegex("Polyethylene = 6.\\... %"),
+                                          ::testing::MatchesRegex("Polyethylene = 7.\\... %")));
   EXPECT_EQ(Verdict(), "");
   EXPECT_THAT(Caption("frmVeritane.lblResult"), StartsWith("Sample Name: Lot 7 .  "));
   EXPECT_THAT(Read(Sample("ps-pe-blend.his")), HasSubstr(",ps-pe-blend,PLS,Fail,,Ann\r\n"));

@@ -27,19 +27,25 @@ ProgramTest::ProgramTest() {
   run_.program.setClock = [this](const platform::DateTime& now) { machine_.clock.Set(now); };
 }
 
+std::unique_ptr<acquisition::SpectrometerApp> ProgramTest::Connect(const std::string& prog_id) {
+  if (!TestsGoThroughAutomation()) return bench_.Create(prog_id);
+  automation_ = std::make_unique<InMemoryAutomation>(simulator::ServeSpectrometerApp(bench_.Create(prog_id)));
+  return acquisition::ConnectSpectrometerApp(*automation_, prog_id, {});
+}
+
 std::function<void()> ProgramTest::Starter(platform::ScriptRun& run,
                                            std::unique_ptr<shell::FrmVeritane>& program) {
   return [this, &run, &program] {
     run.Screen().UsePrinter(printer_);
     program = std::make_unique<shell::FrmVeritane>(
-        run.Screen(), Facilities(), [this](const std::string& prog_id) { return bench_.Create(prog_id); });
+        run.Screen(), Facilities(), [this](const std::string& prog_id) { return Connect(prog_id); });
     program->Form_Load();
   };
 }
 
 platform::Machine ProgramTest::Facilities() {
   return {.files = machine_.files,
-          .registry = machine_.registry,
+          .registry = *machine_.registry,
           .folders = folders_,
           .user = machine_.user,
           .clock = machine_.clock,

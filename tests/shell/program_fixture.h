@@ -11,9 +11,10 @@
 
 #include "apps/simulated_bench.h"
 #include "platform/pdf/pdf_printer.h"
-#include "platform/posix/posix_machine.h"
 #include "platform/scripted/script_run.h"
+#include "platform/system/system_machine.h"
 #include "shell/frm_veritane.h"
+#include "tests/support/automation_connection.h"
 #include "tests/support/temporary_folder.h"
 #include "tests/support/test_folders.h"
 
@@ -53,6 +54,8 @@ protected:
   // A data file of the tests under another name.
   void CopyTestData(const std::string& name, const std::string& path);
 
+  // The simulated application, in process or through automation as the environment asks for.
+  std::unique_ptr<acquisition::SpectrometerApp> Connect(const std::string& prog_id);
   // What starts a program on this machine in a run of its own.
   std::function<void()> Starter(platform::ScriptRun& run, std::unique_ptr<shell::FrmVeritane>& program);
 
@@ -74,11 +77,12 @@ protected:
   std::vector<std::string> Calls() { return bench_.Calls().Take(); }
 
   TemporaryFolder folder_;
-  platform::PosixMachine machine_{folder_.Path(), "C"};
+  platform::SystemMachine machine_{folder_.Path(), "C"};
   TestFolders folders_;
   // The prediction library lies beside the programs, not beside the tests.
   platform::DynamicLibraryLoader libraries_{machine_.paths, VERITANE_PROGRAMS};
   apps::SimulatedBench bench_{machine_, [](std::chrono::milliseconds) {}};
+  std::unique_ptr<InMemoryAutomation> automation_;
   // There is no printer: everything goes into files.
   platform::PdfPrinter printer_{machine_.files, machine_.clock, [this] { return program_->PrintFolder(); }};
   platform::ScriptRun run_;

@@ -66,6 +66,30 @@ TEST_F(StartUpTest, ACalibrationThatFailsTwiceIsReportedAndTheOperatorScreenOpen
   EXPECT_EQ(run_.Screen().MousePointer(), platform::Pointer::kDefault);
 }
 
+TEST_F(StartUpTest, ASecondProgramOnTheSameDataSaysSoAndEndsWithoutTouchingThem) {
+  WriteMeasuringMethod();
+  Play({"start"});
+  Calls();
+  Write(Data("Meth.tbl"), " 1 \r\nP1,Disc,PLS,[VERITANE_TARGETDIR]a.cal\r\n");
+  const std::string settings = Read(Data("settings.ini"));
+  platform::ScriptRun second;
+  std::unique_ptr<shell::FrmVeritane> program;
+  second.program.start = Starter(second, program);
+  const auto events = second.Lines({"start"});
+  EXPECT_THAT(events.Messages(), ElementsAre("Veritane is running already with the data in " + Data("") +
+                                             "\r\nPlease go on in its window."));
+  EXPECT_EQ(events.Last("exit")["status"], 1);
+  EXPECT_THAT(Calls(), IsEmpty()) << "the first one's Spectrometer application";
+  EXPECT_THAT(Read(Data("Meth.tbl")), HasSubstr("[VERITANE_TARGETDIR]"));
+  EXPECT_EQ(Read(Data("settings.ini")), settings);
+  // The first one has gone when the next one starts.
+  program.reset();
+  program_.reset();
+  platform::ScriptRun third;
+  third.program.start = Starter(third, program);
+  EXPECT_THAT(third.Lines({"start"}).Messages(), IsEmpty());
+}
+
 TEST_F(StartUpTest, WithoutItsCalibrationMethodTheProgramSaysSoAndEnds) {
   WriteSettings(false);
   WriteMeasuringMethod();

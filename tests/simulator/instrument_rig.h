@@ -37,6 +37,9 @@ public:
   std::unique_ptr<platform::AppendingFile> OpenForAppending(const std::string&) override {
     throw std::logic_error("not used here");
   }
+  std::unique_ptr<platform::TakenFile> TakeFile(const std::string&) override {
+    return std::make_unique<platform::TakenFile>();
+  }
   void DeleteFile(const std::string&) override { throw std::logic_error("not used here"); }
   void MoveFile(const std::string&, const std::string&) override { throw std::logic_error("not used here"); }
   platform::DateTime LastModified(const std::string&) const override {

@@ -36,6 +36,9 @@ public:
   std::unique_ptr<platform::AppendingFile> OpenForAppending(const std::string& path) override {
     Unexpected(path);
   }
+  std::unique_ptr<platform::TakenFile> TakeFile(const std::string&) override {
+    return std::make_unique<platform::TakenFile>();
+  }
   void DeleteFile(const std::string& path) override { files_.erase(Key(path)); }
   void MoveFile(const std::string& from, const std::string&) override { Unexpected(from); }
   platform::DateTime LastModified(const std::string& path) const override { Unexpected(path); }

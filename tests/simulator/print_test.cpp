@@ -6,10 +6,11 @@
 #include <sstream>
 
 #include "platform/pdf/pdf_document.h"
-#include "platform/posix/posix_machine.h"
+#include "platform/system/system_machine.h"
 #include "simulator/simulated_spectrometer.h"
 #include "tests/simulator/memory_file_system.h"
 #include "tests/simulator/queued_device.h"
+#include "tests/support/automation_connection.h"
 #include "tests/support/errors.h"
 #include "tests/support/pdf_text.h"
 #include "tests/support/temporary_folder.h"
@@ -55,9 +56,9 @@ protected:
   }
 
   void PrintInto(const std::string& folder) {
-    app.PrintInto({.folder = folder,
-                   .makePdf = platform::MakePdf,
-                   .printed = [this](const std::string& path) { printed.push_back(path); }});
+    simulated.PrintInto({.folder = folder,
+                         .makePdf = platform::MakePdf,
+                         .printed = [this](const std::string& path) { printed.push_back(path); }});
   }
 
   void Store(const std::string& path, const std::vector<std::string>& names, double shift) {
@@ -74,7 +75,7 @@ protected:
       spectrum->GetParameter("Sample Name")->SetValue("Lot 4711: " + name);
     }
     document->CloseDocument(true);
-    app.TakeCalls();
+    simulated.TakeCalls();
   }
 
   std::shared_ptr<acquisition::Document> ShowSample(std::int16_t index) {
@@ -115,9 +116,11 @@ protected:
   static constexpr const char* kCertificate = "C:\\Certificate of identity.bpt";
   static constexpr const char* kOverlay = "C:\\Overlay.bpt";
   tests::TemporaryFolder root;
-  platform::PosixMachine machine{root.Path(), "C"};
+  platform::SystemMachine machine{root.Path(), "C"};
   QueuedDevice device;
-  SimulatedSpectrometer app{machine.files, machine.clock, device};
+  SimulatedSpectrometer simulated{machine.files, machine.clock, device};
+  tests::ConnectionUnderTest connection{simulated};
+  acquisition::SpectrometerApp& app = connection.App();
   std::vector<std::string> printed;
 };
 
@@ -142,7 +145,7 @@ TEST_F(Prints, TheCertificateIsOnePageOfVectorsWithSampleStandardAndMarkers) {
 TEST_F(Prints, EveryCallOfAPrintIsLoggedInItsOrder) {
   ShowSample(1);
   Print(*ShowStandard({906}), kOverlay);
-  EXPECT_THAT(app.TakeCalls(),
+  EXPECT_THAT(simulated.TakeCalls(),
               ElementsAre("OpenDocument(C:\\sample.bsp)", "SelectSpectrum(1)", "PrepareSampleView",
                           "OpenDocument(C:\\standard.bsp)", "ActiveDocument", "GetSpectrumAt(1)",
                           "GetMarkerList", "AddMarker(906)", "SetKind(2)", "SetStyle(0)",
@@ -206,7 +209,7 @@ TEST_F(Prints, AMissingFolderIsToldAndThePrintCanBeRepeated) {
 TEST(PrintFaults, AFullDiskAndAReadOnlyFolderAreErrorsThatLeaveNoPrint) {
   MemoryFileSystem files;
   tests::TemporaryFolder root;
-  platform::PosixMachine machine(root.Path(), "C");
+  platform::SystemMachine machine(root.Path(), "C");
   QueuedDevice device;
   SimulatedSpectrometer app(files, machine.clock, device);
   std::vector<std::string> printed;

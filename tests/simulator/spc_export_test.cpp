@@ -7,12 +7,13 @@
 #include <filesystem>
 #include <fstream>
 
-#include "platform/posix/disk_file_system.h"
+#include "platform/system/disk_file_system.h"
 #include "plslibrary/spc_reader.h"
 #include "simulator/simulated_spectrometer.h"
 #include "simulator/spc_writer.h"
 #include "tests/simulator/memory_file_system.h"
 #include "tests/simulator/queued_device.h"
+#include "tests/support/automation_connection.h"
 #include "tests/support/errors.h"
 #include "tests/support/temporary_folder.h"
 
@@ -72,7 +73,7 @@ public:
 };
 
 // A document with two spectra of three points.
-std::shared_ptr<acquisition::Document> TwoSpectra(SimulatedSpectrometer& app, QueuedDevice& device) {
+std::shared_ptr<acquisition::Document> TwoSpectra(acquisition::SpectrometerApp& app, QueuedDevice& device) {
   const auto document = app.NewDocument("C:\\s\\a.bsp");
   const auto method = app.LoadCollectMethod("C:\\m.clm");
   device.Queue({1, 2, 3}, "first");
@@ -95,7 +96,9 @@ protected:
   MemoryFileSystem files;
   StandingClock clock;
   QueuedDevice device;
-  SimulatedSpectrometer app{files, clock, device};
+  SimulatedSpectrometer simulated{files, clock, device};
+  tests::ConnectionUnderTest connection{simulated};
+  acquisition::SpectrometerApp& app = connection.App();
 };
 
 StoredSpectrum Spectrum(std::vector<double> values) {
@@ -177,15 +180,15 @@ TEST_F(SpcExport, AFailureIsRaisedAndLeavesTheFileThatWasThere) {
 
 TEST_F(SpcExport, EachKindOfOperationHasItsOwnPropertyAlone) {
   const auto document = TwoSpectra(app, device);
-  app.TakeCalls();
+  simulated.TakeCalls();
   const auto exporting = document->CreateOperation("Export");
   const auto unary = document->CreateOperation("Unary");
   EXPECT_EQ(ErrorOf([&] { exporting->SetOperation(6); }), 5);
   EXPECT_EQ(ErrorOf([&] { unary->SetFileName("C:\\temp.spc"); }), 5);
   exporting->SetFileName("c:\\temp.spc");
   document->ApplyOperation(*exporting);
-  EXPECT_THAT(app.TakeCalls(), ElementsAre("CreateOperation(Export)", "CreateOperation(Unary)",
-                                           "ApplyOperation(c:\\temp.spc)"));
+  EXPECT_THAT(simulated.TakeCalls(), ElementsAre("CreateOperation(Export)", "CreateOperation(Unary)",
+                                                 "ApplyOperation(c:\\temp.spc)"));
 }
 
 TEST(SpcExportOnDisk, FoldersAndCaseOfTheDriveAreThoseOfSaving) {

@@ -21,7 +21,7 @@
 #include "acquisition/frm_select_method.h"
 #include "acquisition/frm_status.h"
 #include "identification/frm_samp.h"
-#include "platform/posix/posix_machine.h"
+#include "platform/system/system_machine.h"
 #include "platform/wx/wx_user_interface.h"
 #include "pls/main_form.h"
 #include "review/frm_results.h"
@@ -340,7 +340,7 @@ private:
   acquisition::FrmStatus status_{desktop_};
   review::FrmResults results_{desktop_};
   review::FrmSelectSpectrum select_spectrum_{desktop_};
-  platform::PosixMachine machine_{folder_, "C"};
+  platform::SystemMachine machine_{folder_, "C"};
   state::ProgramState state_;
   TabletLibrary library_;
   pls::MainForm prediction_{desktop_,

@@ -248,7 +248,7 @@ private:
 
   PictureInterface& screen_;
   tests::TemporaryFolder folder_;
-  PosixMachine machine_{folder_.Path(), "C"};
+  SystemMachine machine_{folder_.Path(), "C"};
   Desktop desktop_{screen_};
   apps::SimulatedBench bench_{machine_, [this](std::chrono::milliseconds) { WhileMeasuring(); }};
   shell::FrmVeritane main_{desktop_, machine_.Facilities(),

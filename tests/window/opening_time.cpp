@@ -83,7 +83,7 @@ private:
   }
 
   tests::TemporaryFolder folder_;
-  PosixMachine machine_{folder_.Path(), "C"};
+  SystemMachine machine_{folder_.Path(), "C"};
   WxUserInterface screen_{{.toNative = Same, .toWindows = Same}};
   Desktop desktop_{screen_};
   apps::SimulatedBench bench_{machine_, [](std::chrono::milliseconds) {}};

@@ -93,7 +93,7 @@ protected:
 
   Machine Facilities() {
     return {.files = machine_.files,
-            .registry = machine_.registry,
+            .registry = *machine_.registry,
             .folders = folders_,
             .user = machine_.user,
             .clock = machine_.clock,
@@ -102,7 +102,7 @@ protected:
   }
 
   tests::TemporaryFolder folder_;
-  PosixMachine machine_{folder_.Path(), "C"};
+  SystemMachine machine_{folder_.Path(), "C"};
   tests::TestFolders folders_;
   apps::SimulatedBench bench_{machine_, [](std::chrono::milliseconds) {}};
   shell::FrmVeritane main_{desktop_, Facilities(),

@@ -120,7 +120,7 @@ TEST_F(SupervisorWindowTest, ThePartOfAProductIdIsHighlightedWithMouseOrKeyboard
   Click("cmdParse");
   WaitForTheLastStep();
   EXPECT_EQ(machine_.files.ReadBytes(definition), " 1 \r\n 6 \r\n");
-  machine_.files.DeleteFile(definition);
+  std::filesystem::remove(machine_.paths.ToNative(definition));
 }
 
 TEST_F(SupervisorWindowTest, ATableOfTenThousandProductsOpensAtOnce) {

@@ -1,8 +1,8 @@
-// Files on a POSIX disk by Windows path.
+// Files on disk by Windows path.
 #pragma once
 
 #include "platform/file_system.h"
-#include "platform/posix/path_map.h"
+#include "platform/system/path_map.h"
 
 namespace veritane::platform {
 
@@ -18,6 +18,7 @@ public:
   std::string ReadBytes(const std::string& path) const override;
   void WriteBytes(const std::string& path, std::string_view bytes) override;
   std::unique_ptr<AppendingFile> OpenForAppending(const std::string& path) override;
+  std::unique_ptr<TakenFile> TakeFile(const std::string& path) override;
   void DeleteFile(const std::string& path) override;
   void MoveFile(const std::string& from, const std::string& to) override;
   DateTime LastModified(const std::string& path) const override;

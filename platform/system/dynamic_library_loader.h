@@ -1,10 +1,10 @@
-// Dynamic libraries of a POSIX system.
+// Dynamic libraries of the system.
 #pragma once
 
 #include <filesystem>
 
 #include "platform/dynamic_library.h"
-#include "platform/posix/path_map.h"
+#include "platform/system/path_map.h"
 
 namespace veritane::platform {
 

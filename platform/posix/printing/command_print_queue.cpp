@@ -1,5 +1,5 @@
 // Running lpstat and lp.
-#include "platform/posix/command_print_queue.h"
+#include "platform/posix/printing/command_print_queue.h"
 
 #include <spawn.h>
 #include <sys/wait.h>

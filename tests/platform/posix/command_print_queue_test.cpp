@@ -1,5 +1,5 @@
 // The print queue's commands, played by small scripts.
-#include "platform/posix/command_print_queue.h"
+#include "platform/posix/printing/command_print_queue.h"
 
 #include <gmock/gmock.h>
 

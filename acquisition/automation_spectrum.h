@@ -1,0 +1,13 @@
+// A spectrum that another program holds.
+#pragma once
+
+#include <memory>
+
+#include "acquisition/automation_object.h"
+#include "acquisition/spectrometer_app.h"
+
+namespace veritane::acquisition {
+
+std::shared_ptr<Spectrum> MakeAutomationSpectrum(ServerObject spectrum);
+
+}  // namespace veritane::acquisition

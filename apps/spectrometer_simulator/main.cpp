@@ -1,0 +1,115 @@
+// spectrometer-simulator: the simulated Spectrometer application as an automation server.
+#include <algorithm>
+#include <cstdlib>
+#include <fstream>
+#include <iostream>
+#include <string>
+#include <thread>
+
+#include "apps/command_line.h"
+#include "apps/simulated_bench.h"
+#include "apps/spectrometer_simulator/served_spectrometer.h"
+#include "platform/automation_server.h"
+#include "platform/number_text.h"
+#include "platform/system/native_path.h"
+#include "platform/system/system_machine.h"
+#include "simulator/automation_server.h"
+
+namespace {
+
+using namespace veritane;
+
+constexpr const char* kUsage =
+    "usage: spectrometer-simulator /regserver [--root DIR]\n"
+    "       spectrometer-simulator /unregserver\n"
+    "       spectrometer-simulator /automation [--root DIR] [--now ISO-TIME] [--ready FILE]\n"
+    "                              [--busy MILLISECONDS] [--die-in-collection NUMBER]\n"
+    "  --root DIR                  the data root; drive C is its folder drive_c\n"
+    "  --now TIME                  the time that the simulator sees, e.g. 2026-11-21T10:59:00\n"
+    "  --ready FILE                made once programs can connect\n"
+    "  --busy MILLISECONDS         refuses calls for so long, once the first document has been opened\n"
+    "  --die-in-collection NUMBER  the process dies in the middle of this collection, from 1\n";
+
+const platform::ServedClass kClass{.progId = "quillon.app.1",
+                                   .classId = "{15CBD401-DC7F-4B81-A5D4-F585FC25552F}",
+                                   .description = "Simulated Spectrometer application"};
+
+std::string Quoted(const std::string& text) {
+  return '"' + text + '"';
+}
+
+int Register(const apps::CommandLine& line) {
+  const std::filesystem::path program = platform::NativeProgramFolder() / "spectrometer-simulator.exe";
+  std::string command_line = Quoted(platform::Utf8Of(program)) + " /automation";
+  if (const auto root = line.Option("--root")) command_line += " --root " + Quoted(*root);
+  platform::RegisterServer(kClass, command_line);
+  return 0;
+}
+
+int WholeNumber(const apps::CommandLine& line, const std::string& option) {
+  const std::string text = line.Option(option).value_or("0");
+  const auto number = platform::ParseNumber(text);
+  if (!number || *number < 0 || *number > 1e9) {
+    throw apps::UsageError(option + " takes a whole number, not \"" + text + "\"");
+  }
+  return static_cast<int>(*number);
+}
+
+// Lets the time of a measurement pass. In the middle of the collection that it was told, the process dies.
+class Passing {
+public:
+  explicit Passing(int fatal_collection) : left_(fatal_collection) {}
+
+  void Wait(std::chrono::milliseconds time, simulator::CallLog& calls) {
+    std::this_thread::sleep_for(time);
+    const auto noted = calls.Take();
+    if (left_ == 0 || std::ranges::find(noted, "CollectInto") == noted.end()) return;
+    if (--left_ == 0) std::_Exit(EXIT_FAILURE);
+  }
+
+private:
+  int left_;
+};
+
+int Serve(const apps::CommandLine& line) {
+  platform::SystemMachine machine(line.Option("--root").value_or(platform::DefaultRoot().string()), "");
+  if (const auto now = line.Option("--now")) {
+    const auto moment = platform::ParseIsoDateTime(*now);
+    if (!moment) throw apps::UsageError("\"" + *now + "\" is no time");
+    machine.clock.Set(*moment);
+  }
+  Passing passing(WholeNumber(line, "--die-in-collection"));
+  simulator::CallLog* calls = nullptr;
+  apps::SimulatedBench bench(machine, [&](std::chrono::milliseconds time) { passing.Wait(time, *calls); });
+  calls = &bench.Calls();
+  const auto server = platform::SystemAutomationServer();
+  auto app = std::make_shared<simulator_process::ServedSpectrometer>(
+      bench.Create(kClass.progId), *server, std::chrono::milliseconds(WholeNumber(line, "--busy")));
+  server->Serve(kClass, simulator::ServeSpectrometerApp(std::move(app)), [&] {
+    if (const auto ready = line.Option("--ready")) std::ofstream(platform::PathFromUtf8(*ready)) << "ready\n";
+  });
+  return 0;
+}
+
+// The system itself adds "-Embedding" to the line that starts a server.
+int Run(const apps::CommandLine& line) {
+  if (line.Words().empty()) throw apps::UsageError("it is told what to do, or started by the system");
+  const std::string& word = line.Words().front();
+  if (word == "/regserver") return Register(line);
+  if (word == "/unregserver") {
+    platform::UnregisterServer(kClass);
+    return 0;
+  }
+  if (word == "/automation") return Serve(line);
+  throw apps::UsageError("\"" + word + "\" is not understood");
+}
+
+}  // namespace
+
+int main(int argument_count, char** arguments) {
+  return apps::RunProgram({.name = "spectrometer-simulator",
+                           .usage = kUsage,
+                           .options = {"--root", "--now", "--ready", "--busy", "--die-in-collection"},
+                           .mostWords = 2},
+                          argument_count, arguments, Run);
+}

@@ -1,0 +1,15 @@
+# veritane_windows_program(<target> [WINDOW]) gives a program its manifest and version on Windows, and takes the console
+# from one with a WINDOW. Does nothing elsewhere.
+function(veritane_windows_program TARGET)
+  cmake_parse_arguments(PROGRAM "WINDOW" "" "" ${ARGN})
+  if(NOT WIN32)
+    return()
+  endif()
+  set(resources ${CMAKE_CURRENT_BINARY_DIR}/${TARGET}.rc)
+  configure_file(${CMAKE_SOURCE_DIR}/packaging/windows/program.rc.in ${resources} @ONLY)
+  target_sources(${TARGET} PRIVATE ${resources})
+  if(PROGRAM_WINDOW)
+    set_target_properties(${TARGET} PROPERTIES WIN32_EXECUTABLE TRUE)
+    set_source_files_properties(${resources} PROPERTIES COMPILE_DEFINITIONS VERITANE_WITH_TOOLKIT)
+  endif()
+endfunction()

@@ -1,0 +1,143 @@
+// What file operations promise, on the system's own calls.
+#include "platform/system/disk_file_system.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "platform/run_time_error.h"
+#include "platform/system/native_file.h"
+#include "platform/system/native_path.h"
+
+namespace veritane::platform {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+// A new file that is gone with this object, unless it took another's place.
+class TemporaryFile {
+public:
+  TemporaryFile(const fs::path& target, const std::string& path)
+      : target_(target), path_(path), file_(NativeFile::CreateBeside(target, path)) {}
+  ~TemporaryFile() {
+    if (is_in_place_) return;
+    std::error_code ignored;
+    fs::remove(file_.Native(), ignored);
+  }
+  TemporaryFile(const TemporaryFile&) = delete;
+  TemporaryFile& operator=(const TemporaryFile&) = delete;
+
+  NativeFile& File() { return file_; }
+
+  void TakeItsPlace() {
+    file_.Close();
+    MoveOver(file_.Native(), target_, path_);
+    is_in_place_ = true;
+  }
+
+private:
+  const fs::path target_;
+  const std::string path_;
+  NativeFile file_;
+  bool is_in_place_ = false;
+};
+
+class DiskAppendingFile : public AppendingFile {
+public:
+  DiskAppendingFile(const fs::path& native, const std::string& path, const Clock& clock)
+      : clock_(clock), file_(NativeFile::OpenToAppend(native, path)) {}
+
+  void Append(std::string_view bytes) override {
+    const std::int64_t before = file_.Size();
+    try {
+      file_.Write(bytes);
+    } catch (const RunTimeError&) {
+      // Half a line is worse than none: take back what a full disk let through.
+      file_.CutTo(before);
+      throw;
+    }
+    file_.Stamp(clock_.Now());
+  }
+
+private:
+  const Clock& clock_;
+  NativeFile file_;
+};
+
+class DiskTakenFile : public TakenFile {
+public:
+  explicit DiskTakenFile(NativeFile file) : file_(std::move(file)) {}
+
+private:
+  NativeFile file_;
+};
+
+}  // namespace
+
+bool DiskFileSystem::FileExists(const std::string& path) const {
+  std::error_code error;
+  return paths_.Names(path) && fs::is_regular_file(paths_.ToNative(path), error);
+}
+
+bool DiskFileSystem::FolderExists(const std::string& path) const {
+  std::error_code error;
+  return paths_.Names(path) && fs::is_directory(paths_.ToNative(path), error);
+}
+
+void DiskFileSystem::CreateFolder(const std::string& path) {
+  CreateFolderAt(paths_.ToNative(path), path);
+}
+
+std::string DiskFileSystem::ReadBytes(const std::string& path) const {
+  return NativeFile::OpenToRead(paths_.ToNative(path), path).ReadAll();
+}
+
+void DiskFileSystem::WriteBytes(const std::string& path, std::string_view bytes) {
+  const fs::path native = paths_.ToNative(path);
+  RequireReplaceable(native, path);
+  TemporaryFile temporary(native, path);
+  temporary.File().Write(bytes);
+  temporary.File().Stamp(clock_.Now());
+  temporary.File().Flush();
+  temporary.TakeItsPlace();
+}
+
+std::unique_ptr<AppendingFile> DiskFileSystem::OpenForAppending(const std::string& path) {
+  return std::make_unique<DiskAppendingFile>(paths_.ToNative(path), path, clock_);
+}
+
+std::unique_ptr<TakenFile> DiskFileSystem::TakeFile(const std::string& path) {
+  std::optional<NativeFile> file = NativeFile::OpenAlone(paths_.ToNative(path), path);
+  return file ? std::make_unique<DiskTakenFile>(std::move(*file)) : nullptr;
+}
+
+void DiskFileSystem::DeleteFile(const std::string& path) {
+  RemoveFileAt(paths_.ToNative(path), path);
+}
+
+void DiskFileSystem::MoveFile(const std::string& from, const std::string& to) {
+  const fs::path source = paths_.ToNative(from);
+  const fs::path target = paths_.ToNative(to);
+  std::error_code ignored;
+  if (!fs::exists(source, ignored)) throw RunTimeError(ErrorNumber::kFileNotFound, from);
+  if (fs::exists(target, ignored)) throw RunTimeError(ErrorNumber::kFileExists, to);
+  MoveOver(source, target, to);
+}
+
+DateTime DiskFileSystem::LastModified(const std::string& path) const {
+  return clock_.ToLocal(LastChange(paths_.ToNative(path), path));
+}
+
+std::vector<std::string> DiskFileSystem::ListFiles(const std::string& folder) const {
+  std::error_code error;
+  std::vector<std::string> names;
+  for (fs::directory_iterator it(paths_.ToNative(folder), error), end; !error && it != end;
+       it.increment(error)) {
+    if (it->is_regular_file()) names.push_back(Utf8Of(it->path().filename()));
+  }
+  if (error) throw RunTimeError(ErrorNumber::kPathNotFound, folder);
+  std::sort(names.begin(), names.end());
+  return names;
+}
+
+}  // namespace veritane::platform

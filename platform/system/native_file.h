@@ -1,0 +1,63 @@
+// The system's own file calls, so that every failure is seen and flushing is ours to order. Each function
+// raises the RunTimeError of its failure with `path`, the name by which the program knows the file.
+#pragma once
+
+#include <chrono>
+#include <cstdint>
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace veritane::platform {
+
+// An open file that is closed when it goes out of scope.
+class NativeFile {
+public:
+  static NativeFile OpenToRead(const std::filesystem::path& native, const std::string& path);
+  // Created where it is missing; what is written goes to its end.
+  static NativeFile OpenToAppend(const std::filesystem::path& native, const std::string& path);
+  // For this program alone, created where it is missing; nothing while another program has it.
+  static std::optional<NativeFile> OpenAlone(const std::filesystem::path& native, const std::string& path);
+  // A new file beside `native`, under a name that nothing has.
+  static NativeFile CreateBeside(const std::filesystem::path& native, const std::string& path);
+
+  NativeFile(NativeFile&& other) noexcept;
+  NativeFile& operator=(NativeFile&&) = delete;
+  ~NativeFile();
+
+  const std::filesystem::path& Native() const { return native_; }
+
+  std::string ReadAll();
+  void Write(std::string_view bytes);
+  std::int64_t Size();
+  // Cuts the file to a size that it had.
+  void CutTo(std::int64_t size);
+  // Sets the time of the last change. A file system that keeps no times still holds the data, so nothing is
+  // raised.
+  void Stamp(std::chrono::system_clock::time_point moment);
+  // Returns when the bytes are on the disk.
+  void Flush();
+  // Closes now, so that a failure is seen.
+  void Close();
+
+private:
+  // A descriptor of a POSIX system, a handle of Windows.
+  using Handle = std::intptr_t;
+  NativeFile(Handle handle, std::filesystem::path native, std::string path);
+
+  Handle handle_;
+  std::filesystem::path native_;
+  std::string path_;
+};
+
+void CreateFolderAt(const std::filesystem::path& native, const std::string& path);
+void RemoveFileAt(const std::filesystem::path& native, const std::string& path);
+// Error 70 or 75 for what WriteBytes may not replace: a folder, a file that may not be written.
+void RequireReplaceable(const std::filesystem::path& native, const std::string& path);
+// `from` becomes `to`, in one step and for good: after a power failure one of the two is there, whole.
+void MoveOver(const std::filesystem::path& from, const std::filesystem::path& to, const std::string& path);
+std::chrono::system_clock::time_point LastChange(const std::filesystem::path& native,
+                                                 const std::string& path);
+
+}  // namespace veritane::platform

@@ -1,0 +1,28 @@
+// The system's clock and time zone.
+#pragma once
+
+#include <chrono>
+#include <optional>
+
+#include "platform/date_time.h"
+
+namespace veritane::platform {
+
+// It can be set, for repeatable runs; it then stands still.
+class SystemClock : public Clock {
+public:
+  std::chrono::system_clock::time_point Now() const override;
+  DateTime ToLocal(std::chrono::system_clock::time_point moment) const override;
+
+  // Makes a local moment the present one.
+  void Set(const DateTime& local);
+
+private:
+  std::optional<std::chrono::system_clock::time_point> fixed_;
+};
+
+// The moment in the system's time zone, and back. Error 6 for a date that the system cannot tell.
+DateTime LocalTimeOf(std::chrono::system_clock::time_point moment);
+std::chrono::system_clock::time_point MomentOf(const DateTime& local);
+
+}  // namespace veritane::platform

@@ -1,0 +1,67 @@
+// The time zone of Windows, with the rules of each year.
+#include <windows.h>
+
+#include "platform/run_time_error.h"
+#include "platform/system/system_clock.h"
+
+namespace veritane::platform {
+
+namespace {
+
+WORD Word(int number) {
+  return static_cast<WORD>(number);
+}
+
+DateTime DateTimeOf(const SYSTEMTIME& time) {
+  return {.year = time.wYear,
+          .month = time.wMonth,
+          .day = time.wDay,
+          .hour = time.wHour,
+          .minute = time.wMinute,
+          .second = time.wSecond};
+}
+
+SYSTEMTIME SystemTimeOf(const DateTime& moment) {
+  SYSTEMTIME time{};
+  time.wYear = Word(moment.year);
+  time.wMonth = Word(moment.month);
+  time.wDay = Word(moment.day);
+  time.wHour = Word(moment.hour);
+  time.wMinute = Word(moment.minute);
+  time.wSecond = Word(moment.second);
+  return time;
+}
+
+// The rules of the system's time zone in this year.
+TIME_ZONE_INFORMATION RulesOf(WORD year) {
+  DYNAMIC_TIME_ZONE_INFORMATION zone{};
+  TIME_ZONE_INFORMATION rules{};
+  ::GetDynamicTimeZoneInformation(&zone);
+  if (!::GetTimeZoneInformationForYear(year, &zone, &rules)) ::GetTimeZoneInformation(&rules);
+  return rules;
+}
+
+}  // namespace
+
+DateTime LocalTimeOf(std::chrono::system_clock::time_point moment) {
+  const auto seconds = std::chrono::floor<std::chrono::seconds>(moment.time_since_epoch()).count();
+  const SYSTEMTIME universal = SystemTimeOf(FromWallClockSeconds(seconds));
+  const TIME_ZONE_INFORMATION rules = RulesOf(universal.wYear);
+  SYSTEMTIME local;
+  if (!::SystemTimeToTzSpecificLocalTime(&rules, &universal, &local)) {
+    throw RunTimeError(ErrorNumber::kOverflow, "the date");
+  }
+  return DateTimeOf(local);
+}
+
+std::chrono::system_clock::time_point MomentOf(const DateTime& local) {
+  const SYSTEMTIME time = SystemTimeOf(local);
+  const TIME_ZONE_INFORMATION rules = RulesOf(time.wYear);
+  SYSTEMTIME universal;
+  if (!::TzSpecificLocalTimeToSystemTime(&rules, &time, &universal)) {
+    throw RunTimeError(ErrorNumber::kOverflow, "the date");
+  }
+  return std::chrono::system_clock::time_point(std::chrono::seconds(WallClockSeconds(DateTimeOf(universal))));
+}
+
+}  // namespace veritane::platform

@@ -1,0 +1,25 @@
+// The default printer of Windows.
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "platform/printer.h"
+
+namespace veritane::platform {
+
+class WindowsPrinter {
+public:
+  // Nothing where no default printer is installed.
+  static std::optional<WindowsPrinter> Default();
+
+  // Error 57, with the printer's name, when it does not take the document.
+  void Print(Printout& printout) const;
+
+private:
+  explicit WindowsPrinter(std::wstring name) : name_(std::move(name)) {}
+
+  std::wstring name_;
+};
+
+}  // namespace veritane::platform
