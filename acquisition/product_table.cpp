@@ -28,8 +28,14 @@ Product ReadRow(TextReader& reader) {
   return product;
 }
 
+// A field that would not read back as it stands is put in quotes: one cut by a comma or a line end, or with
+// blanks around it.
 std::string FieldText(const std::string& field) {
-  return field.find(',') == std::string::npos ? field : "\"" + field + "\"";
+  constexpr std::string_view kBlanks = " \t";
+  const bool is_padded = !field.empty() && (kBlanks.find(field.front()) != std::string_view::npos ||
+                                            kBlanks.find(field.back()) != std::string_view::npos);
+  const bool is_cut = field.find_first_of(",\r\n") != std::string::npos;
+  return is_padded || is_cut ? "\"" + field + "\"" : field;
 }
 
 }  // namespace

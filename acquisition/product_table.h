@@ -31,8 +31,8 @@ std::vector<Product> ReadProductTable(std::string_view bytes, const std::string&
 std::optional<Product> FindProduct(std::string_view bytes, const std::string& key,
                                    const std::string& path = "");
 
-// The table's text: the count, then a line a product. A field that holds a comma stands in double quotes,
-// which keeps its row whole.
+// The table's text: the count, then a line a product. A field that holds a comma or a line end, or has blanks
+// around it, stands in double quotes, which keeps its row whole.
 std::string ProductTableText(const std::vector<Product>& products);
 
 // Shows the table in the grid: header, one row a product, the first product current (its row-selection event

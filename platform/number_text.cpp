@@ -1,6 +1,7 @@
 // Numbers to text and back, independent of any locale.
 #include "platform/number_text.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -103,15 +104,30 @@ std::size_t NumberLength(std::string_view text) {
   return i;
 }
 
+// Whether a decimal number that no double holds is too small for one, not too large: by its exponent and
+// where its first digit stands.
+bool IsTiny(std::string_view text) {
+  const std::size_t mark = std::min(text.find_first_of("eE"), text.size());
+  const std::string_view digits = text.substr(0, mark);
+  const auto point = static_cast<long long>(std::min(digits.find('.'), digits.size()));
+  const auto first = static_cast<long long>(digits.find_first_of("123456789"));
+  std::string_view exponent_text = text.substr(std::min(mark + 1, text.size()));
+  if (exponent_text.starts_with('+')) exponent_text.remove_prefix(1);
+  int exponent = 0;
+  const auto [end, error] =
+      std::from_chars(exponent_text.data(), exponent_text.data() + exponent_text.size(), exponent);
+  // Such an exponent decides alone.
+  if (error == std::errc::result_out_of_range) return exponent_text.starts_with('-');
+  return point - first + exponent < 0;
+}
+
 // `text` is a whole decimal number. Nothing when it is too large for a double; one that is too small is 0.
 std::optional<double> Convert(std::string_view text) {
   if (text.starts_with('+')) text.remove_prefix(1);
   double number = 0;
   const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
   if (error == std::errc()) return number;
-  const std::size_t exponent = text.find_first_of("eE");
-  const bool is_tiny = exponent != std::string_view::npos && text.substr(exponent + 1).starts_with('-');
-  return is_tiny ? std::optional(0.0) : std::nullopt;
+  return IsTiny(text) ? std::optional(0.0) : std::nullopt;
 }
 
 std::string_view TrimBlanks(std::string_view text) {

@@ -88,9 +88,13 @@ std::string TextReader::ReadField() {
   }
   if (position_ < text_.size() && text_[position_] == ',') {
     ++position_;
-  } else {
-    SkipLineEnd();
+    return field;
   }
+  // What follows a closing quote directly would be taken for the next field, and every later one would shift.
+  if (!AtEnd() && !IsLineEnd(text_[position_])) {
+    throw RunTimeError(ErrorNumber::kTypeMismatch, Place() + "there is text behind \"" + field + "\"");
+  }
+  SkipLineEnd();
   return field;
 }
 

@@ -26,7 +26,8 @@ public:
 
   // The next line without its end. Error 62 at the end of the file.
   std::string ReadLine();
-  // The next field, blanks around it dropped, a double-quoted one whole. Error 62 at the end of the file.
+  // The next field, blanks around it dropped, a double-quoted one whole. Error 62 at the end of the file, 13
+  // for text behind a closing quote.
   std::string ReadField();
   // The next field as a number: rounded half to even for integers. Error 13 when the field is no number, 6
   // when it does not fit.

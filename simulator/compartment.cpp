@@ -92,7 +92,10 @@ CompartmentState Compartment::Read() const {
 }
 
 void Compartment::Write(const CompartmentState& state) {
-  files_.WriteBytes(path_, CompartmentText(state));
+  const std::string text = CompartmentText(state);
+  // A file that could not be read would refuse every later change too.
+  ParseCompartment(text);
+  files_.WriteBytes(path_, text);
 }
 
 std::int32_t Compartment::TakeFault() {

@@ -41,6 +41,8 @@ public:
 
   // RunTimeError of the file system, or of ParseCompartment with the path before its text.
   CompartmentState Read() const;
+  // Errors of the file system, of CompartmentText, and of ParseCompartment for values that would not be read
+  // again.
   void Write(const CompartmentState& state);
 
   // The fault that the next collection or alignment reports, or 0. Lowers the count in the file.

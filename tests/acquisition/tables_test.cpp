@@ -32,11 +32,19 @@ TEST(ProductTable, WhatIsWrittenReadsBack) {
       << "a missing last line end costs nothing";
 }
 
+TEST(ProductTable, AFieldThatWouldNotReadBackBareStandsInQuotes) {
+  const std::vector<Product> products{{" P1 ", "two\r\nlines", "PLS", "C:\\Lab, 2\\octane.cal"},
+                                      {"P2\t", "Tablet A", "PLS", ""}};
+  EXPECT_EQ(ReadProductTable(ProductTableText(products)), products);
+}
+
 TEST(ProductTable, ATableThatEndsTooSoonOrHasNoCountIsAnError) {
   EXPECT_EQ(ErrorOf([] { ReadProductTable(" 3 \r\nP1,A,Euclidean,\r\n"); }), 62);
   EXPECT_EQ(ErrorOf([] { ReadProductTable(""); }), 62);
   EXPECT_EQ(ErrorOf([] { ReadProductTable("P1,A,Euclidean,\r\n"); }), 13);
   EXPECT_EQ(ErrorOf([] { ReadProductTable(" 70000 \r\n"); }), 6);
+  EXPECT_EQ(ErrorOf([] { ReadProductTable(" 1 \r\n\"P1\"x,Tablet A,Euclidean,\r\n"); }), 13)
+      << "the fields behind it would all shift";
 }
 
 TEST(ProductTable, TheFirstRowOfTheKeyIsFoundWithoutRegardToCase) {

@@ -57,6 +57,12 @@ TEST(NumberText, OnlyAWholeDecimalNumberConverts) {
   for (const char* text : {"", "-", ".", "1,5", "nan", "inf", "0x10", "1 2", "12h", "1e400", "--1"}) {
     EXPECT_FALSE(ParseNumber(text)) << text;
   }
+  // Which side of a double's range a number lies on shows in its digits and its exponent together.
+  const std::string zeros(400, '0');
+  EXPECT_EQ(ParseNumber("1e-400"), 0);
+  EXPECT_EQ(ParseNumber("." + zeros + "1"), 0);
+  EXPECT_EQ(ParseNumber("1" + zeros + "e-5"), std::nullopt);
+  EXPECT_EQ(ParseNumber("1e-99999999999"), 0);
   EXPECT_EQ(LeadingNumber(" 12 h"), 12);
   EXPECT_EQ(LeadingNumber("1 000"), 1000);
   EXPECT_EQ(LeadingNumber("-"), 0);

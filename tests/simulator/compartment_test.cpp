@@ -85,12 +85,16 @@ TEST(Compartment, ValuesThatMakeNoSenseAreNamedWithFileAndLine) {
   }
 }
 
-TEST(Compartment, ANameOfSeveralLinesIsRefused) {
+TEST(Compartment, WhatCouldNotBeReadAgainIsNotWritten) {
   MemoryFiles files;
-  CompartmentState state;
-  state.sample = "empty\r\nFault = 5";
-  EXPECT_EQ(tests::ErrorOf([&] { Compartment(files, kPath).Write(state); }), 5);
-  EXPECT_TRUE(files.contents.empty());
+  for (const auto& spoil : std::vector<void (*)(CompartmentState&)>{
+           [](auto& state) { state.sample = "empty\r\nFault = 5"; }, [](auto& state) { state.noise = -1; },
+           [](auto& state) { state.duration = -1; }, [](auto& state) { state.faultCount = 100000; }}) {
+    CompartmentState state;
+    spoil(state);
+    EXPECT_EQ(tests::ErrorOf([&] { Compartment(files, kPath).Write(state); }), 5);
+    EXPECT_TRUE(files.contents.empty());
+  }
 }
 
 }  // namespace
