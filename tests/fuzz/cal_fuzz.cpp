@@ -1,21 +1,15 @@
 // Feeds arbitrary bytes to the reader of calibration files, as a file and as one calibration whose checksum
 // is right. What it takes must be written and read again without a change and must predict; what it refuses
 // must be refused with a PlsError.
-#include <cstdint>
-#include <cstdlib>
-#include <string_view>
-
 #include "plslibrary/calibration_file.h"
 #include "plslibrary/items.h"
 #include "plslibrary/pls_error.h"
+#include "tests/fuzz/require.h"
 
 namespace {
 
 using namespace veritane::plslibrary;
-
-void Require(bool holds) {
-  if (!holds) std::abort();
-}
+using veritane::fuzz::Require;
 
 void RequireUsable(const Calibration& calibration) {
   const std::string json = CalibrationJson(calibration);
@@ -42,7 +36,7 @@ void RequireUsable(const Calibration& calibration) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  const std::string_view bytes(reinterpret_cast<const char*>(data), size);
+  const std::string_view bytes = veritane::fuzz::BytesOf(data, size);
   try {
     const CalibrationFile file(bytes);
     RequireUsable(file.Read(1));

@@ -1,22 +1,18 @@
 // Feeds arbitrary bytes to the reader of spectrum files. What it opens must be whole and must survive saving
 // and reading again to the last bit; what it refuses must be refused with a RunTimeError.
-#include <cstdint>
-#include <cstdlib>
-#include <string_view>
+#include <vector>
 
 #include "platform/run_time_error.h"
 #include "simulator/jcamp_writer.h"
 #include "simulator/spectrum_file.h"
+#include "tests/fuzz/require.h"
 
 namespace {
 
+using veritane::fuzz::Require;
 using veritane::simulator::ReadSpectrumFile;
 using veritane::simulator::SpectrumFile;
 using veritane::simulator::StoredSpectrum;
-
-void Require(bool holds) {
-  if (!holds) std::abort();
-}
 
 void RequireSameSpectrum(const StoredSpectrum& saved, const StoredSpectrum& read) {
   Require(saved.name == read.name);
@@ -44,7 +40,7 @@ void RequireRoundTrip(const SpectrumFile& file) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   SpectrumFile file;
   try {
-    file = ReadSpectrumFile("fuzzed", {reinterpret_cast<const char*>(data), size});
+    file = ReadSpectrumFile("fuzzed", veritane::fuzz::BytesOf(data, size));
   } catch (const veritane::platform::RunTimeError&) {
     return 0;
   }

@@ -2,26 +2,17 @@
 // promises and are no larger than the file can hold; what it refuses must be refused with a
 // SpectrumReadError.
 #include <cmath>
-#include <cstdint>
-#include <cstdlib>
-#include <string_view>
 
 #include "plslibrary/spc_reader.h"
+#include "tests/fuzz/require.h"
 
-namespace {
-
+using veritane::fuzz::Require;
 using veritane::plslibrary::MeasuredSpectrum;
-
-void Require(bool holds) {
-  if (!holds) std::abort();
-}
-
-}  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   std::vector<MeasuredSpectrum> spectra;
   try {
-    spectra = veritane::plslibrary::ReadSpc({reinterpret_cast<const char*>(data), size});
+    spectra = veritane::plslibrary::ReadSpc(veritane::fuzz::BytesOf(data, size));
   } catch (const veritane::plslibrary::SpectrumReadError&) {
     return 0;
   }

@@ -6,7 +6,7 @@
 
 #include "platform/number_text.h"
 #include "simulator/simulated_spectrometer.h"
-#include "tests/simulator/memory_file_system.h"
+#include "tests/support/memory_file_system.h"
 #include "tests/support/automation_connection.h"
 #include "tests/support/errors.h"
 

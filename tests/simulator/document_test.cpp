@@ -6,10 +6,10 @@
 #include "simulator/simulated_spectrometer.h"
 #include "simulator/spectrum_file.h"
 #include "simulator/transform.h"
-#include "tests/simulator/memory_file_system.h"
 #include "tests/simulator/queued_device.h"
 #include "tests/support/automation_connection.h"
 #include "tests/support/errors.h"
+#include "tests/support/memory_file_system.h"
 
 namespace veritane::simulator {
 namespace {
@@ -17,6 +17,7 @@ namespace {
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using tests::ErrorOf;
+using tests::MemoryFileSystem;
 
 class StandingClock : public platform::Clock {
 public:

@@ -8,10 +8,10 @@
 #include "platform/pdf/pdf_document.h"
 #include "platform/system/system_machine.h"
 #include "simulator/simulated_spectrometer.h"
-#include "tests/simulator/memory_file_system.h"
 #include "tests/simulator/queued_device.h"
 #include "tests/support/automation_connection.h"
 #include "tests/support/errors.h"
+#include "tests/support/memory_file_system.h"
 #include "tests/support/pdf_text.h"
 #include "tests/support/temporary_folder.h"
 
@@ -25,6 +25,7 @@ using ::testing::Not;
 using ::testing::SizeIs;
 using tests::AboutPdf;
 using tests::ErrorOf;
+using tests::MemoryFileSystem;
 using tests::TextOfPdf;
 
 // Bands on a curved baseline, so that the page has something to show.

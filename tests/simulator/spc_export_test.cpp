@@ -11,10 +11,10 @@
 #include "plslibrary/spc_reader.h"
 #include "simulator/simulated_spectrometer.h"
 #include "simulator/spc_writer.h"
-#include "tests/simulator/memory_file_system.h"
 #include "tests/simulator/queued_device.h"
 #include "tests/support/automation_connection.h"
 #include "tests/support/errors.h"
+#include "tests/support/memory_file_system.h"
 #include "tests/support/temporary_folder.h"
 
 namespace veritane::simulator {
@@ -22,6 +22,7 @@ namespace {
 
 using ::testing::ElementsAre;
 using tests::ErrorOf;
+using tests::MemoryFileSystem;
 
 template <typename Number>
 Number NumberAt(const std::string& bytes, std::size_t offset) {

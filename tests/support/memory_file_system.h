@@ -1,4 +1,4 @@
-// Files in memory for the tests of documents, with faults on demand.
+// Files in memory, with faults of writing on demand. Every folder is there; folders cannot be listed or made.
 #pragma once
 
 #include <map>
@@ -11,7 +11,7 @@
 #include "platform/run_time_error.h"
 #include "platform/windows_path.h"
 
-namespace veritane::simulator {
+namespace veritane::tests {
 
 class MemoryFileSystem : public platform::FileSystem {
 public:
@@ -39,14 +39,18 @@ public:
   std::unique_ptr<platform::TakenFile> TakeFile(const std::string&) override {
     return std::make_unique<platform::TakenFile>();
   }
-  void DeleteFile(const std::string& path) override { files_.erase(Key(path)); }
+  void DeleteFile(const std::string& path) override {
+    if (files_.erase(Key(path)) == 0) {
+      throw platform::RunTimeError(platform::ErrorNumber::kFileNotFound, path);
+    }
+  }
   void MoveFile(const std::string& from, const std::string&) override { Unexpected(from); }
   platform::DateTime LastModified(const std::string& path) const override { Unexpected(path); }
   std::vector<std::string> ListFiles(const std::string& folder) const override { Unexpected(folder); }
 
 private:
   static std::string Key(const std::string& path) { return platform::UpperCase(path); }
-  // Documents have no business with these.
+  // What is tested here has no business with these.
   [[noreturn]] static void Unexpected(const std::string& path) {
     throw platform::RunTimeError(platform::ErrorNumber::kInvalidCall, "unexpected operation on " + path);
   }
@@ -54,4 +58,4 @@ private:
   std::map<std::string, std::string> files_;
 };
 
-}  // namespace veritane::simulator
+}  // namespace veritane::tests
