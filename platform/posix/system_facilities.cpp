@@ -27,10 +27,6 @@ std::string SystemShellFolders::CommonApplicationData(bool create) const {
   return fs::is_directory(native, error) ? folder : "";
 }
 
-std::string SystemShellFolders::ProgramFolder() const {
-  return paths_.ToWindows(NativeProgramFolder());
-}
-
 std::optional<std::string> SystemUserAccount::LoggedOnUser() const {
   std::array<char, 4096> buffer{};
   passwd entry{};

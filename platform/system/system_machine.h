@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <memory>
 #include <string>
+#include <utility>
 
 #include "platform/machine.h"
 #include "platform/system/disk_file_system.h"
@@ -14,15 +15,20 @@
 
 namespace veritane::platform {
 
-// Below a data root the common application data folder is C:\ProgramData.
+// Below a data root the common application data folder is C:\ProgramData. An installed program lies where its
+// users may not write; a file "program_folder" beside it then holds one line, the Windows path of the folder that
+// stands for the program's own.
 class SystemShellFolders : public ShellFolders {
 public:
-  explicit SystemShellFolders(const PathMap& paths) : paths_(paths) {}
+  // `program_folder` is where the program lies.
+  SystemShellFolders(const PathMap& paths, std::filesystem::path program_folder)
+      : paths_(paths), program_folder_(std::move(program_folder)) {}
   std::string CommonApplicationData(bool create) const override;
   std::string ProgramFolder() const override;
 
 private:
   const PathMap& paths_;
+  const std::filesystem::path program_folder_;
 };
 
 class SystemUserAccount : public UserAccount {

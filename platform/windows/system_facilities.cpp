@@ -61,10 +61,6 @@ std::string SystemShellFolders::CommonApplicationData(bool create) const {
   return fs::is_directory(native, error) ? folder : "";
 }
 
-std::string SystemShellFolders::ProgramFolder() const {
-  return paths_.ToWindows(NativeProgramFolder());
-}
-
 std::optional<std::string> SystemUserAccount::LoggedOnUser() const {
   std::array<char, kNameRoom> name = Blanks();
   DWORD size = kNameRoom;

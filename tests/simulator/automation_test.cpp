@@ -177,7 +177,7 @@ TEST(AutomationMembers, ADamagedLineIsNamedAndAMissingFileMeansTheDefaults) {
       EXPECT_THAT(error.what(), HasSubstr(complaint));
     }
   }
-  MemoryFileSystem files;
+  tests::MemoryFileSystem files;
   EXPECT_EQ(
       acquisition::ReadAutomationMembers(files, "C:\\automation.ini")[acquisition::Member::kOpenDocument]
           .name,
