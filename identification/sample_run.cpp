@@ -85,22 +85,32 @@ void SampleRun::RunForProduct(const acquisition::BackgroundSchedule& schedule) {
   acquisition::AnnounceSample(bench_.desktop, prompts.sample);
   if (!OpenSampleDocument() || !CollectSample() || !IsConsistent()) return;
   FileSample();
-  {
+  BehindFiling("it could not be compared.", [this] {
     const StatusShown status(bench_, Text(TextId::kCalculating));
     Prepare(state_.Samp, state_.ChartSampData, state_.SampFFTData);
     Judge(bench_);
-  }
+  });
   ShowResult();
   // What fails from here on is told over the result, which the operator must not lose.
   bench_.desktop.Perform([this] { RecordResult(); });
   bench_.desktop.Perform([this] {
-    NameResultInSampleFile();
+    BehindFiling("its result could not be named there.", [this] { NameResultInSampleFile(); });
     if (state_.options.printOption != 0) bench_.PrintByTemplate();
   });
 }
 
-void SampleRun::RecordResult() {
+// Whoever reads of a fault behind the filing has to know that the spectrum is not lost.
+void SampleRun::BehindFiling(const char* what_failed, const std::function<void()>& step) const {
   try {
+    step();
+  } catch (const platform::RunTimeError& error) {
+    throw platform::RunTimeError(error.Number(), std::string(error.what()) + "\r\nThe sample is filed in " +
+                                                     state_.tmpSampName + ", but " + what_failed);
+  }
+}
+
+void SampleRun::RecordResult() {
+  BehindFiling("its result could not be recorded.", [this] {
     AppendHistogramLine(bench_.machine.files, state_.tmpSampName,
                         {.sampleName = frm_samp_.txtSampName.Text(),
                          .productId = frm_samp_.cmbStandards.Text(),
@@ -109,11 +119,7 @@ void SampleRun::RecordResult() {
                          .passThreshold = state_.options.passThreshold,
                          .operatorName = frm_samp_.txtOperatorName.Text()},
                         bench_.machine.regional, bench_.machine.clock.LocalNow());
-  } catch (const platform::RunTimeError& error) {
-    throw platform::RunTimeError(error.Number(), std::string(error.what()) + "\r\nThe sample is filed in " +
-                                                     state_.tmpSampName +
-                                                     ", but its result could not be recorded.");
-  }
+  });
 }
 
 void SampleRun::LoadStandard() {
@@ -236,8 +242,10 @@ void SampleRun::FileSample() {
     bench_.machine.files.MoveFile(state_.tmpSampName, roll_over_name_);
   }
   session_.CurrentDocument->SaveDocumentAs(state_.tmpSampName);
-  log_.Append(RunLogLine(frm_samp_.txtOperatorName.Text(), state_.tmpSampName, bench_.machine.regional,
-                         bench_.machine.clock.LocalNow()));
+  BehindFiling("the run log could not take its line, and it was not compared.", [this] {
+    log_.Append(RunLogLine(frm_samp_.txtOperatorName.Text(), state_.tmpSampName, bench_.machine.regional,
+                           bench_.machine.clock.LocalNow()));
+  });
 }
 
 void SampleRun::ShowResult() {

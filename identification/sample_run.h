@@ -1,6 +1,7 @@
 // The operator's sample run, from the entry dialog to the filed spectrum and its records.
 #pragma once
 
+#include <functional>
 #include <string>
 
 #include "acquisition/background.h"
@@ -36,6 +37,7 @@ private:
   bool CollectSample();
   bool IsConsistent();
   void FileSample();
+  void BehindFiling(const char* what_failed, const std::function<void()>& step) const;
   void ShowResult();
   void RecordResult();
   void NameResultInSampleFile();

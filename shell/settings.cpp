@@ -1,4 +1,7 @@
 // The settings between their file, the state and the supervisor's controls.
+#include <algorithm>
+#include <array>
+
 #include "platform/number_text.h"
 #include "platform/run_time_error.h"
 #include "shell/frm_veritane.h"
@@ -6,10 +9,25 @@
 
 namespace veritane::shell {
 
+namespace {
+
+// Whether the disk kept the file from being read. What it holds is then unknown, not damaged.
+bool IsDiskFault(const platform::RunTimeError& error) {
+  using platform::ErrorNumber;
+  constexpr std::array kFaults{ErrorNumber::kDeviceError, ErrorNumber::kPermissionDenied,
+                               ErrorNumber::kDiskNotReady, ErrorNumber::kPathFileAccess};
+  return std::ranges::any_of(kFaults,
+                             [&](ErrorNumber fault) { return error.Number() == static_cast<int>(fault); });
+}
+
+}  // namespace
+
 void FrmVeritane::LoadSettings() {
   try {
     state_.options = state::ReadSettings(machine_.files.ReadBytes(state_.folders.appDir + "settings.ini"));
-  } catch (const platform::RunTimeError&) {
+  } catch (const platform::RunTimeError& error) {
+    // Defaults written over a good file would cost the laboratory its threshold and its password.
+    if (IsDiskFault(error)) throw;
     // No file, or one that cannot be trusted in any line: begin with the defaults, and a file that can be
     // read. A program that runs already goes on to measure or to demonstrate as it began.
     const std::int16_t demo_mode = state_.formStartup == 1 ? std::int16_t{0} : state_.options.demoMode;
