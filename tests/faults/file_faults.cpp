@@ -1,0 +1,381 @@
+// Preloaded into a program, numbers its operations on files below one folder and lets one of them fail: the
+// program is killed there, the disk is full, access is denied, or the device reports an error. Linux only.
+//
+// FILE_FAULTS_BELOW   the folder, absolute; without it nothing happens at all
+// FILE_FAULTS_REPORT  a file outside of it: a line per operation, "number name faults path", where faults are
+// those that
+//                     fit the operation; "fault number name path" where one was injected
+// FILE_FAULTS_AT      the number of the operation that fails, from 1
+// FILE_FAULTS_KIND    kill-before, kill-after, kill-halfway, full, denied or broken
+// FILE_FAULTS_WHILE   a file: as long as it is there, every later operation that the fault fits fails, too
+#include <dlfcn.h>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <climits>
+#include <csignal>
+#include <cstdarg>
+#include <cstdlib>
+#include <cstring>
+#include <string>
+#include <unordered_map>
+
+namespace {
+
+// The function that the program would have called without this library.
+template <typename Function>
+Function Real(const char* name) {
+  return reinterpret_cast<Function>(::dlsym(RTLD_NEXT, name));
+}
+
+std::string Variable(const char* name) {
+  const char* const value = std::getenv(name);
+  return value == nullptr ? "" : value;
+}
+
+// What can befall an operation besides the end of the program, which fits each that changes something.
+struct Operation {
+  const char* name;
+  bool changes;
+  bool takesSpace;
+  bool needsPermission;
+};
+
+constexpr Operation kCreate{.name = "create", .changes = true, .takesSpace = true, .needsPermission = true};
+constexpr Operation kOpenToWrite{
+    .name = "open", .changes = true, .takesSpace = false, .needsPermission = true};
+constexpr Operation kWrite{.name = "write", .changes = true, .takesSpace = true, .needsPermission = false};
+constexpr Operation kFlush{.name = "flush", .changes = true, .takesSpace = true, .needsPermission = false};
+constexpr Operation kFlushFolder{
+    .name = "flush-folder", .changes = true, .takesSpace = false, .needsPermission = false};
+constexpr Operation kClose{.name = "close", .changes = true, .takesSpace = true, .needsPermission = false};
+constexpr Operation kShorten{
+    .name = "shorten", .changes = true, .takesSpace = false, .needsPermission = false};
+constexpr Operation kSetMode{
+    .name = "set-mode", .changes = true, .takesSpace = false, .needsPermission = true};
+constexpr Operation kSetTime{
+    .name = "set-time", .changes = true, .takesSpace = false, .needsPermission = true};
+constexpr Operation kRename{.name = "rename", .changes = true, .takesSpace = true, .needsPermission = true};
+constexpr Operation kDelete{.name = "delete", .changes = true, .takesSpace = false, .needsPermission = true};
+constexpr Operation kMakeFolder{
+    .name = "make-folder", .changes = true, .takesSpace = true, .needsPermission = true};
+constexpr Operation kOpenToRead{
+    .name = "open-to-read", .changes = false, .takesSpace = false, .needsPermission = true};
+constexpr Operation kRead{.name = "read", .changes = false, .takesSpace = false, .needsPermission = false};
+constexpr Operation kLook{.name = "look", .changes = false, .takesSpace = false, .needsPermission = true};
+constexpr Operation kList{.name = "list", .changes = false, .takesSpace = false, .needsPermission = true};
+
+enum class Fault { kNone, kKillBefore, kKillAfter, kKillHalfway, kFull, kDenied, kBroken };
+
+Fault FaultOf(const std::string& kind) {
+  if (kind == "kill-before") return Fault::kKillBefore;
+  if (kind == "kill-after") return Fault::kKillAfter;
+  if (kind == "kill-halfway") return Fault::kKillHalfway;
+  if (kind == "full") return Fault::kFull;
+  if (kind == "denied") return Fault::kDenied;
+  if (kind == "broken") return Fault::kBroken;
+  return Fault::kNone;
+}
+
+bool Fits(Fault fault, const Operation& operation) {
+  switch (fault) {
+    case Fault::kKillBefore:
+    case Fault::kKillAfter:
+      return operation.changes;
+    case Fault::kKillHalfway:
+      return operation.name == kWrite.name;
+    case Fault::kFull:
+      return operation.takesSpace;
+    case Fault::kDenied:
+      return operation.needsPermission;
+    case Fault::kBroken:
+      return true;
+    case Fault::kNone:
+      break;
+  }
+  return false;
+}
+
+// Without buffers, so that a killed program has told everything.
+[[noreturn]] void Kill() {
+  ::kill(::getpid(), SIGKILL);
+  for (;;) ::pause();
+}
+
+class Plan {
+public:
+  Plan() {
+    if (const std::string path = Variable("FILE_FAULTS_REPORT"); !path.empty()) {
+      report_ = Real<int (*)(const char*, int, ...)>("open")(path.c_str(),
+                                                             O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC, 0666);
+    }
+  }
+
+  bool IsWatched(const std::string& path) const {
+    return !folder_.empty() && path.starts_with(folder_) &&
+           (path.size() == folder_.size() || path[folder_.size()] == '/');
+  }
+
+  // Numbers the operation and tells which fault, if any, is to befall it.
+  Fault Next(const Operation& operation, const std::string& path) {
+    ++count_;
+    Tell(std::to_string(count_) + " " + operation.name + " " + FittingFaults(operation) + " " + path);
+    const bool is_first = count_ == at_;
+    if (!is_first && !(at_ > 0 && count_ > at_ && Lasts() && Fits(fault_, operation))) return Fault::kNone;
+    Tell("fault " + std::to_string(count_) + " " + operation.name + " " + path);
+    if (fault_ == Fault::kKillBefore) Kill();
+    return fault_;
+  }
+
+private:
+  bool Lasts() const {
+    return !while_.empty() && Real<int (*)(const char*, int)>("access")(while_.c_str(), F_OK) == 0;
+  }
+
+  static std::string FittingFaults(const Operation& operation) {
+    std::string text;
+    for (const char* kind : {"kill-before", "kill-after", "kill-halfway", "full", "denied", "broken"}) {
+      if (Fits(FaultOf(kind), operation)) text += (text.empty() ? "" : ",") + std::string(kind);
+    }
+    return text;
+  }
+
+  void Tell(const std::string& line) const {
+    const std::string text = line + "\n";
+    if (report_ >= 0 && Real<ssize_t (*)(int, const void*, size_t)>("write")(
+                            report_, text.data(), text.size()) != static_cast<ssize_t>(text.size())) {
+      // A report with holes would pass for a program that does less than it does.
+      Kill();
+    }
+  }
+
+  const std::string folder_ = Variable("FILE_FAULTS_BELOW");
+  const std::string while_ = Variable("FILE_FAULTS_WHILE");
+  const long at_ = std::atol(Variable("FILE_FAULTS_AT").c_str());
+  const Fault fault_ = FaultOf(Variable("FILE_FAULTS_KIND"));
+  int report_ = -1;
+  long count_ = 0;
+};
+
+// Never destroyed: files are closed until the very end of the program.
+Plan& ThePlan() {
+  static Plan& plan = *new Plan;
+  return plan;
+}
+
+struct OpenFile {
+  std::string path;
+  bool isWritten = false;
+  bool isFolder = false;
+  // The disk took half of the write before; there is no room for the rest.
+  bool isFull = false;
+};
+
+std::unordered_map<int, OpenFile>& OpenFiles() {
+  static auto& files = *new std::unordered_map<int, OpenFile>;
+  return files;
+}
+
+OpenFile* FileOf(int descriptor) {
+  const auto found = OpenFiles().find(descriptor);
+  return found == OpenFiles().end() ? nullptr : &found->second;
+}
+
+std::string Absolute(int folder, const char* path) {
+  if (path[0] == '/') return path;
+  if (const OpenFile* file = folder == AT_FDCWD ? nullptr : FileOf(folder)) return file->path + "/" + path;
+  char current[PATH_MAX];
+  return (::getcwd(current, sizeof current) == nullptr ? "" : std::string(current)) + "/" + path;
+}
+
+int ErrorOf(Fault fault) {
+  return fault == Fault::kFull ? ENOSPC : fault == Fault::kDenied ? EACCES : EIO;
+}
+
+bool IsError(Fault fault) {
+  return fault == Fault::kFull || fault == Fault::kDenied || fault == Fault::kBroken;
+}
+
+// Lets the operation happen or fail as planned; `failed` is what the caller gets in place of a result.
+template <typename Result, typename Call>
+Result Perform(const Operation& operation, const std::string& path, Result failed, Call call) {
+  if (!ThePlan().IsWatched(path)) return call();
+  const Fault fault = ThePlan().Next(operation, path);
+  if (IsError(fault)) {
+    errno = ErrorOf(fault);
+    return failed;
+  }
+  const Result result = call();
+  if (fault == Fault::kKillAfter) Kill();
+  return result;
+}
+
+bool Exists(const std::string& path) {
+  return Real<int (*)(const char*, int)>("access")(path.c_str(), F_OK) == 0;
+}
+
+template <typename Call>
+int Open(const std::string& path, int flags, Call call) {
+  const bool writes = (flags & O_ACCMODE) != O_RDONLY;
+  const bool creates = (flags & O_CREAT) != 0 && !Exists(path);
+  const bool is_folder = (flags & O_DIRECTORY) != 0;
+  const Operation& operation = is_folder ? kList : creates ? kCreate : writes ? kOpenToWrite : kOpenToRead;
+  const int descriptor = Perform(operation, path, -1, call);
+  if (descriptor >= 0 && ThePlan().IsWatched(path)) {
+    OpenFiles()[descriptor] = {.path = path, .isWritten = writes, .isFolder = is_folder};
+  }
+  return descriptor;
+}
+
+template <typename Call>
+int OnDescriptor(const Operation& operation, int descriptor, Call call) {
+  const OpenFile* const file = FileOf(descriptor);
+  return file == nullptr ? call() : Perform(operation, file->path, -1, call);
+}
+
+int Flush(int descriptor, const char* function) {
+  const OpenFile* const file = FileOf(descriptor);
+  return OnDescriptor(file != nullptr && file->isFolder ? kFlushFolder : kFlush, descriptor,
+                      [&] { return Real<int (*)(int)>(function)(descriptor); });
+}
+
+// The name that mkostemp found takes the place of the pattern.
+template <typename Call>
+int MakeTemporary(char* pattern, Call call) {
+  const std::string path = Absolute(AT_FDCWD, pattern);
+  const int descriptor = Perform(kCreate, path, -1, call);
+  if (descriptor >= 0 && ThePlan().IsWatched(path)) {
+    OpenFiles()[descriptor] = {.path = Absolute(AT_FDCWD, pattern), .isWritten = true};
+  }
+  return descriptor;
+}
+
+}  // namespace
+
+extern "C" {
+
+int open(const char* path, int flags, ...) {
+  va_list arguments;
+  va_start(arguments, flags);
+  const mode_t mode = (flags & (O_CREAT | O_TMPFILE)) != 0 ? va_arg(arguments, mode_t) : 0;
+  va_end(arguments);
+  return Open(Absolute(AT_FDCWD, path), flags,
+              [&] { return Real<int (*)(const char*, int, ...)>("open")(path, flags, mode); });
+}
+
+int openat(int folder, const char* path, int flags, ...) {
+  va_list arguments;
+  va_start(arguments, flags);
+  const mode_t mode = (flags & (O_CREAT | O_TMPFILE)) != 0 ? va_arg(arguments, mode_t) : 0;
+  va_end(arguments);
+  return Open(Absolute(folder, path), flags,
+              [&] { return Real<int (*)(int, const char*, int, ...)>("openat")(folder, path, flags, mode); });
+}
+
+int mkostemp(char* pattern, int flags) {
+  return MakeTemporary(pattern, [&] { return Real<int (*)(char*, int)>("mkostemp")(pattern, flags); });
+}
+
+ssize_t write(int descriptor, const void* bytes, size_t size) {
+  const auto real = Real<ssize_t (*)(int, const void*, size_t)>("write");
+  OpenFile* const file = FileOf(descriptor);
+  if (file == nullptr) return real(descriptor, bytes, size);
+  if (file->isFull) {
+    file->isFull = false;
+    errno = ENOSPC;
+    return -1;
+  }
+  const Fault fault = ThePlan().Next(kWrite, file->path);
+  if (fault == Fault::kBroken) {
+    errno = EIO;
+    return -1;
+  }
+  if (fault != Fault::kFull && fault != Fault::kKillHalfway) {
+    const ssize_t written = real(descriptor, bytes, size);
+    if (fault == Fault::kKillAfter) Kill();
+    return written;
+  }
+  const ssize_t written = real(descriptor, bytes, size / 2);
+  if (fault == Fault::kKillHalfway) Kill();
+  file->isFull = true;
+  return written;
+}
+
+ssize_t read(int descriptor, void* bytes, size_t size) {
+  const auto real = Real<ssize_t (*)(int, void*, size_t)>("read");
+  const OpenFile* const file = FileOf(descriptor);
+  if (file == nullptr) return real(descriptor, bytes, size);
+  return Perform(kRead, file->path, ssize_t{-1}, [&] { return real(descriptor, bytes, size); });
+}
+
+int fsync(int descriptor) {
+  return Flush(descriptor, "fsync");
+}
+
+int fdatasync(int descriptor) {
+  return Flush(descriptor, "fdatasync");
+}
+
+// A descriptor is gone even where its closing reports an error.
+int close(int descriptor) {
+  const auto real = Real<int (*)(int)>("close");
+  const OpenFile* const file = FileOf(descriptor);
+  if (file == nullptr) return real(descriptor);
+  const OpenFile closed = *file;
+  OpenFiles().erase(descriptor);
+  const Fault fault = closed.isWritten ? ThePlan().Next(kClose, closed.path) : Fault::kNone;
+  const int result = real(descriptor);
+  if (fault == Fault::kKillAfter) Kill();
+  if (!IsError(fault)) return result;
+  errno = ErrorOf(fault);
+  return -1;
+}
+
+int ftruncate(int descriptor, off_t size) noexcept {
+  return OnDescriptor(kShorten, descriptor,
+                      [&] { return Real<int (*)(int, off_t)>("ftruncate")(descriptor, size); });
+}
+
+int fchmod(int descriptor, mode_t mode) noexcept {
+  return OnDescriptor(kSetMode, descriptor,
+                      [&] { return Real<int (*)(int, mode_t)>("fchmod")(descriptor, mode); });
+}
+
+int futimens(int descriptor, const timespec* times) noexcept {
+  return OnDescriptor(kSetTime, descriptor,
+                      [&] { return Real<int (*)(int, const timespec*)>("futimens")(descriptor, times); });
+}
+
+int rename(const char* from, const char* to) noexcept {
+  return Perform(kRename, Absolute(AT_FDCWD, to), -1,
+                 [&] { return Real<int (*)(const char*, const char*)>("rename")(from, to); });
+}
+
+int unlink(const char* path) noexcept {
+  return Perform(kDelete, Absolute(AT_FDCWD, path), -1,
+                 [&] { return Real<int (*)(const char*)>("unlink")(path); });
+}
+
+int remove(const char* path) noexcept {
+  return Perform(kDelete, Absolute(AT_FDCWD, path), -1,
+                 [&] { return Real<int (*)(const char*)>("remove")(path); });
+}
+
+int mkdir(const char* path, mode_t mode) noexcept {
+  return Perform(kMakeFolder, Absolute(AT_FDCWD, path), -1,
+                 [&] { return Real<int (*)(const char*, mode_t)>("mkdir")(path, mode); });
+}
+
+int stat(const char* path, struct stat* status) noexcept {
+  return Perform(kLook, Absolute(AT_FDCWD, path), -1,
+                 [&] { return Real<int (*)(const char*, struct stat*)>("stat")(path, status); });
+}
+
+int lstat(const char* path, struct stat* status) noexcept {
+  return Perform(kLook, Absolute(AT_FDCWD, path), -1,
+                 [&] { return Real<int (*)(const char*, struct stat*)>("lstat")(path, status); });
+}
+
+}  // extern "C"
