@@ -51,14 +51,6 @@ namespace {
   RaiseSystemError(code, path);
 }
 
-// Makes the new name of a file survive a power failure.
-void FlushFolder(const fs::path& folder) {
-  const int descriptor = ::open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-  if (descriptor < 0) return;
-  ::fsync(descriptor);
-  ::close(descriptor);
-}
-
 struct stat StatusOf(int descriptor, const std::string& path) {
   struct stat status {};
   if (::fstat(descriptor, &status) != 0) RaiseSystemError(errno, path);
@@ -116,6 +108,11 @@ NativeFile NativeFile::CreateBeside(const fs::path& native, const std::string& p
     RaiseSystemError(code, path);
   }
   return file;
+}
+
+std::string NativeFile::ReadFrom(std::int64_t position) {
+  if (::lseek(static_cast<int>(handle_), position, SEEK_SET) < 0) RaiseSystemError(errno, path_);
+  return ReadAll();
 }
 
 std::string NativeFile::ReadAll() {
@@ -190,7 +187,20 @@ void RequireReplaceable(const fs::path& native, const std::string& path) {
 
 void MoveOver(const fs::path& from, const fs::path& to, const std::string& path) {
   if (::rename(from.c_str(), to.c_str()) != 0) RaiseWriteError(errno, to, path);
-  FlushFolder(to.parent_path());
+  FlushFolder(to.parent_path(), path);
+}
+
+void FlushFolder(const fs::path& folder, const std::string& path) {
+  const int descriptor = ::open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+  if (descriptor < 0) {
+    // A folder that may be written but not read is left to the system.
+    if (errno != EACCES) RaiseSystemError(errno, path);
+    return;
+  }
+  const int code = ::fsync(descriptor) == 0 ? 0 : errno;
+  ::close(descriptor);
+  // Not every file system knows how to flush a folder.
+  if (code != 0 && code != EINVAL && code != ENOTSUP) RaiseSystemError(code, path);
 }
 
 std::chrono::system_clock::time_point LastChange(const fs::path& native, const std::string& path) {

@@ -7,6 +7,7 @@
 #include "platform/run_time_error.h"
 #include "platform/system/native_file.h"
 #include "platform/system/native_path.h"
+#include "platform/text_file.h"
 
 namespace veritane::platform {
 
@@ -45,21 +46,31 @@ private:
 class DiskAppendingFile : public AppendingFile {
 public:
   DiskAppendingFile(const fs::path& native, const std::string& path, const Clock& clock)
-      : clock_(clock), file_(NativeFile::OpenToAppend(native, path)) {}
+      : path_(path), clock_(clock), file_(NativeFile::OpenToAppend(native, path)) {}
 
   void Append(std::string_view bytes) override {
     const std::int64_t before = file_.Size();
+    // What is appended begins a line, also where a program was stopped in the middle of the one before.
+    const std::string lines = (IsTorn(before) ? std::string(kLineEnd) : "").append(bytes);
     try {
-      file_.Write(bytes);
+      file_.Write(lines);
+      file_.Flush();
     } catch (const RunTimeError&) {
       // Half a line is worse than none: take back what a full disk let through.
       file_.CutTo(before);
       throw;
     }
     file_.Stamp(clock_.Now());
+    if (before == 0) FlushFolder(file_.Native().parent_path(), path_);
   }
 
 private:
+  // Whether the last line has no line end.
+  bool IsTorn(std::int64_t size) const {
+    return size > 0 && NativeFile::OpenToRead(file_.Native(), path_).ReadFrom(size - 1) != "\n";
+  }
+
+  const std::string path_;
   const Clock& clock_;
   NativeFile file_;
 };
@@ -72,16 +83,31 @@ private:
   NativeFile file_;
 };
 
+// What lies there. A file that cannot be looked at is an error: whoever took it for missing would make a new
+// one in its place.
+fs::file_status KindOf(const fs::path& native, const std::string& path) {
+  std::error_code error;
+  const fs::file_status status = fs::status(native, error);
+  // A name that no file can have is no file's.
+  if (error == std::errc::filename_too_long || error == std::errc::invalid_argument) {
+    return fs::file_status(fs::file_type::not_found);
+  }
+  if (status.type() == fs::file_type::none) {
+    throw RunTimeError(
+        error == std::errc::permission_denied ? ErrorNumber::kPermissionDenied : ErrorNumber::kDeviceError,
+        path);
+  }
+  return status;
+}
+
 }  // namespace
 
 bool DiskFileSystem::FileExists(const std::string& path) const {
-  std::error_code error;
-  return paths_.Names(path) && fs::is_regular_file(paths_.ToNative(path), error);
+  return paths_.Names(path) && fs::is_regular_file(KindOf(paths_.ToNative(path), path));
 }
 
 bool DiskFileSystem::FolderExists(const std::string& path) const {
-  std::error_code error;
-  return paths_.Names(path) && fs::is_directory(paths_.ToNative(path), error);
+  return paths_.Names(path) && fs::is_directory(KindOf(paths_.ToNative(path), path));
 }
 
 void DiskFileSystem::CreateFolder(const std::string& path) {
@@ -118,9 +144,8 @@ void DiskFileSystem::DeleteFile(const std::string& path) {
 void DiskFileSystem::MoveFile(const std::string& from, const std::string& to) {
   const fs::path source = paths_.ToNative(from);
   const fs::path target = paths_.ToNative(to);
-  std::error_code ignored;
-  if (!fs::exists(source, ignored)) throw RunTimeError(ErrorNumber::kFileNotFound, from);
-  if (fs::exists(target, ignored)) throw RunTimeError(ErrorNumber::kFileExists, to);
+  if (!fs::exists(KindOf(source, from))) throw RunTimeError(ErrorNumber::kFileNotFound, from);
+  if (fs::exists(KindOf(target, to))) throw RunTimeError(ErrorNumber::kFileExists, to);
   MoveOver(source, target, to);
 }
 

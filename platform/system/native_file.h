@@ -29,6 +29,8 @@ public:
   const std::filesystem::path& Native() const { return native_; }
 
   std::string ReadAll();
+  // What stands from a position on, 0 being the beginning.
+  std::string ReadFrom(std::int64_t position);
   void Write(std::string_view bytes);
   std::int64_t Size();
   // Cuts the file to a size that it had.
@@ -57,6 +59,8 @@ void RemoveFileAt(const std::filesystem::path& native, const std::string& path);
 void RequireReplaceable(const std::filesystem::path& native, const std::string& path);
 // `from` becomes `to`, in one step and for good: after a power failure one of the two is there, whole.
 void MoveOver(const std::filesystem::path& from, const std::filesystem::path& to, const std::string& path);
+// Makes the new name of a file in the folder survive a power failure, where the file system knows how to.
+void FlushFolder(const std::filesystem::path& folder, const std::string& path);
 std::chrono::system_clock::time_point LastChange(const std::filesystem::path& native,
                                                  const std::string& path);
 

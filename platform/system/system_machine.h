@@ -16,8 +16,8 @@
 namespace veritane::platform {
 
 // Below a data root the common application data folder is C:\ProgramData. An installed program lies where its
-// users may not write; a file "program_folder" beside it then holds one line, the Windows path of the folder that
-// stands for the program's own.
+// users may not write; a file "program_folder" beside it then holds one line, the Windows path of the folder
+// that stands for the program's own.
 class SystemShellFolders : public ShellFolders {
 public:
   // `program_folder` is where the program lies.

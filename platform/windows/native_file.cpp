@@ -149,6 +149,13 @@ NativeFile NativeFile::CreateBeside(const fs::path& native, const std::string& p
   }
 }
 
+std::string NativeFile::ReadFrom(std::int64_t position) {
+  if (!::SetFilePointerEx(HandleOf(handle_), LARGE_INTEGER{.QuadPart = position}, nullptr, FILE_BEGIN)) {
+    RaiseSystemError(::GetLastError(), path_);
+  }
+  return ReadAll();
+}
+
 std::string NativeFile::ReadAll() {
   constexpr std::size_t kLargestStep = std::size_t{1} << 30;
   std::string bytes(static_cast<std::size_t>(Size()), '\0');
@@ -238,6 +245,9 @@ void MoveOver(const fs::path& from, const fs::path& to, const std::string& path)
     ::Sleep(kMillisecondsBetweenAttempts);
   }
 }
+
+// A move writes through, and a new file's name goes to the disk with the file.
+void FlushFolder(const fs::path&, const std::string&) {}
 
 std::chrono::system_clock::time_point LastChange(const fs::path& native, const std::string& path) {
   WIN32_FILE_ATTRIBUTE_DATA data;

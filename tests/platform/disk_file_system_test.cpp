@@ -56,6 +56,15 @@ TEST_F(DiskFileSystemTest, FailuresCarryTheNumbersThatTheProgramKnows) {
   EXPECT_EQ(files_.ReadBytes("C:\\Data\\b"), "b");
 }
 
+TEST_F(DiskFileSystemTest, ALineIsNeverAppendedToATornOne) {
+  files_.WriteBytes("C:\\Data\\log", "whole\r\nto");
+  auto log = files_.OpenForAppending("C:\\Data\\log");
+  log->Append("next\r\n");
+  log->Append("last\r\n");
+  EXPECT_EQ(files_.ReadBytes("C:\\Data\\log"), "whole\r\nto\r\nnext\r\nlast\r\n");
+  EXPECT_FALSE(files_.FileExists("C:\\Data\\" + std::string(400, 'x'))) << "a name that no file can have";
+}
+
 TEST_F(DiskFileSystemTest, AFileThatIsTakenIsNobodyElsesUntilItIsLetGo) {
   auto taken = files_.TakeFile("C:\\Data\\lock");
   ASSERT_NE(taken, nullptr);

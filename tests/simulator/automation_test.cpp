@@ -6,9 +6,9 @@
 
 #include "platform/number_text.h"
 #include "simulator/simulated_spectrometer.h"
-#include "tests/support/memory_file_system.h"
 #include "tests/support/automation_connection.h"
 #include "tests/support/errors.h"
+#include "tests/support/memory_file_system.h"
 
 namespace veritane::simulator {
 namespace {

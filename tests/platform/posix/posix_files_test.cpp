@@ -28,6 +28,13 @@ protected:
   DiskFileSystem files_{paths_, clock_};
 };
 
+TEST_F(PosixFilesTest, WhatCannotBeLookedAtIsNotTakenForMissing) {
+  fs::create_symlink("loop", folder_.Path() / "drive_c" / "Data" / "loop");
+  EXPECT_EQ(ErrorOf([&] { files_.FileExists("C:\\Data\\loop"); }), 57);
+  EXPECT_EQ(ErrorOf([&] { files_.FolderExists("C:\\Data\\loop"); }), 57);
+  EXPECT_EQ(ErrorOf([&] { files_.MoveFile("C:\\Data\\loop", "C:\\Data\\other"); }), 57);
+}
+
 TEST_F(PosixFilesTest, PathsOutsideOfDriveCAreBelowDriveZ) {
   EXPECT_EQ(paths_.ToWindows("/usr/share"), "Z:\\usr\\share");
   EXPECT_EQ(paths_.ToNative("Z:\\usr\\share"), fs::path("/usr/share"));
