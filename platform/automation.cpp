@@ -11,6 +11,8 @@ template <typename... Cases>
 struct Overloaded : Cases... {
   using Cases::operator()...;
 };
+template <typename... Cases>
+Overloaded(Cases...) -> Overloaded<Cases...>;
 
 [[noreturn]] void ThrowMismatch(const char* expected) {
   throw RunTimeError(ErrorNumber::kTypeMismatch, std::string("an automation value is no ") + expected);

@@ -96,7 +96,7 @@ using ShowWaiting = std::function<void(const std::string& text)>;
 
 // The automation of the system that the program runs on; objects and `show` are used on the calling thread
 // alone. On a system without automation every creation fails.
-std::unique_ptr<Automation> SystemAutomation(ShowWaiting show);
+std::unique_ptr<Automation> SystemAutomation(const ShowWaiting& show);
 bool SystemHasAutomation();
 
 }  // namespace veritane::platform

@@ -129,7 +129,7 @@ std::shared_ptr<SimulatorObject> ServeDocuments(const MemberNames& names, const 
 
 }  // namespace
 
-std::shared_ptr<platform::ServedObject> ServeSpectrometerApp(SharedApp app,
+std::shared_ptr<platform::ServedObject> ServeSpectrometerApp(const SharedApp& app,
                                                              const acquisition::AutomationMembers& members) {
   const auto names = std::make_shared<const acquisition::AutomationMembers>(members);
   auto object = std::make_shared<SimulatorObject>(names);

@@ -13,6 +13,7 @@ namespace veritane::simulator {
 // The application object under the names of `members`; all others come out of it. They keep alive what they
 // stand for.
 std::shared_ptr<platform::ServedObject> ServeSpectrometerApp(
-    std::shared_ptr<acquisition::SpectrometerApp> app, const acquisition::AutomationMembers& members = {});
+    const std::shared_ptr<acquisition::SpectrometerApp>& app,
+    const acquisition::AutomationMembers& members = {});
 
 }  // namespace veritane::simulator

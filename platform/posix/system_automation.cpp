@@ -17,7 +17,7 @@ public:
 
 }  // namespace
 
-std::unique_ptr<Automation> SystemAutomation(ShowWaiting) {
+std::unique_ptr<Automation> SystemAutomation(const ShowWaiting&) {
   return std::make_unique<NoAutomation>();
 }
 

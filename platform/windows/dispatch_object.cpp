@@ -150,8 +150,8 @@ private:
 
 }  // namespace
 
-std::unique_ptr<Automation> SystemAutomation(ShowWaiting show) {
-  return std::make_unique<WindowsAutomation>(std::move(show));
+std::unique_ptr<Automation> SystemAutomation(const ShowWaiting& show) {
+  return std::make_unique<WindowsAutomation>(show);
 }
 
 bool SystemHasAutomation() {
