@@ -73,7 +73,8 @@ TEST_F(StartUpTest, ASecondProgramOnTheSameDataSaysSoAndEndsWithoutTouchingThem)
   Write(Data("Meth.tbl"), " 1 \r\nP1,Disc,PLS,[VERITANE_TARGETDIR]a.cal\r\n");
   const std::string settings = Read(Data("settings.ini"));
   platform::ScriptRun second;
-  std::unique_ptr<shell::FrmVeritane> program;
+  platform::ScriptRun third;
+  std::unique_ptr<shell::FrmVeritane> program;  // goes before the screens it stands on
   second.program.start = Starter(second, program);
   const auto events = second.Lines({"start"});
   EXPECT_THAT(events.Messages(), ElementsAre("Veritane is running already with the data in " + Data("") +
@@ -85,7 +86,6 @@ TEST_F(StartUpTest, ASecondProgramOnTheSameDataSaysSoAndEndsWithoutTouchingThem)
   // The first one has gone when the next one starts.
   program.reset();
   program_.reset();
-  platform::ScriptRun third;
   third.program.start = Starter(third, program);
   EXPECT_THAT(third.Lines({"start"}).Messages(), IsEmpty());
 }
