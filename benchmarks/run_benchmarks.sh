@@ -4,7 +4,7 @@
 set -eu
 cd "$(dirname "$0")/.."
 
-packaging/install_dependencies build check
+packaging/install_dependencies build test check
 packaging/build benchmark
 results=$(mktemp -d)
 trap 'rm -rf "$results"' EXIT
@@ -16,9 +16,11 @@ build/benchmark/bin/veritane_benchmarks --benchmark_repetitions=15 --benchmark_m
   --setup build/benchmark/bin/veritane-setup > "$results/reprocess.json"
 /usr/bin/python3 benchmarks/load_benchmark.py --console build/benchmark/bin/veritane-console \
   --setup build/benchmark/bin/veritane-setup > "$results/load.json"
+mkdir "$results/root"
+tests/window/with_display.sh build/benchmark/bin/opening_time "$results/root" > "$results/opening.json"
 # One thread, as the library has.
 OPENBLAS_NUM_THREADS=1 OMP_NUM_THREADS=1 /usr/bin/python3 benchmarks/pls_comparison.py > "$results/pls.json"
 compiler=$(sed -n 's/^CMAKE_CXX_COMPILER:[A-Z]*=//p' build/benchmark/CMakeCache.txt)
 /usr/bin/python3 benchmarks/performance_page.py "$results/benchmarks.json" "$results/numpy.json" "$results/reprocess.json" \
-  "$results/pls.json" "$results/load.json" "$("$compiler" --version | head -n 1)" docs/performance.md
+  "$results/pls.json" "$results/load.json" "$results/opening.json" "$("$compiler" --version | head -n 1)" docs/performance.md
 cat docs/performance.md

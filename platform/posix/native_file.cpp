@@ -59,14 +59,6 @@ struct stat StatusOf(int descriptor, const std::string& path) {
 
 }  // namespace
 
-NativeFile::NativeFile(Handle handle, fs::path native, std::string path)
-    : handle_(handle), native_(std::move(native)), path_(std::move(path)) {}
-
-NativeFile::NativeFile(NativeFile&& other) noexcept
-    : handle_(std::exchange(other.handle_, -1)),
-      native_(std::move(other.native_)),
-      path_(std::move(other.path_)) {}
-
 NativeFile::~NativeFile() {
   if (handle_ >= 0) ::close(static_cast<int>(handle_));
 }

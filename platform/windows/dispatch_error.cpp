@@ -56,14 +56,8 @@ constexpr HRESULT kUpperHalf = static_cast<HRESULT>(0xFFFF0000);
 }  // namespace
 
 std::string SystemText(HRESULT result) {
-  wchar_t* found = nullptr;
-  const DWORD length = FormatMessageW(
-      FORMAT_MESSAGE_ALLOCATE_BUFFER | FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr,
-      static_cast<DWORD>(result), 0, reinterpret_cast<wchar_t*>(&found), 0, nullptr);
-  std::string text = Utf8Text({found, length});
-  LocalFree(found);
-  while (!text.empty() && (text.back() == '\n' || text.back() == '\r' || text.back() == ' ')) text.pop_back();
-  return text.empty() ? Hexadecimal(result) : text + " (" + Hexadecimal(result) + ")";
+  const std::string words = SystemWords(static_cast<DWORD>(result));
+  return words.empty() ? Hexadecimal(result) : words + " (" + Hexadecimal(result) + ")";
 }
 
 RunTimeError ErrorOfCall(HRESULT result, const std::string& member) {

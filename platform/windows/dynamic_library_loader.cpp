@@ -13,18 +13,9 @@ namespace fs = std::filesystem;
 
 namespace {
 
-// The system's words for an error.
 std::string ReasonOf(DWORD code) {
-  wchar_t* words = nullptr;
-  const DWORD length = ::FormatMessageW(
-      FORMAT_MESSAGE_ALLOCATE_BUFFER | FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr,
-      code, 0, reinterpret_cast<wchar_t*>(&words), 0, nullptr);
-  std::string reason = Utf8Text({words, length});
-  ::LocalFree(words);
-  while (!reason.empty() && (reason.back() == '\n' || reason.back() == '\r' || reason.back() == ' ')) {
-    reason.pop_back();
-  }
-  return reason.empty() ? "error " + std::to_string(code) : reason;
+  const std::string words = SystemWords(code);
+  return words.empty() ? "error " + std::to_string(code) : words;
 }
 
 class LoadedDll : public DynamicLibrary {

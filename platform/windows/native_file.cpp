@@ -98,14 +98,6 @@ constexpr DWORD kMillisecondsBetweenAttempts = 25;
 
 }  // namespace
 
-NativeFile::NativeFile(Handle handle, fs::path native, std::string path)
-    : handle_(handle), native_(std::move(native)), path_(std::move(path)) {}
-
-NativeFile::NativeFile(NativeFile&& other) noexcept
-    : handle_(std::exchange(other.handle_, -1)),
-      native_(std::move(other.native_)),
-      path_(std::move(other.path_)) {}
-
 NativeFile::~NativeFile() {
   if (HandleOf(handle_) != INVALID_HANDLE_VALUE) ::CloseHandle(HandleOf(handle_));
 }

@@ -40,4 +40,14 @@ std::string CodePageText(std::wstring_view wide) {
   return Encoded(CP_ACP, wide);
 }
 
+std::string SystemWords(unsigned long code) {
+  wchar_t* words = nullptr;
+  const DWORD length = ::FormatMessageW(
+      FORMAT_MESSAGE_ALLOCATE_BUFFER | FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr,
+      code, 0, reinterpret_cast<wchar_t*>(&words), 0, nullptr);
+  std::string text = Utf8Text({words, length});
+  ::LocalFree(words);
+  return text.substr(0, text.find_last_not_of("\r\n ") + 1);
+}
+
 }  // namespace veritane::platform

@@ -75,23 +75,6 @@ void CompartmentOfAnyState(std::string_view bytes) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  if (size == 0) return 0;
-  const std::string_view bytes = fuzz::BytesOf(data, size).substr(1);
-  try {
-    switch (data[0]) {
-      case 'm':
-        CollectMethod(bytes);
-        break;
-      case 'c':
-        Compartment(bytes);
-        break;
-      case 's':
-        CompartmentOfAnyState(bytes);
-        break;
-      default:
-        break;
-    }
-  } catch (const platform::RunTimeError&) {
-  }
+  fuzz::Feed({{'m', CollectMethod}, {'c', Compartment}, {'s', CompartmentOfAnyState}}, data, size);
   return 0;
 }

@@ -5,7 +5,6 @@
 #include "acquisition/prompts.h"
 #include "platform/number_text.h"
 #include "platform/registry_text.h"
-#include "platform/run_time_error.h"
 #include "platform/utf8.h"
 #include "shell/state/settings_file.h"
 #include "tests/fuzz/require.h"
@@ -90,29 +89,8 @@ void Registry(std::string_view bytes) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  if (size == 0) return 0;
-  const std::string_view bytes = fuzz::BytesOf(data, size).substr(1);
-  try {
-    switch (data[0]) {
-      case 's':
-        Settings(bytes);
-        break;
-      case 'p':
-        Prompts(bytes);
-        break;
-      case 'k':
-        CutProductKey(bytes);
-        break;
-      case 'd':
-        DefineProductKey(bytes);
-        break;
-      case 'r':
-        Registry(bytes);
-        break;
-      default:
-        break;
-    }
-  } catch (const platform::RunTimeError&) {
-  }
+  fuzz::Feed(
+      {{'s', Settings}, {'p', Prompts}, {'k', CutProductKey}, {'d', DefineProductKey}, {'r', Registry}}, data,
+      size);
   return 0;
 }

@@ -7,7 +7,6 @@
 #include "acquisition/null_regions.h"
 #include "acquisition/product_table.h"
 #include "identification/mark_peaks.h"
-#include "platform/run_time_error.h"
 #include "platform/text_file.h"
 #include "platform/windows_path.h"
 #include "tests/fuzz/require.h"
@@ -67,26 +66,6 @@ void PeakFile(std::string_view bytes) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  if (size == 0) return 0;
-  const std::string_view bytes = fuzz::BytesOf(data, size).substr(1);
-  try {
-    switch (data[0]) {
-      case 't':
-        ProductTable(bytes);
-        break;
-      case 'm':
-        MethodList(bytes);
-        break;
-      case 'n':
-        NullRegions(bytes);
-        break;
-      case 'p':
-        PeakFile(bytes);
-        break;
-      default:
-        break;
-    }
-  } catch (const platform::RunTimeError&) {
-  }
+  fuzz::Feed({{'t', ProductTable}, {'m', MethodList}, {'n', NullRegions}, {'p', PeakFile}}, data, size);
   return 0;
 }

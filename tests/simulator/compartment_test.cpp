@@ -11,14 +11,14 @@ namespace {
 constexpr const char* kPath = InstrumentRig::kPath;
 
 TEST(Compartment, WithoutAFileIsEmptyAndQuiet) {
-  MemoryFiles files;
+  tests::MemoryFileSystem files;
   EXPECT_EQ(Compartment(files, kPath).Read(), CompartmentState{});
   EXPECT_EQ(Compartment(files, kPath).TakeFault(), 0);
-  EXPECT_TRUE(files.contents.empty());
+  EXPECT_EQ(files.writes, 0);
 }
 
 TEST(Compartment, IsReadAsWritten) {
-  MemoryFiles files;
+  tests::MemoryFileSystem files;
   CompartmentState state;
   state.sample = "Z:\\spectra\\film = 3.jdx";
   state.accessory = "ATR";
@@ -35,8 +35,8 @@ TEST(Compartment, IsReadAsWritten) {
 }
 
 TEST(Compartment, TakesHandWrittenFiles) {
-  MemoryFiles files;
-  files.contents[kPath] = "# by hand\nsample = Aspirin\nSEED=RANDOM\nNoise =\nColour = green";
+  tests::MemoryFileSystem files;
+  files.WriteBytes(kPath, "# by hand\nsample = Aspirin\nSEED=RANDOM\nNoise =\nColour = green");
   const CompartmentState state = Compartment(files, kPath).Read();
   EXPECT_EQ(state.sample, "Aspirin");
   EXPECT_EQ(state.seed, std::nullopt);
@@ -44,7 +44,7 @@ TEST(Compartment, TakesHandWrittenFiles) {
 }
 
 TEST(Compartment, AFaultIsTakenAsOftenAsItsCount) {
-  MemoryFiles files;
+  tests::MemoryFileSystem files;
   CompartmentState state;
   state.sample = "caffeine";
   state.fault = 5;
@@ -59,22 +59,22 @@ TEST(Compartment, AFaultIsTakenAsOftenAsItsCount) {
 }
 
 TEST(Compartment, AFaultThatCannotBeCountedIsNotTaken) {
-  MemoryFiles files;
+  tests::MemoryFileSystem files;
   CompartmentState state;
   state.fault = 5;
   state.faultCount = 2;
   Compartment compartment(files, kPath);
   compartment.Write(state);
-  files.failWrites = true;
+  files.writeFault = 61;
   EXPECT_EQ(tests::ErrorOf([&] { compartment.TakeFault(); }), 61);
   EXPECT_EQ(compartment.Read(), state);
 }
 
 TEST(Compartment, ValuesThatMakeNoSenseAreNamedWithFileAndLine) {
-  MemoryFiles files;
+  tests::MemoryFileSystem files;
   for (const char* line : {"Noise = much", "Noise = -1", "Duration = 1.5", "Duration = -1", "Fault = x",
                            "FaultCount = -1", "Seed = 1e12", "Seed = none", "just words"}) {
-    files.contents[kPath] = std::string("Sample = caffeine\r\n") + line + "\r\n";
+    files.WriteBytes(kPath, std::string("Sample = caffeine\r\n") + line + "\r\n");
     try {
       Compartment(files, kPath).Read();
       ADD_FAILURE() << "was read: " << line;
@@ -86,14 +86,14 @@ TEST(Compartment, ValuesThatMakeNoSenseAreNamedWithFileAndLine) {
 }
 
 TEST(Compartment, WhatCouldNotBeReadAgainIsNotWritten) {
-  MemoryFiles files;
+  tests::MemoryFileSystem files;
   for (const auto& spoil : std::vector<void (*)(CompartmentState&)>{
            [](auto& state) { state.sample = "empty\r\nFault = 5"; }, [](auto& state) { state.noise = -1; },
            [](auto& state) { state.duration = -1; }, [](auto& state) { state.faultCount = 100000; }}) {
     CompartmentState state;
     spoil(state);
     EXPECT_EQ(tests::ErrorOf([&] { Compartment(files, kPath).Write(state); }), 5);
-    EXPECT_TRUE(files.contents.empty());
+    EXPECT_EQ(files.writes, 0);
   }
 }
 

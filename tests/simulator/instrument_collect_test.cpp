@@ -165,16 +165,16 @@ TEST(Collecting, UnreadableMethodsSamplesAndCompartmentsAreErrorNumbers) {
   // The alignment does not look at the sample.
   EXPECT_EQ(rig.instrument.Align(rig.Request()), 0);
 
-  rig.files.contents[InstrumentRig::kPath] = "Noise = loud";
+  rig.files.WriteBytes(InstrumentRig::kPath, "Noise = loud");
   EXPECT_EQ(rig.instrument.Collect(rig.Request()).error, kCompartmentUnreadable);
-  rig.files.failReads = true;
+  rig.files.readFault = 70;
   EXPECT_EQ(rig.instrument.Align(rig.Request()), kCompartmentUnreadable);
   CompartmentState faulty = InstrumentRig::Seeded(7);
   faulty.fault = 5;
   faulty.faultCount = 1;
-  rig.files.failReads = false;
+  rig.files.readFault = 0;
   rig.Put(faulty);
-  rig.files.failWrites = true;
+  rig.files.writeFault = 61;
   EXPECT_EQ(rig.instrument.Collect(rig.Request()).error, kCompartmentUnreadable);
 }
 

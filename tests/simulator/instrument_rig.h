@@ -4,49 +4,14 @@
 
 #include <map>
 #include <memory>
-#include <stdexcept>
 #include <string>
 #include <vector>
 
 #include "platform/run_time_error.h"
 #include "simulator/instrument.h"
+#include "tests/support/memory_file_system.h"
 
 namespace veritane::simulator::instrument_tests {
-
-// Files in memory. With `failWrites` every write meets a full disk.
-class MemoryFiles : public platform::FileSystem {
-public:
-  std::map<std::string, std::string> contents;
-  bool failWrites = false;
-  bool failReads = false;
-
-  bool FileExists(const std::string& path) const override { return contents.count(path) > 0; }
-  std::string ReadBytes(const std::string& path) const override {
-    if (failReads) throw platform::RunTimeError(platform::ErrorNumber::kPermissionDenied, path);
-    const auto found = contents.find(path);
-    if (found == contents.end()) throw platform::RunTimeError(platform::ErrorNumber::kFileNotFound, path);
-    return found->second;
-  }
-  void WriteBytes(const std::string& path, std::string_view bytes) override {
-    if (failWrites) throw platform::RunTimeError(platform::ErrorNumber::kDiskFull, path);
-    contents[path] = bytes;
-  }
-
-  bool FolderExists(const std::string&) const override { return true; }
-  void CreateFolder(const std::string&) override { throw std::logic_error("not used here"); }
-  std::unique_ptr<platform::AppendingFile> OpenForAppending(const std::string&) override {
-    throw std::logic_error("not used here");
-  }
-  std::unique_ptr<platform::TakenFile> TakeFile(const std::string&) override {
-    return std::make_unique<platform::TakenFile>();
-  }
-  void DeleteFile(const std::string&) override { throw std::logic_error("not used here"); }
-  void MoveFile(const std::string&, const std::string&) override { throw std::logic_error("not used here"); }
-  platform::DateTime LastModified(const std::string&) const override {
-    throw std::logic_error("not used here");
-  }
-  std::vector<std::string> ListFiles(const std::string&) const override { return {}; }
-};
 
 class InstrumentRig {
 public:
@@ -92,7 +57,7 @@ public:
     return instrument.Collect(RequestAgainst(background)).values.values;
   }
 
-  MemoryFiles files;
+  tests::MemoryFileSystem files;
   CollectMethodSettings method;
   std::chrono::milliseconds waited{0};
   std::map<std::string, StoredSpectrum> spectra;  // the files that can lie in the compartment

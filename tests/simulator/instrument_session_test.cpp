@@ -22,7 +22,7 @@ public:
 
 class Session : public ::testing::Test {
 protected:
-  Session() { rig.files.contents[kMethod] = CollectMethodText(rig.method); }
+  Session() { rig.files.WriteBytes(kMethod, CollectMethodText(rig.method)); }
 
   // The error number; the collected spectrum is in the file when it is 0.
   int Collect(const std::string& sample, const std::string& path, const std::string& background) {
@@ -66,7 +66,7 @@ TEST_F(Session, ABackgroundSurvivesItsFileForEverySpacing) {
   rig.Put(quiet);
   for (double spacing : {0.25, 0.482, 1.0, 1.928, 4.0}) {
     rig.method.spacing = spacing;
-    rig.files.contents[kMethod] = CollectMethodText(rig.method);
+    rig.files.WriteBytes(kMethod, CollectMethodText(rig.method));
     ASSERT_EQ(Collect("empty", "C:\\back.bsp", ""), 0) << spacing;
     ASSERT_EQ(Collect("empty", "C:\\line.bsp", "C:\\back.bsp(1)"), 0)
         << spacing << rig.instrument.LastFault();
@@ -76,7 +76,7 @@ TEST_F(Session, ABackgroundSurvivesItsFileForEverySpacing) {
 
 TEST_F(Session, AMissingOrDamagedBackgroundIsAnErrorNumber) {
   EXPECT_EQ(Collect("aspirin", "C:\\a.bsp", "C:\\back.bsp(1)"), kBackgroundMissing);
-  rig.files.contents["C:\\back.bsp"] = "##TITLE=cut";
+  rig.files.WriteBytes("C:\\back.bsp", "##TITLE=cut");
   EXPECT_EQ(Collect("aspirin", "C:\\a.bsp", "C:\\back.bsp(1)"), kBackgroundMissing);
   EXPECT_NE(rig.instrument.LastFault(), "");
   EXPECT_FALSE(rig.files.FileExists("C:\\a.bsp"));
@@ -95,7 +95,7 @@ TEST_F(Session, AnAccessoryThatIsWrongTwiceIsThenMeasured) {
   EXPECT_EQ(document->CollectInto(*method), 0);
   EXPECT_EQ(document->GetSpectrumCount(), 1);
   document->CloseDocument(true);
-  EXPECT_EQ(ReadSpectrumFile("C:\\back.bsp", rig.files.contents["C:\\back.bsp"]).spectra.size(), 1u);
+  EXPECT_EQ(ReadSpectrumFile("C:\\back.bsp", rig.files.ReadBytes("C:\\back.bsp")).spectra.size(), 1u);
 }
 
 }  // namespace

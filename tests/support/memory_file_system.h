@@ -1,4 +1,4 @@
-// Files in memory, with faults of writing on demand. Every folder is there; folders cannot be listed or made.
+// Files in memory, with faults on demand. Every folder is there; folders cannot be listed or made.
 #pragma once
 
 #include <map>
@@ -15,7 +15,8 @@ namespace veritane::tests {
 
 class MemoryFileSystem : public platform::FileSystem {
 public:
-  // The number that the next writes raise, leaving the files as they are; 0 for none.
+  // The numbers that the next reads and writes raise, leaving the files as they are; 0 for none.
+  int readFault = 0;
   int writeFault = 0;
   int writes = 0;
 
@@ -24,6 +25,7 @@ public:
   void CreateFolder(const std::string& path) override { Unexpected(path); }
 
   std::string ReadBytes(const std::string& path) const override {
+    if (readFault != 0) throw platform::RunTimeError(readFault, "injected");
     const auto found = files_.find(Key(path));
     if (found == files_.end()) throw platform::RunTimeError(platform::ErrorNumber::kFileNotFound, path);
     return found->second;

@@ -1,6 +1,6 @@
 // Answering dialogs as planned, and taking pictures with a program outside: the toolkit's own copy of the
 // screen may be stale.
-#include "tests/window/picture_interface.h"
+#include "apps/documentation/picture_interface.h"
 
 #include <wx/dialog.h>
 #include <wx/evtloop.h>

@@ -1,5 +1,7 @@
 // How long a supervisor waits for 10,000 products: from the press of the button to the drawn grid, and from
-// row to row. Prints milliseconds; run it on a machine that does nothing else. Not a test.
+// row to row. Writes milliseconds as JSON; run it on a machine that does nothing else.
+//
+// opening_time ROOT    (an empty folder, which becomes the data root)
 #include <wx/app.h>
 #include <wx/evtloop.h>
 #include <wx/grid.h>
@@ -8,6 +10,7 @@
 #include <chrono>
 #include <cstdio>
 #include <filesystem>
+#include <nlohmann/json.hpp>
 #include <string>
 #include <vector>
 
@@ -16,7 +19,6 @@
 #include "platform/desktop.h"
 #include "platform/wx/wx_user_interface.h"
 #include "shell/frm_veritane.h"
-#include "tests/support/temporary_folder.h"
 
 namespace veritane::platform {
 namespace {
@@ -31,8 +33,8 @@ std::string Same(const std::string& path) {
 
 class OpeningTime {
 public:
-  OpeningTime() {
-    std::filesystem::create_directories(folder_.Path() / "drive_c");
+  explicit OpeningTime(const std::filesystem::path& root) : machine_(root, "C") {
+    std::filesystem::create_directories(root / "drive_c");
     setup::LayOutData(machine_.Facilities());
     setup::SetDemonstrationMode(machine_.Facilities(), true);
     std::string table = " " + std::to_string(kProducts) + " \r\n";
@@ -61,8 +63,9 @@ public:
     std::vector<double> steps;
     for (int i = 1; i <= kSteps; ++i)
       steps.push_back(TimeUntilDrawn([this, i] { main_.grid.SetRow(i * kProducts / kSteps); }));
-    Report("opening", openings);
-    Report("going to another row", steps);
+    const nlohmann::ordered_json report = {
+        {"products", kProducts}, {"opening", Summary(openings)}, {"hundred_rows_on", Summary(steps)}};
+    std::puts(report.dump().c_str());
     desktop_.End(0);
   }
 
@@ -77,13 +80,12 @@ private:
     return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - begin).count();
   }
 
-  static void Report(const char* what, std::vector<double> times) {
+  static nlohmann::ordered_json Summary(std::vector<double> times) {
     std::sort(times.begin(), times.end());
-    std::printf("%s: median %.0f ms, longest %.0f ms\n", what, times[times.size() / 2], times.back());
+    return {{"runs", times.size()}, {"median_ms", times[times.size() / 2]}, {"longest_ms", times.back()}};
   }
 
-  tests::TemporaryFolder folder_;
-  SystemMachine machine_{folder_.Path(), "C"};
+  SystemMachine machine_;
   WxUserInterface screen_{{.toNative = Same, .toWindows = Same}};
   Desktop desktop_{screen_};
   apps::SimulatedBench bench_{machine_, [](std::chrono::milliseconds) {}};
@@ -95,6 +97,8 @@ private:
 
 class TimingApplication : public wxApp {
 public:
+  explicit TimingApplication(std::filesystem::path root) : root_(std::move(root)) {}
+
   bool OnInit() override {
     SetExitOnFrameDelete(false);
     return true;
@@ -103,15 +107,24 @@ public:
   int OnRun() override {
     wxGUIEventLoop loop;
     const wxEventLoopActivator activator(&loop);
-    OpeningTime().Print();
+    OpeningTime(root_).Print();
     return 0;
   }
+
+private:
+  std::filesystem::path root_;
 };
 
 }  // namespace
 }  // namespace veritane::platform
 
 int main(int argc, char** argv) {
-  wxApp::SetInstance(new veritane::platform::TimingApplication);
-  return wxEntry(argc, argv);
+  if (argc != 2) {
+    std::fputs("usage: opening_time ROOT\n", stderr);
+    return 2;
+  }
+  // The toolkit would take the argument for its own.
+  int own_arguments = 1;
+  wxApp::SetInstance(new veritane::platform::TimingApplication(std::filesystem::absolute(argv[1])));
+  return wxEntry(own_arguments, argv);
 }

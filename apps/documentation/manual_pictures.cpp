@@ -1,7 +1,7 @@
-// Takes the pictures of the user's guide: the program in its real window, on a data folder of its own, a
-// fixed clock and a simulated spectrometer whose noise is fixed. Not a test.
+// Takes the pictures of the user's guide: the program in its real window, on an empty data root, with a fixed
+// clock and a simulated spectrometer whose noise is fixed.
 //
-// manual_pictures FOLDER    (docs/manual/make_pictures runs it on a screen of its own)
+// manual_pictures PICTURES ROOT [--smallest]    (docs/manual/make_pictures runs it on a screen of its own)
 #include <wx/app.h>
 #include <wx/evtloop.h>
 #include <wx/toplevel.h>
@@ -9,12 +9,11 @@
 #include <cstdio>
 #include <cstring>
 
+#include "apps/documentation/picture_interface.h"
 #include "apps/simulated_bench.h"
 #include "apps/veritane_setup/data_layout.h"
 #include "platform/desktop.h"
 #include "shell/frm_veritane.h"
-#include "tests/support/temporary_folder.h"
-#include "tests/window/picture_interface.h"
 
 namespace veritane::platform {
 namespace {
@@ -26,8 +25,9 @@ const std::string kDataFolder = "C:\\ProgramData\\Kestrova\\Veritane\\";
 class ManualPictures {
 public:
   // With `smallest` the main window is as small as it gets.
-  ManualPictures(PictureInterface& screen, bool smallest) : screen_(screen) {
-    std::filesystem::create_directories(folder_.Path() / "drive_c");
+  ManualPictures(PictureInterface& screen, const std::filesystem::path& root, bool smallest)
+      : screen_(screen), machine_(root, "C") {
+    std::filesystem::create_directories(root / "drive_c");
     machine_.clock.Set({.year = 2026, .month = 11, .day = 21, .hour = 10, .minute = 59, .second = 0});
     setup::LayOutData(machine_.Facilities());
     PutIn("empty", "Transmission");
@@ -247,8 +247,7 @@ private:
   }
 
   PictureInterface& screen_;
-  tests::TemporaryFolder folder_;
-  SystemMachine machine_{folder_.Path(), "C"};
+  SystemMachine machine_;
   Desktop desktop_{screen_};
   apps::SimulatedBench bench_{machine_, [this](std::chrono::milliseconds) { WhileMeasuring(); }};
   shell::FrmVeritane main_{desktop_, machine_.Facilities(),
@@ -261,8 +260,8 @@ private:
 
 class PictureApplication : public wxApp {
 public:
-  PictureApplication(std::filesystem::path folder, bool smallest)
-      : folder_(std::move(folder)), smallest_(smallest) {}
+  PictureApplication(std::filesystem::path folder, std::filesystem::path root, bool smallest)
+      : folder_(std::move(folder)), root_(std::move(root)), smallest_(smallest) {}
 
   bool OnInit() override {
     SetExitOnFrameDelete(false);
@@ -273,13 +272,14 @@ public:
     wxGUIEventLoop loop;
     const wxEventLoopActivator activator(&loop);
     PictureInterface screen(folder_);
-    ManualPictures pictures(screen, smallest_);
+    ManualPictures pictures(screen, root_, smallest_);
     pictures.TakeAll();
     return screen.HasFailed() ? 1 : 0;
   }
 
 private:
   std::filesystem::path folder_;
+  std::filesystem::path root_;
   bool smallest_;
 };
 
@@ -287,15 +287,16 @@ private:
 }  // namespace veritane::platform
 
 int main(int argc, char** argv) {
-  const bool smallest = argc == 3 && std::strcmp(argv[2], "--smallest") == 0;
-  if (argc != 2 && !smallest) {
-    std::fputs("usage: manual_pictures FOLDER [--smallest]\n", stderr);
+  const bool smallest = argc == 4 && std::strcmp(argv[3], "--smallest") == 0;
+  if (argc != 3 && !smallest) {
+    std::fputs("usage: manual_pictures PICTURES ROOT [--smallest]\n", stderr);
     return 2;
   }
   const std::filesystem::path folder = std::filesystem::absolute(argv[1]);
   std::filesystem::create_directories(folder);
   // The toolkit would take the arguments for its own.
   int own_arguments = 1;
-  wxApp::SetInstance(new veritane::platform::PictureApplication(folder, smallest));
+  wxApp::SetInstance(
+      new veritane::platform::PictureApplication(folder, std::filesystem::absolute(argv[2]), smallest));
   return wxEntry(own_arguments, argv);
 }
