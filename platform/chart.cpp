@@ -98,4 +98,19 @@ void Chart::MouseMove(double pixel_x, double pixel_y) const {
   if (OnMouseMove) OnMouseMove(pixel_x, pixel_y);
 }
 
+std::string Chart::SpokenContent() const {
+  std::string content;
+  const auto say = [&content](const std::string& text) {
+    if (text.find_first_not_of(' ') == std::string::npos) return;
+    if (!content.empty()) content += "; ";
+    content += text;
+  };
+  for (const std::string& line : header_) say(line);
+  for (const std::string& label : labels_) say(label);
+  for (const ChartSeries& series : series_) say(series.title);
+  for (const ChartMarker& marker : markers_) say(marker.text);
+  for (const ChartRegion& region : regions_) say(region.text);
+  return content;
+}
+
 }  // namespace veritane::platform

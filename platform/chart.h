@@ -120,6 +120,9 @@ public:
 
   void MouseMove(double pixel_x, double pixel_y) const;
 
+  // The texts that are drawn, the verdict among them, and the names of the traces and marks.
+  std::string SpokenContent() const override;
+
 private:
   void ChartChanged();
 

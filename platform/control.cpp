@@ -1,10 +1,26 @@
 // Controls: the part they have in common.
 #include "platform/control.h"
 
+#include <algorithm>
+
 #include "platform/controls.h"
 #include "platform/form.h"
 
 namespace veritane::platform {
+
+namespace {
+
+std::string WithoutAccessKey(const std::string& caption) {
+  std::string text;
+  for (std::size_t i = 0; i < caption.size(); ++i) {
+    // "&&" stands for one that is to be seen.
+    if (caption[i] == '&' && ++i == caption.size()) break;
+    text += caption[i];
+  }
+  return text;
+}
+
+}  // namespace
 
 Control::Control(Form& form, std::string name, ControlKind kind)
     : form_(form), name_(std::move(name)), kind_(kind) {
@@ -61,6 +77,25 @@ void Control::SetFocus() {
 
 bool Control::HasFocus() const {
   return form_.Focused() == this;
+}
+
+const Control* Control::NamedBy() const {
+  if (!caption_.empty() || kind_ == ControlKind::kLabel) return this;
+  const auto& controls = form_.Controls();
+  const auto place = std::find(controls.begin(), controls.end(), this);
+  if (place != controls.begin() && place != controls.end()) {
+    const Control& before = **std::prev(place);
+    const bool is_namer = before.kind_ == ControlKind::kLabel || before.kind_ == ControlKind::kOption;
+    if (is_namer && !before.caption_.empty() && before.frame_ == frame_ && before.tabs_ == tabs_ &&
+        before.page_ == page_)
+      return &before;
+  }
+  return frame_ == nullptr ? nullptr : frame_->NamedBy();
+}
+
+std::string Control::SpokenName() const {
+  if (const Control* namer = NamedBy()) return WithoutAccessKey(namer->Caption());
+  return WithoutAccessKey(tabs_ == nullptr ? form_.Caption() : tabs_->PageCaption(page_));
 }
 
 void Control::Watch(std::function<void(Property)> watcher) {

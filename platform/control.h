@@ -85,6 +85,15 @@ public:
   const std::string& ToolTip() const { return tool_tip_; }
   void SetToolTip(const std::string& text) { tool_tip_ = text; }
 
+  // What a screen reader calls the control: its caption without the access key's mark. A control without a
+  // caption goes by that of the label or option just before it in the same place, which is how fields are
+  // named on screen, or else by what it lies in.
+  std::string SpokenName() const;
+  // The control that the name comes from, which may be this one; nullptr for a page's or the form's caption.
+  const Control* NamedBy() const;
+  // What a screen reader says beyond that of a control whose content is drawn; "" for all others.
+  virtual std::string SpokenContent() const { return {}; }
+
   // Calls `watcher` after each change from now on, before the control's own event. Watchers stay for good.
   void Watch(std::function<void(Property)> watcher);
 

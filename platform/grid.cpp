@@ -91,4 +91,15 @@ void Grid::SetCurrentCell(int row, int column) {
   if (OnRowColChange) OnRowColChange();
 }
 
+std::string Grid::SpokenContent() const {
+  if (row_ < fixed_rows_ || row_ >= RowCount()) return {};
+  std::string content;
+  for (int column = 0; column < column_count_; ++column) {
+    if (!content.empty()) content += ", ";
+    if (fixed_rows_ > 0) content += Cell(0, column) + " ";
+    content += Cell(row_, column);
+  }
+  return content;
+}
+
 }  // namespace veritane::platform

@@ -41,6 +41,9 @@ public:
   void SetFormat(const std::string& format);
   GridAlignment Alignment(int column) const { return alignments_.at(static_cast<std::size_t>(column)); }
 
+  // The cells of the current row with their headings.
+  std::string SpokenContent() const override;
+
   int Row() const { return row_; }
   int Column() const { return column_; }
   void SetCurrentCell(int row, int column);

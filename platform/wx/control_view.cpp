@@ -3,6 +3,7 @@
 
 #include <wx/tooltip.h>
 
+#include "platform/wx/spoken_name.h"
 #include "platform/wx/wx_text.h"
 
 namespace veritane::platform {
@@ -17,8 +18,22 @@ void ControlView::Connect(const std::shared_ptr<ControlView>& view, wxWindow* wi
   window->Show(control.Visible());
   // The control may outlive its view.
   view->control_.Watch([weak = std::weak_ptr(view)](Property property) {
-    if (const auto alive = weak.lock()) alive->Follow(property);
+    const auto alive = weak.lock();
+    if (!alive) return;
+    alive->Follow(property);
+    const bool is_content =
+        property == Property::kCells || property == Property::kRow || property == Property::kChart;
+    if (is_content) alive->Announce();
   });
+}
+
+void ControlView::Announce() {
+  const std::string name = control_.SpokenName();
+  const std::string content = control_.SpokenContent();
+  if (name == told_name_ && content == told_content_) return;
+  told_name_ = name;
+  told_content_ = content;
+  TellScreenReaders(*window_, ToWx(name), ToWx(content));
 }
 
 void ControlView::Follow(Property property) {

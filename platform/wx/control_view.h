@@ -5,6 +5,7 @@
 
 #include <functional>
 #include <memory>
+#include <string>
 
 #include "platform/control.h"
 
@@ -40,6 +41,8 @@ public:
   virtual bool CanTakeFocus() const { return true; }
   // Tells the control what is known only when it is asked for, such as the highlighted part of a text.
   virtual void BringUpToDate() {}
+  // Tells screen readers name and content as they are now.
+  void Announce();
   // Whether Enter belongs to the widget itself, such as in a text of several lines or an open list.
   virtual bool KeepsEnter() const { return false; }
 
@@ -55,6 +58,8 @@ private:
   Control& control_;
   ViewOwner& owner_;
   wxWindow* window_ = nullptr;
+  std::string told_name_;
+  std::string told_content_;
 };
 
 }  // namespace veritane::platform

@@ -13,6 +13,7 @@
 #include "platform/controls.h"
 #include "platform/wx/layout_parts.h"
 #include "platform/wx/layouts.h"
+#include "platform/wx/spoken_name.h"
 #include "platform/wx/wx_text.h"
 
 namespace veritane::platform {
@@ -83,6 +84,7 @@ void FormWindow::BuildControls() {
   window_->SetSizer(whole);
   OrderTabs(views_);
   FollowPanels();
+  FollowNames();
   is_built_ = true;
   FitToContent();
 }
@@ -105,6 +107,21 @@ void FormWindow::FollowPanels() {
       FocusFirst(&control);
     });
   }
+}
+
+// A caption may name other controls than its own.
+void FormWindow::FollowNames() {
+  Announce();
+  for (const auto& view : views_) {
+    view->Model().Watch([this, weak = std::weak_ptr(alive_)](Property property) {
+      if (property == Property::kCaption && !weak.expired()) Announce();
+    });
+  }
+}
+
+void FormWindow::Announce() {
+  for (const auto& view : views_) view->Announce();
+  if (gauge_ != nullptr) TellScreenReaders(*gauge_, ToWx(form_.Caption()), "");
 }
 
 // A window that does not fit on the screen could not even be moved.
@@ -163,6 +180,7 @@ void FormWindow::Follow(Form::Change change) {
   switch (change) {
     case Form::Change::kCaption:
       window_->SetTitle(ToWx(form_.Caption()));
+      Announce();
       break;
     case Form::Change::kShown:
       Appear();

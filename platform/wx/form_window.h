@@ -39,6 +39,8 @@ private:
   void BuildControls();
   void AppendRemaining(class FormBuilder& builder, wxSizer* sizer);
   void FollowPanels();
+  void FollowNames();
+  void Announce();
   void FitToContent();
   wxSize LargestSize() const;
   void Follow(Form::Change change);
