@@ -2,6 +2,7 @@
 #include "platform/automation.h"
 
 #include "platform/run_time_error.h"
+#include "platform/texts.h"
 
 namespace veritane::platform {
 
@@ -14,8 +15,8 @@ struct Overloaded : Cases... {
 template <typename... Cases>
 Overloaded(Cases...) -> Overloaded<Cases...>;
 
-[[noreturn]] void ThrowMismatch(const char* expected) {
-  throw RunTimeError(ErrorNumber::kTypeMismatch, std::string("an automation value is no ") + expected);
+[[noreturn]] void ThrowMismatch(TextId what) {
+  throw RunTimeError(ErrorNumber::kTypeMismatch, Text(what));
 }
 
 }  // namespace
@@ -23,7 +24,7 @@ Overloaded(Cases...) -> Overloaded<Cases...>;
 std::string TextOf(const AutomationValue& value) {
   if (std::holds_alternative<std::monostate>(value)) return "";
   if (const auto* const text = std::get_if<std::string>(&value)) return *text;
-  ThrowMismatch("text");
+  ThrowMismatch(TextId::kNoAutomationText);
 }
 
 double NumberOf(const AutomationValue& value) {
@@ -32,7 +33,7 @@ double NumberOf(const AutomationValue& value) {
                  [](std::int16_t number) { return static_cast<double>(number); },
                  [](std::int32_t number) { return static_cast<double>(number); },
                  [](double number) { return number; },
-                 [](const auto&) -> double { ThrowMismatch("number"); }},
+                 [](const auto&) -> double { ThrowMismatch(TextId::kNoAutomationNumber); }},
       value);
 }
 
@@ -50,12 +51,13 @@ std::int32_t Int32Of(const AutomationValue& value) {
 
 AutomationArray ArrayOf(const AutomationValue& value) {
   if (const auto* const array = std::get_if<AutomationArray>(&value)) return *array;
-  ThrowMismatch("array of numbers");
+  ThrowMismatch(TextId::kNoAutomationArray);
 }
 
 std::shared_ptr<AutomationObject> ObjectOf(const AutomationValue& value) {
   const auto* const object = std::get_if<std::shared_ptr<AutomationObject>>(&value);
-  if (object == nullptr || *object == nullptr) throw RunTimeError(kObjectRequired, "Object required");
+  if (object == nullptr || *object == nullptr)
+    throw RunTimeError(kObjectRequired, Text(TextId::kObjectExpected));
   return *object;
 }
 

@@ -3,6 +3,7 @@
 
 #include "platform/form.h"
 #include "platform/run_time_error.h"
+#include "platform/texts.h"
 #include "platform/windows_path.h"
 
 namespace veritane::platform {
@@ -16,8 +17,8 @@ void Desktop::Perform(const std::function<void()>& action) {
     SetMousePointer(Pointer::kDefault);
     if (restore) restore();
     user_interface_.NoteError(error);
-    ShowMessage({.text = "Run-time error " + std::to_string(error.Number()) + ": " + error.what(),
-                 .title = "Veritane",
+    ShowMessage({.text = Text(TextId::kErrorMessage, {std::to_string(error.Number()), error.what()}),
+                 .title = Text(TextId::kProgramName),
                  .icon = MessageIcon::kCritical});
   }
 }
@@ -31,7 +32,7 @@ std::optional<std::string> Desktop::ChooseFile(const FileChoice& choice) {
 }
 
 void Desktop::Print(Printout& printout) {
-  if (printer_ == nullptr) throw RunTimeError(ErrorNumber::kDeviceError, "there is no printer");
+  if (printer_ == nullptr) throw RunTimeError(ErrorNumber::kDeviceError, Text(TextId::kNoPrinter));
   user_interface_.NotePrint(printout.Kind(), printer_->Print(printout));
 }
 

@@ -6,6 +6,7 @@
 
 #include "platform/number_text.h"
 #include "platform/run_time_error.h"
+#include "platform/texts.h"
 #include "platform/utf8.h"
 
 namespace veritane::platform {
@@ -47,9 +48,10 @@ void TextReader::RequireMore() const {
   if (AtEnd()) throw RunTimeError(ErrorNumber::kPastEndOfFile, source_);
 }
 
-// Where the next field begins, as the beginning of an error's text.
+// Where the next field begins, for an error's text.
 std::string TextReader::Place() const {
-  return source_ + (source_.empty() ? "line " : ", line ") + std::to_string(line_) + ": ";
+  const std::string line = std::to_string(line_);
+  return source_.empty() ? Text(TextId::kLine, {line}) : Text(TextId::kLineOfFile, {source_, line});
 }
 
 void TextReader::SkipLineEnd() {
@@ -92,7 +94,7 @@ std::string TextReader::ReadField() {
   }
   // What follows a closing quote directly would be taken for the next field, and every later one would shift.
   if (!AtEnd() && !IsLineEnd(text_[position_])) {
-    throw RunTimeError(ErrorNumber::kTypeMismatch, Place() + "there is text behind \"" + field + "\"");
+    throw RunTimeError(ErrorNumber::kTypeMismatch, Text(TextId::kTextBehindField, {Place(), field}));
   }
   SkipLineEnd();
   return field;
@@ -104,7 +106,8 @@ std::int16_t TextReader::ReadInt16() {
   try {
     return ToInt16(number);
   } catch (const RunTimeError&) {
-    throw RunTimeError(ErrorNumber::kOverflow, place + PlainNumberText(number) + " is too large");
+    throw RunTimeError(ErrorNumber::kOverflow,
+                       Text(TextId::kNumberTooLarge, {place, PlainNumberText(number)}));
   }
 }
 
@@ -112,7 +115,7 @@ double TextReader::ReadDouble() {
   const std::string place = Place();
   const std::string field = ReadField();
   const std::optional<double> number = ParseNumber(field);
-  if (!number) throw RunTimeError(ErrorNumber::kTypeMismatch, place + "\"" + field + "\" is not a number");
+  if (!number) throw RunTimeError(ErrorNumber::kTypeMismatch, Text(TextId::kNotANumber, {place, field}));
   return *number;
 }
 

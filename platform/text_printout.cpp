@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "platform/texts.h"
 #include "platform/utf8.h"
 
 namespace veritane::platform {
@@ -92,7 +93,7 @@ void TextPrintout::DrawPage(DrawingContext& page, int number) {
     top += unit * kLineSpacing;
   }
   const std::string footer =
-      title_ + ", page " + std::to_string(number) + " of " + std::to_string(page_count_);
+      Text(TextId::kPageOf, {title_, std::to_string(number), std::to_string(page_count_)});
   page.Text(footer, {0, page.Height() - unit * kLineSpacing}, unit, TextWeight::kNormal, kInk);
 }
 

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <array>
 
+#include "platform/texts.h"
 #include "platform/utf8.h"
 
 namespace veritane::platform {
@@ -68,16 +69,16 @@ bool IsReservedDevice(std::string_view name) {
 }  // namespace
 
 std::string WhyNotAFileName(std::string_view name) {
-  if (name.empty()) return "The name is empty.";
-  if (name == "." || name == "..") return "The name may not be \"" + std::string(name) + "\".";
-  for (char c : name) {
-    if (static_cast<unsigned char>(c) < 0x20 || c == 0x7F) return "The name holds a control character.";
+  if (name.empty()) return Text(TextId::kNameIsEmpty);
+  if (name == "." || name == "..") return Text(TextId::kNameIsForbidden, {name});
+  for (const char& c : name) {
+    if (static_cast<unsigned char>(c) < 0x20 || c == 0x7F) return Text(TextId::kNameHoldsControlCharacter);
     if (std::string_view("\\/:*?\"<>|").find(c) != std::string_view::npos) {
-      return std::string("The name may not hold the character ") + c + " .";
+      return Text(TextId::kNameHoldsCharacter, {std::string_view(&c, 1)});
     }
   }
-  if (name.back() == ' ' || name.back() == '.') return "The name may not end with a blank or a point.";
-  if (IsReservedDevice(name)) return "The name is reserved for a device.";
+  if (name.back() == ' ' || name.back() == '.') return Text(TextId::kNameEndsWrongly);
+  if (IsReservedDevice(name)) return Text(TextId::kNameOfDevice);
   return "";
 }
 

@@ -5,6 +5,7 @@
 
 #include "platform/automation_waiting.h"
 #include "platform/run_time_error.h"
+#include "platform/texts.h"
 
 namespace veritane::platform {
 
@@ -97,7 +98,7 @@ private:
   bool shown_ = false;
   // What holds until the program has set its own.
   AutomationWaiting waiting_{.busyServerRaisesError = true,
-                             .pendingText = "Wait until analyzer finishes process\u2026",
+                             .pendingText = Text(TextId::kWaitingForServer),
                              .pendingMilliseconds = 999999999,
                              .busyMilliseconds = 10000};
 };

@@ -12,6 +12,7 @@
 #include <memory>
 
 #include "platform/run_time_error.h"
+#include "platform/texts.h"
 
 namespace veritane::platform {
 
@@ -20,7 +21,7 @@ namespace {
 wxBitmap PictureOf(wxWindow& part) {
   const wxSize size = part.GetClientSize();
   if (size.x <= 0 || size.y <= 0) {
-    throw RunTimeError(ErrorNumber::kDeviceError, "there is nothing on screen to copy");
+    throw RunTimeError(ErrorNumber::kDeviceError, Text(TextId::kNothingToCopy));
   }
   // What is due to be drawn belongs to the picture.
   part.Update();
@@ -47,7 +48,7 @@ void CopyToClipboard(wxWindow& part) {
   const wxClipboardLocker clipboard;
   // The clipboard owns what it was given, whether or not it takes it.
   if (!clipboard || !wxTheClipboard->SetData(picture.release())) {
-    throw RunTimeError(ErrorNumber::kDeviceError, "the clipboard does not take the picture");
+    throw RunTimeError(ErrorNumber::kDeviceError, Text(TextId::kClipboardRefuses));
   }
   // The picture stays for other programs when this one ends, where the system can do that.
   wxTheClipboard->Flush();

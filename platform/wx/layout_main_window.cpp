@@ -1,8 +1,10 @@
 // The main window: its three panels in one place, the operator's panel, and the spectrum panel.
 #include <wx/stattext.h>
 
+#include "platform/texts.h"
 #include "platform/wx/layout_parts.h"
 #include "platform/wx/layouts.h"
+#include "platform/wx/wx_text.h"
 
 namespace veritane::platform {
 
@@ -16,7 +18,7 @@ const wxColour kBandQuietText(200, 216, 236);
 wxWindow* TitleBand(FormBuilder& builder, wxWindow* parent) {
   auto* band = new wxPanel(parent);
   band->SetBackgroundColour(kBand);
-  auto* title = new wxStaticText(band, wxID_ANY, "Veritane");
+  auto* title = new wxStaticText(band, wxID_ANY, ToWx(Text(TextId::kProgramName)));
   title->SetForegroundColour(kBandText);
   title->SetFont(title->GetFont().Bold().Scaled(2.8F));
   wxWindow* subtitle = builder.Add("Label8", band);

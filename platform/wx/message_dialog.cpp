@@ -8,6 +8,7 @@
 #include <wx/statbmp.h>
 
 #include <algorithm>
+#include <cctype>
 
 #include "platform/wx/layout_parts.h"
 #include "platform/wx/wrapping_text.h"
@@ -30,6 +31,13 @@ wxArtID ArtOf(MessageIcon icon) {
       break;
   }
   return wxART_INFORMATION;
+}
+
+// Whether this key is the access key of a caption.
+bool IsAccessKey(int key, const std::string& caption) {
+  const std::size_t mark = caption.find('&');
+  return mark != std::string::npos && mark + 1 < caption.size() &&
+         key == std::toupper(static_cast<unsigned char>(caption[mark + 1]));
 }
 
 }  // namespace
@@ -82,17 +90,17 @@ MessageAnswer MessageDialog::QuietAnswer(MessageButtons buttons) {
 wxSizer* MessageDialog::Buttons() {
   auto* row = new wxBoxSizer(wxHORIZONTAL);
   if (buttons_ == MessageButtons::kYesNo) {
-    Add(row, "&Yes", "Yes", MessageAnswer::kYes);
-    Add(row, "&No", "No", MessageAnswer::kNo);
+    Add(row, TextId::kYes, "Yes", MessageAnswer::kYes);
+    Add(row, TextId::kNo, "No", MessageAnswer::kNo);
   } else {
-    Add(row, "OK", "OK", MessageAnswer::kOk);
-    if (buttons_ == MessageButtons::kOkCancel) Add(row, "Cancel", "Cancel", MessageAnswer::kCancel);
+    Add(row, TextId::kOk, "OK", MessageAnswer::kOk);
+    if (buttons_ == MessageButtons::kOkCancel) Add(row, TextId::kCancel, "Cancel", MessageAnswer::kCancel);
   }
   return row;
 }
 
-void MessageDialog::Add(wxSizer* row, const wxString& caption, const wxString& name, MessageAnswer answer) {
-  auto* button = new wxButton(this, wxID_ANY, caption);
+void MessageDialog::Add(wxSizer* row, TextId caption, const wxString& name, MessageAnswer answer) {
+  auto* button = new wxButton(this, wxID_ANY, ToWx(Text(caption)));
   button->SetName(name);
   button->SetMinSize({std::max(button->GetBestSize().x, FormBuilder::Columns(this, 12)), -1});
   button->Bind(wxEVT_BUTTON, [this, answer](wxCommandEvent&) { Choose(answer); });
@@ -109,9 +117,9 @@ void MessageDialog::OnKey(wxKeyEvent& event) {
   const bool is_question = buttons_ == MessageButtons::kYesNo;
   if (key == WXK_ESCAPE) {
     Dismiss();
-  } else if (is_question && key == 'Y') {
+  } else if (is_question && IsAccessKey(key, Text(TextId::kYes))) {
     Choose(MessageAnswer::kYes);
-  } else if (is_question && key == 'N') {
+  } else if (is_question && IsAccessKey(key, Text(TextId::kNo))) {
     Choose(MessageAnswer::kNo);
   } else {
     event.Skip();

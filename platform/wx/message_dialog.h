@@ -4,6 +4,7 @@
 #include <wx/dialog.h>
 
 #include "platform/desktop.h"
+#include "platform/texts.h"
 
 namespace veritane::platform {
 
@@ -17,7 +18,7 @@ public:
 
 private:
   wxSizer* Buttons();
-  void Add(wxSizer* row, const wxString& caption, const wxString& name, MessageAnswer answer);
+  void Add(wxSizer* row, TextId caption, const wxString& name, MessageAnswer answer);
   void OnKey(wxKeyEvent& event);
   void Choose(MessageAnswer answer);
   // Closing the box, or Escape: OK where there is nothing else, Cancel where it exists, else nothing.

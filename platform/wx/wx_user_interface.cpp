@@ -13,6 +13,7 @@
 #include "platform/control.h"
 #include "platform/form.h"
 #include "platform/run_time_error.h"
+#include "platform/texts.h"
 #include "platform/wx/clipboard.h"
 #include "platform/wx/file_filter.h"
 #include "platform/wx/form_window.h"
@@ -105,9 +106,9 @@ void WxUserInterface::ProcessPendingEvents() {
 
 void WxUserInterface::NotePrint(PrintKind kind, const std::string& file) {
   if (file.empty()) return;
-  const std::string why = kind == PrintKind::kTemplate ? "" : "No printer is installed. ";
-  ShowMessage({.text = why + "The print-out is in this file:\n" + paths_.toNative(file),
-               .title = "Print-out",
+  const TextId text = kind == PrintKind::kTemplate ? TextId::kPrintOut : TextId::kPrintOutForWantOfPrinter;
+  ShowMessage({.text = Text(text, {paths_.toNative(file)}),
+               .title = Text(TextId::kPrintOutTitle),
                .icon = MessageIcon::kInformation});
 }
 
@@ -115,7 +116,8 @@ void WxUserInterface::CopyPicture(const Control& control) {
   const FormWindow* window = WindowOf(control.Owner());
   wxWindow* part =
       window == nullptr ? nullptr : wxWindow::FindWindowByName(ToWx(control.Name()), window->Window());
-  if (part == nullptr) throw RunTimeError(ErrorNumber::kDeviceError, control.Name() + " is not on screen");
+  if (part == nullptr)
+    throw RunTimeError(ErrorNumber::kDeviceError, Text(TextId::kNotOnScreen, {control.Name()}));
   CopyToClipboard(*part);
 }
 
