@@ -2,8 +2,12 @@
 #include "acquisition/additional_file.h"
 
 #include "shell/state/program_state.h"
+#include "shell/state/string_table.h"
 
 namespace veritane::acquisition {
+
+using state::Text;
+using state::TextId;
 
 bool NeedsAdditionalFile(const std::string& algorithm) {
   return algorithm == state::kPls || algorithm == state::kMarkPeaks;
@@ -12,12 +16,13 @@ bool NeedsAdditionalFile(const std::string& algorithm) {
 std::optional<std::string> ChooseAdditionalFile(platform::Desktop& desktop, const state::DataFolders& folders,
                                                 const std::string& algorithm) {
   if (algorithm == state::kPls) {
-    return desktop.ChooseFile(
-        {.title = "Select calibration file", .filter = "(*.cal)|*.cal", .folder = folders.stdsDir});
+    return desktop.ChooseFile({.title = Text(TextId::kSelectCalibrationFile),
+                               .filter = "(*.cal)|*.cal",
+                               .folder = folders.stdsDir});
   }
   if (algorithm == state::kMarkPeaks) {
     return desktop.ChooseFile(
-        {.title = "Select peak file", .filter = "(*.txt)|*.txt", .folder = folders.stdsDir});
+        {.title = Text(TextId::kSelectPeakFile), .filter = "(*.txt)|*.txt", .folder = folders.stdsDir});
   }
   return std::nullopt;
 }

@@ -6,6 +6,7 @@
 #include "acquisition/automation_object.h"
 #include "acquisition/automation_spectrum.h"
 #include "platform/run_time_error.h"
+#include "shell/state/string_table.h"
 
 namespace veritane::acquisition {
 
@@ -62,7 +63,7 @@ platform::AutomationValue Argument(const Contract& object) {
   const auto* const client = dynamic_cast<const Client*>(&object);
   if (client == nullptr) {
     throw platform::RunTimeError(platform::ErrorNumber::kTypeMismatch,
-                                 "the object belongs to another application");
+                                 state::Text(state::TextId::kForeignObject));
   }
   return client->Server().AsArgument();
 }

@@ -7,13 +7,17 @@
 
 #include "platform/run_time_error.h"
 #include "platform/text_file.h"
+#include "platform/texts.h"
 #include "platform/windows_path.h"
+#include "shell/state/string_table.h"
 
 namespace veritane::acquisition {
 
 namespace {
 
 using platform::MemberUse;
+using state::Text;
+using state::TextId;
 
 struct Row {
   Member member;
@@ -105,8 +109,8 @@ std::optional<MemberUse> UseOf(std::string_view word) {
   return std::nullopt;
 }
 
-[[noreturn]] void Refuse(const std::string& text) {
-  throw platform::RunTimeError(platform::ErrorNumber::kTypeMismatch, text);
+[[noreturn]] void Refuse(TextId why, const std::string& place, const std::string& name = "") {
+  throw platform::RunTimeError(platform::ErrorNumber::kTypeMismatch, Text(why, {place, name}));
 }
 
 // The text behind "=", as a member that is used like `former` unless it says otherwise; nothing when it is
@@ -140,19 +144,18 @@ AutomationMembers::AutomationMembers(std::string_view bytes, const std::string& 
     const std::string line = reader.ReadLine();
     const std::string_view text = Trimmed(line);
     if (text.empty() || text.starts_with('#')) continue;
-    const std::string place = source + ", line " + std::to_string(number) + ": ";
+    const std::string place = platform::Text(platform::TextId::kLineOfFile, {source, std::to_string(number)});
     const std::size_t equals = text.find('=');
-    if (equals == text.npos) Refuse(place + "\"contract name = server name\" was expected");
+    if (equals == text.npos) Refuse(TextId::kMemberLineExpected, place);
     const std::string name(Trimmed(text.substr(0, equals)));
     const auto* const row = std::ranges::find(kTable, platform::UpperCase(name), [](const Row& each) {
       return platform::UpperCase(each.contractName);
     });
-    if (row == kTable.end()) Refuse(place + "the contract has no \"" + name + "\"");
-    if (!changed.insert(row->member).second) Refuse(place + "\"" + name + "\" stands there twice");
+    if (row == kTable.end()) Refuse(TextId::kNotInContract, place, name);
+    if (!changed.insert(row->member).second) Refuse(TextId::kMemberTwice, place, name);
     ServerMember& member = members_[static_cast<std::size_t>(row->member)];
     const auto given = ParseServerMember(Trimmed(text.substr(equals + 1)), member);
-    if (!given)
-      Refuse(place + "a member's name was expected behind \"=\", or call, callref, get or put and a name");
+    if (!given) Refuse(TextId::kMemberNameExpected, place);
     member = *given;
   }
 }

@@ -8,10 +8,13 @@
 
 namespace veritane::acquisition {
 
+using state::Text;
+using state::TextId;
+
 FrmCollectStd::FrmCollectStd(platform::Desktop& desktop) : Form(desktop, "frmCollectStd") {
-  txtProductID.SetToolTip("Name Used to Identify a Unique Product");
-  lblFile.SetCaption("File");
-  cmdChooseCalFile.SetCaption("C&hoose...");
+  txtProductID.SetToolTip(Text(TextId::kProductIdTip));
+  lblFile.SetCaption(Text(TextId::kAdditionalFile));
+  cmdChooseCalFile.SetCaption(Text(TextId::kChooseAdditionalFile));
   cmbAlg.AddAll({state::kEuclidean, state::kFourier, state::kLumivar, state::kPls, state::kMarkPeaks});
   txtProductID.OnKeyPress = [this](int key) { return txtProductID_KeyPress(key); };
   cmbAlg.OnClick = [this] { cmbAlg_Click(); };
@@ -54,13 +57,12 @@ void FrmCollectStd::cmdChooseCalFile_Click() {
 
 std::string FrmCollectStd::WhyNotComplete() const {
   if (platform::UpperCase(txtProductID.Text()) == "BACK") {
-    return "BACK is a reserved filename. Please enter a different Product ID";
+    return Text(TextId::kBackIsReserved);
   }
   if (NeedsAdditionalFile(cmbAlg.Text()) && txtCalFileName.Text().empty()) {
-    return cmbAlg.Text() == state::kPls ? "Please select a calibration file when using PLS algorithm"
-                                        : "Please select a Peak file when using the Mark Peaks algorithm";
+    return Text(cmbAlg.Text() == state::kPls ? TextId::kCalibrationFileRequired : TextId::kPeakFileRequired);
   }
-  if (cmbmth.Selected() < 0) return "Please select a Collect Method.";
+  if (cmbmth.Selected() < 0) return Text(TextId::kCollectMethodRequired);
   return WhyNotAProduct(txtProductID.Text());
 }
 
@@ -68,7 +70,7 @@ void FrmCollectStd::cmdScan_Click() {
   const std::string why = WhyNotComplete();
   if (why.empty()) return Hide();
   Screen().ShowMessage(
-      {.text = why, .title = state::kPlainNotice, .icon = platform::MessageIcon::kExclamation});
+      {.text = why, .title = Text(TextId::kPlainNotice), .icon = platform::MessageIcon::kExclamation});
 }
 
 void FrmCollectStd::cmdNoScanStandardNow_Click() {

@@ -6,7 +6,7 @@
 namespace veritane::acquisition {
 
 FrmParse::FrmParse(platform::Desktop& desktop) : Form(desktop, "frmParse") {
-  cmdResetParser.SetCaption("Use &Full Barcode for Product ID");
+  cmdResetParser.SetCaption(state::Text(state::TextId::kUseFullBarcode));
   txtTmpProductID.OnKeyPress = [this](int key) { return txtTmpProductID_KeyPress(key); };
   cmdOK.isDefault = true;
   cmdOK.OnClick = [this] { cmdOK_Click(); };

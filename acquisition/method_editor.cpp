@@ -31,8 +31,8 @@ void MethodEditor::AddMethod() {
   const std::string previous = state_.methodShortNames.empty() ? "" : state_.methodShortNames.back();
   const std::string short_name = MethodShortName(*path, previous);
   if (const std::string why = platform::WhyNotAFileName(short_name); !why.empty()) {
-    desktop_.ShowMessage({.text = "\"" + *path + "\" cannot be a collect method. " + why,
-                          .title = state::kPlainNotice,
+    desktop_.ShowMessage({.text = Text(TextId::kNotACollectMethod, {*path, why}),
+                          .title = Text(TextId::kPlainNotice),
                           .icon = MessageIcon::kExclamation});
     return;
   }

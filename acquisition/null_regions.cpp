@@ -4,6 +4,7 @@
 #include "platform/number_text.h"
 #include "platform/run_time_error.h"
 #include "platform/text_file.h"
+#include "shell/state/string_table.h"
 
 namespace veritane::acquisition {
 
@@ -24,7 +25,7 @@ void LoadNullRegions(const platform::FileSystem& files, state::ProgramState& sta
     const std::size_t hyphen = line.find('-');
     if (hyphen == std::string::npos) {
       throw platform::RunTimeError(platform::ErrorNumber::kTypeMismatch,
-                                   path + ": \"" + line + "\" is no region");
+                                   state::Text(state::TextId::kNoNullRegion, {path, line}));
     }
     const std::string_view text(line);
     state.nullRegions.push_back({.start = platform::LeadingNumber(text.substr(0, hyphen)),

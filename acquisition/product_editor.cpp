@@ -13,6 +13,8 @@ namespace veritane::acquisition {
 using platform::MessageAnswer;
 using platform::MessageButtons;
 using platform::MessageIcon;
+using state::Text;
+using state::TextId;
 
 ProductEditor::ProductEditor(platform::Desktop& desktop, platform::FileSystem& files,
                              const state::ProgramState& state, Controls controls)
@@ -27,8 +29,8 @@ void ProductEditor::Load() {
   } catch (const platform::RunTimeError& error) {
     controls_.grid.Resize(1, controls_.grid.ColumnCount());
     desktop_.SetMousePointer(platform::Pointer::kDefault);
-    desktop_.ShowMessage({.text = std::string("The product table cannot be read. ") + error.what(),
-                          .title = state::kPlainNotice,
+    desktop_.ShowMessage({.text = Text(TextId::kProductTableUnreadable, {error.what()}),
+                          .title = Text(TextId::kPlainNotice),
                           .icon = MessageIcon::kCritical});
   }
   ShowCurrentRow();
@@ -91,12 +93,11 @@ bool ProductEditor::CompleteRow(int row) {
   platform::Grid& grid = controls_.grid;
   const std::string algorithm = grid.Cell(row, kAlgorithm);
   while (NeedsAdditionalFile(algorithm) && grid.Cell(row, kAdditionalFile).empty()) {
-    const auto answer = desktop_.ShowMessage(
-        {.text = "You have chosen an Algorithm for Product ID: " + grid.Cell(row, kProductId) +
-                 "  that requires an additional file. Please chose the appropriate file.",
-         .title = state::kPlainNotice,
-         .icon = MessageIcon::kExclamation,
-         .buttons = MessageButtons::kOkCancel});
+    const auto answer =
+        desktop_.ShowMessage({.text = Text(TextId::kAdditionalFileRequired, {grid.Cell(row, kProductId)}),
+                              .title = Text(TextId::kPlainNotice),
+                              .icon = MessageIcon::kExclamation,
+                              .buttons = MessageButtons::kOkCancel});
     if (answer == MessageAnswer::kCancel || desktop_.Ended()) {
       grid.SetRow(row);
       return false;
@@ -126,12 +127,10 @@ bool ProductEditor::MayDelete() const {
   const auto& cells = controls_.grid.Rows().at(static_cast<std::size_t>(controls_.grid.Row()));
   const bool is_empty =
       std::all_of(cells.begin(), cells.end(), [](const auto& cell) { return cell.empty(); });
-  return is_empty || desktop_.ShowMessage(
-                         {.text = "Are you sure you want to delete " + cells[kProductId] +
-                                  "? Standard spectra, Sample spectra, and Histogram file will be deleted.",
-                          .title = "Delete Row...",
-                          .icon = MessageIcon::kQuestion,
-                          .buttons = MessageButtons::kYesNo}) == MessageAnswer::kYes;
+  return is_empty || desktop_.ShowMessage({.text = Text(TextId::kDeleteProduct, {cells[kProductId]}),
+                                           .title = Text(TextId::kDeleteProductTitle),
+                                           .icon = MessageIcon::kQuestion,
+                                           .buttons = MessageButtons::kYesNo}) == MessageAnswer::kYes;
 }
 
 void ProductEditor::DeleteFiles(const std::string& product_id) {

@@ -82,7 +82,7 @@ void LoadProductTable(const platform::FileSystem& files, const std::string& path
   }
   grid.Resize(1, kColumns);
   grid.SetFormat("<" + Text(TextId::kProductIdHeader) + "  |<" + Text(TextId::kCollectMethodHeader) + "  |<" +
-                 Text(TextId::kAlgorithmHeader) + " |<File Name");
+                 Text(TextId::kAlgorithmHeader) + " |<" + Text(TextId::kFileNameHeader));
   grid.SetBody(std::move(rows));
   if (grid.RowCount() < 2) return;
   const bool is_there_already = grid.Row() == 1 && grid.Column() == 0;

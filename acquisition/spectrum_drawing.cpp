@@ -5,13 +5,15 @@
 
 #include "platform/run_time_error.h"
 #include "shell/state/spectrum_panel.h"
+#include "shell/state/string_table.h"
 
 namespace veritane::acquisition {
 
 OrdinateRange DrawSpectrum(platform::Chart& chart, const state::SpectrumBuffer& spectrum,
                            const std::string& title) {
   if (spectrum.Data.Empty()) {
-    throw platform::RunTimeError(platform::ErrorNumber::kSubscript, "the measured spectrum is empty");
+    throw platform::RunTimeError(platform::ErrorNumber::kSubscript,
+                                 state::Text(state::TextId::kMeasuredNothing));
   }
   const platform::ChartBatch batch(chart);
   state::ClearChart(chart);

@@ -34,20 +34,17 @@ std::string WhyNotAProduct(const platform::FileSystem& files, const state::Progr
                            const std::string& product_id) {
   const std::string key = KeyOf(files, state.folders, product_id);
   if (const std::string why = platform::WhyNotAFileName(key); !why.empty()) {
-    return "\"" + key + "\" cannot name a product's files. " + why;
+    return Text(TextId::kCannotNameAProduct, {key, why});
   }
-  if (key.find(',') != std::string::npos) return "A Product ID cannot hold a comma.";
-  if (key.front() == ' ') return "A Product ID cannot begin with a blank.";
+  if (key.find(',') != std::string::npos) return Text(TextId::kProductIdHoldsComma);
+  if (key.front() == ' ') return Text(TextId::kProductIdBeginsWithBlank);
   // The Standard would be written over the background of that method.
   const bool is_background =
       std::any_of(state.methodShortNames.begin(), state.methodShortNames.end(), [&](const std::string& name) {
         return platform::UpperCase(BackgroundPath(state.folders, name)) ==
                platform::UpperCase(state.folders.InStandards(key + ".bsp"));
       });
-  if (is_background) {
-    return "\"" + key + "\" is the name of a background file. Please enter a different Product ID";
-  }
-  return "";
+  return is_background ? Text(TextId::kNameOfBackground, {key}) : "";
 }
 
 StandardCollection::StandardCollection(Bench& bench, FrmCollectStd& frm_collect_std)
@@ -136,20 +133,16 @@ void StandardCollection::AppendProduct() {
     products.push_back({state_.prod, state_.clmName, state_.algorithm, state_.calfilename});
     files.WriteBytes(path, ProductTableText(products));
   } catch (const platform::RunTimeError& error) {
-    throw platform::RunTimeError(error.Number(), std::string(error.what()) + "\r\nThe Standard is filed in " +
-                                                     StandardPath() +
-                                                     ", but the product table does not name it. Delete that "
-                                                     "file before you collect the Standard again.");
+    throw platform::RunTimeError(error.Number(),
+                                 Text(TextId::kStandardNotInTable, {error.what(), StandardPath()}));
   }
   const auto same = [&](const Product& product) {
     return platform::UpperCase(product.productId) == platform::UpperCase(state_.prod);
   };
   if (std::count_if(products.begin(), products.end(), same) > 1) {
-    bench_.desktop.ShowMessage(
-        {.text = "The table holds an earlier row for Product ID: " + state_.prod +
-                 ". Samples are measured and compared as that row says until it is deleted or changed.",
-         .title = state::kPlainNotice,
-         .icon = MessageIcon::kExclamation});
+    bench_.desktop.ShowMessage({.text = Text(TextId::kEarlierRow, {state_.prod}),
+                                .title = Text(TextId::kPlainNotice),
+                                .icon = MessageIcon::kExclamation});
   }
 }
 

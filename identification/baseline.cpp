@@ -11,11 +11,14 @@
 #include "identification/correlation_bounds.h"
 #include "identification/correlation_sums.h"
 #include "platform/run_time_error.h"
+#include "shell/state/string_table.h"
 
 namespace veritane::identification {
 
 using platform::ErrorNumber;
 using platform::RunTimeError;
+using state::Text;
+using state::TextId;
 
 namespace {
 
@@ -30,9 +33,9 @@ BaselineFit FitBaseline(const state::Ordinates& ordinates, double point_count) {
   RequireSixteenBitPointNumbers(ordinates);
   const std::int16_t count = platform::ToInt16(point_count);
   if (count > static_cast<std::int64_t>(ordinates.Size())) {
-    throw RunTimeError(ErrorNumber::kSubscript, "a baseline over more points than the spectrum has");
+    throw RunTimeError(ErrorNumber::kSubscript, Text(TextId::kBaselineTooLong));
   }
-  if (count <= 1) throw RunTimeError(ErrorNumber::kDivisionByZero, "a baseline through a single point");
+  if (count <= 1) throw RunTimeError(ErrorNumber::kDivisionByZero, Text(TextId::kBaselineThroughPoint));
 
   // With x counted from the middle of the points their sum is 0, so the normal equations fall apart into a
   // mean and a slope, and their sum of squares has a closed form: n (n² - 1) / 12. Both are exact in a
@@ -47,7 +50,7 @@ BaselineFit FitBaseline(const state::Ordinates& ordinates, double point_count) {
   const BaselineFit fit{
       .centre = ordinates.lower + middle, .level = sum_y / n, .slope = sum_xy / (n * (n * n - 1) / 12)};
   if (!std::isfinite(fit.level) || !std::isfinite(fit.slope)) {
-    throw RunTimeError(ErrorNumber::kOverflow, "an ordinate is infinite or not a number");
+    throw RunTimeError(ErrorNumber::kOverflow, Text(TextId::kOrdinateNotFinite));
   }
   return fit;
 }
@@ -63,7 +66,7 @@ void SubtractBaseline(state::Ordinates& ordinates, double point_count) {
     return std::array{Larger(rest, -rest)};
   });
   if (!std::isfinite(remaining)) {
-    throw RunTimeError(ErrorNumber::kOverflow, "an ordinate is infinite or not a number");
+    throw RunTimeError(ErrorNumber::kOverflow, Text(TextId::kOrdinateNotFinite));
   }
   const double height = std::max(std::abs(at_first), std::abs(fit.At(ordinates.Upper())));
   if (remaining <= kShareOfRounding * height * static_cast<double>(values.size())) {

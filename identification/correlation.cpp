@@ -14,11 +14,14 @@
 #include "identification/normalisation.h"
 #include "platform/number_text.h"
 #include "platform/run_time_error.h"
+#include "shell/state/string_table.h"
 
 namespace veritane::identification {
 
 using platform::ErrorNumber;
 using platform::RunTimeError;
+using state::Text;
+using state::TextId;
 
 namespace {
 
@@ -35,17 +38,17 @@ double CorrelationDistance(std::span<const double> standard, std::span<const dou
     return std::array{x * x, s * s, s * x};
   });
   if (!std::isfinite(sum_xx) || !std::isfinite(sum_ss) || !std::isfinite(sum_sx)) {
-    throw RunTimeError(ErrorNumber::kOverflow, "an ordinate is infinite, not a number or too large");
+    throw RunTimeError(ErrorNumber::kOverflow, Text(TextId::kOrdinateOutOfRange));
   }
-  if (sum_xx == 0) throw RunTimeError(ErrorNumber::kDivisionByZero, "the sample is 0 everywhere");
-  if (sum_ss == 0) throw RunTimeError(ErrorNumber::kDivisionByZero, "the Standard is 0 everywhere");
+  if (sum_xx == 0) throw RunTimeError(ErrorNumber::kDivisionByZero, Text(TextId::kSampleIsZero));
+  if (sum_ss == 0) throw RunTimeError(ErrorNumber::kDivisionByZero, Text(TextId::kStandardIsZero));
   return std::sqrt(std::abs(1 - sum_sx / (std::sqrt(sum_ss) * std::sqrt(sum_xx))));
 }
 
 state::Ordinates NormalisedSpan(const state::Ordinates& transform) {
   RequireSixteenBitPointNumbers(transform);
   if (transform.Size() < kFirstCoefficient + kCoefficients) {
-    throw RunTimeError(ErrorNumber::kSubscript, "a transform of fewer than 156 points");
+    throw RunTimeError(ErrorNumber::kSubscript, Text(TextId::kShortTransform));
   }
   state::Ordinates span;
   span.values.assign(kSpanElements, 0.0);
@@ -66,7 +69,7 @@ double EuclideanComparison(const state::Ordinates& standard, const state::Ordina
   RequireSixteenBitPointNumbers(standard);
   RequireSixteenBitPointNumbers(sample);
   if (sample.lower < standard.lower || sample.Upper() > standard.Upper()) {
-    throw RunTimeError(ErrorNumber::kSubscript, "the sample has points that the Standard lacks");
+    throw RunTimeError(ErrorNumber::kSubscript, Text(TextId::kStandardLacksPoints));
   }
   const std::span<const double> same_points =
       std::span(standard.values)

@@ -19,7 +19,7 @@ FrmSamp::FrmSamp(platform::Desktop& desktop, std::function<std::vector<std::stri
     : Form(desktop, "frmSamp"),
       product_ids_(std::move(product_ids)),
       operator_name_(std::move(operator_name)) {
-  lblSampName.SetCaption("Sample Name");
+  lblSampName.SetCaption(Text(TextId::kSampleName));
   cmbStandards.isEditable = true;
   cmdProductIDOkay.isDefault = true;
   cmdSampleCancelled.isCancel = true;
@@ -67,15 +67,15 @@ bool FrmSamp::txtOperatorName_KeyPress(int key) {
 
 void FrmSamp::cmdProductIDOkay_Click() {
   if (txtSampName.Text().empty()) {
-    Screen().ShowMessage({.text = "Please enter a Sample Name.",
-                          .title = state::kPlainNotice,
+    Screen().ShowMessage({.text = Text(TextId::kEnterSampleName),
+                          .title = Text(TextId::kPlainNotice),
                           .icon = MessageIcon::kExclamation});
     txtSampName.SetFocus();
     return;
   }
   if (txtOperatorName.Text().empty()) {
     Screen().ShowMessage({.text = Text(TextId::kEnterOperatorName),
-                          .title = state::kPlainNotice,
+                          .title = Text(TextId::kPlainNotice),
                           .icon = MessageIcon::kExclamation});
     txtOperatorName.SetFocus();
     return;

@@ -11,11 +11,14 @@
 #include "identification/correlation_sums.h"
 #include "platform/number_text.h"
 #include "platform/run_time_error.h"
+#include "shell/state/string_table.h"
 
 namespace veritane::identification {
 
 using platform::ErrorNumber;
 using platform::RunTimeError;
+using state::Text;
+using state::TextId;
 
 namespace {
 
@@ -44,15 +47,15 @@ struct BandGrid {
 };
 
 BandGrid LayOutBands(const state::Ordinates& standard, double spacing) {
-  if (spacing == 0) throw RunTimeError(ErrorNumber::kDivisionByZero, "a spectrum with a spacing of 0");
-  if (!(spacing > 0)) throw RunTimeError(ErrorNumber::kInvalidCall, "a spectrum without a spacing");
+  if (spacing == 0) throw RunTimeError(ErrorNumber::kDivisionByZero, Text(TextId::kSpacingIsZero));
+  if (!(spacing > 0)) throw RunTimeError(ErrorNumber::kInvalidCall, Text(TextId::kNoSpacing));
   const std::int16_t steps = platform::ToInt16(kBandWidth / spacing);
   // No line can be fitted to a single point, so no band is prepared from it.
-  if (steps < 2) throw RunTimeError(ErrorNumber::kDivisionByZero, "a Lumivar band of a single point");
+  if (steps < 2) throw RunTimeError(ErrorNumber::kDivisionByZero, Text(TextId::kBandOfOnePoint));
   const double first = (std::floor(standard.lower * spacing / kBandWidth) + 1) * kBandWidth;
   const double last = (std::floor(standard.Upper() * spacing / kBandWidth) - 1) * kBandWidth;
   if (!(first <= last)) {
-    throw RunTimeError(ErrorNumber::kSubscript, "the spectrum is too short for a single Lumivar band");
+    throw RunTimeError(ErrorNumber::kSubscript, Text(TextId::kNoBand));
   }
   return {.first = first,
           .count = static_cast<std::size_t>((last - first) / kBandWidth) + 1,
@@ -64,9 +67,9 @@ std::span<const double> PointsOfBand(const state::Ordinates& ordinates, double l
                                      std::size_t points) {
   const double before = std::floor(low / spacing) - ordinates.lower;
   if (before < 0 || before + static_cast<double>(points) > static_cast<double>(ordinates.Size())) {
-    throw RunTimeError(ErrorNumber::kSubscript, "the Lumivar band " + platform::PlainNumberText(low) + " - " +
-                                                    platform::PlainNumberText(low + kBandWidth) +
-                                                    " has points that the spectrum lacks");
+    throw RunTimeError(ErrorNumber::kSubscript,
+                       Text(TextId::kBandLacksPoints,
+                            {platform::PlainNumberText(low), platform::PlainNumberText(low + kBandWidth)}));
   }
   return std::span(ordinates.values).subspan(static_cast<std::size_t>(before), points);
 }
@@ -82,16 +85,16 @@ platform::ChartRegion MarkedBand(const LumivarBand& band) {
   platform::ChartRegion region{.low = band.low, .high = band.high, .text = ScoreText(band.measure)};
   if (band.measure < kLumivarLimit / 10) {
     region.shade = RegionShade::kFaint;
-    region.meaning = "departs < .0001";
+    region.meaning = Text(TextId::kDepartsLeast);
   } else if (band.measure < kLumivarLimit) {
     region.shade = RegionShade::kLight;
-    region.meaning = "departs < .001";
+    region.meaning = Text(TextId::kDepartsLittle);
   } else if (band.measure < kLumivarLimit * 10) {
     region.shade = RegionShade::kMedium;
-    region.meaning = "departs < .01";
+    region.meaning = Text(TextId::kDepartsClearly);
   } else {
     region.shade = RegionShade::kStrong;
-    region.meaning = "departs ≥ .01";
+    region.meaning = Text(TextId::kDepartsMost);
   }
   return region;
 }
@@ -109,17 +112,17 @@ double LumivarMeasure(std::span<const double> standard, std::span<const double> 
   });
   // A sum is finite only where every ordinate is.
   if (!std::isfinite(standard_sum) || !std::isfinite(sample_sum)) {
-    throw RunTimeError(ErrorNumber::kOverflow, "an ordinate is infinite, not a number or too large");
+    throw RunTimeError(ErrorNumber::kOverflow, Text(TextId::kOrdinateOutOfRange));
   }
   double divisor = std::max(standard_sum, sample_sum);
   if (divisor == 0) {
     if (standard_sum > sample_sum) {
-      throw RunTimeError(ErrorNumber::kDivisionByZero, "the Standard's ordinates add up to 0");
+      throw RunTimeError(ErrorNumber::kDivisionByZero, Text(TextId::kStandardAddsUpToZero));
     }
     divisor = kLeastSum;
   }
   const double measure = std::abs(largest.Value() / divisor);
-  if (!std::isfinite(measure)) throw RunTimeError(ErrorNumber::kOverflow, "the measure of a Lumivar band");
+  if (!std::isfinite(measure)) throw RunTimeError(ErrorNumber::kOverflow, Text(TextId::kBandMeasure));
   return measure;
 }
 
@@ -128,7 +131,7 @@ double LumivarQuality(std::span<const LumivarBand> bands) {
   double bands_so_far = 0;
   for (const LumivarBand& band : bands) fold = (fold + band.measure) / ++bands_so_far;
   const double quality = (kLumivarLimit - fold) / kLumivarLimit * 100;
-  if (!std::isfinite(quality)) throw RunTimeError(ErrorNumber::kOverflow, "the Lumivar match quality");
+  if (!std::isfinite(quality)) throw RunTimeError(ErrorNumber::kOverflow, Text(TextId::kLumivarQuality));
   return platform::RoundToTwoDecimals(quality);
 }
 

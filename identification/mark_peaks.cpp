@@ -8,12 +8,16 @@
 #include "platform/number_text.h"
 #include "platform/run_time_error.h"
 #include "platform/text_file.h"
+#include "platform/texts.h"
 #include "platform/utf8.h"
+#include "shell/state/string_table.h"
 
 namespace veritane::identification {
 
 using platform::ErrorNumber;
 using platform::RunTimeError;
+using state::Text;
+using state::TextId;
 
 namespace {
 
@@ -33,9 +37,10 @@ RunTimeError NoPeakPosition(std::string_view text, std::size_t begin, std::strin
                             const std::string& path) {
   // A file of another kind may be one long field.
   constexpr std::size_t kMostQuoted = 40;
+  const std::string line = std::to_string(LineAfter(text.substr(0, begin)));
+  const std::string place = platform::Text(platform::TextId::kLineOfFile, {path, line});
   return RunTimeError(ErrorNumber::kTypeMismatch,
-                      path + ", line " + std::to_string(LineAfter(text.substr(0, begin))) + ": \"" +
-                          platform::Characters(field, 0, kMostQuoted) + "\" is no peak position");
+                      Text(TextId::kNoPeakPosition, {place, platform::Characters(field, 0, kMostQuoted)}));
 }
 
 }  // namespace
@@ -53,13 +58,13 @@ std::vector<double> ReadPeakFile(std::string_view bytes, const std::string& path
     peaks.push_back(*peak);
     begin = text.find_first_not_of(kSeparators, end);
   }
-  if (peaks.empty()) throw RunTimeError(ErrorNumber::kPastEndOfFile, path + ": no peak position in it");
+  if (peaks.empty()) throw RunTimeError(ErrorNumber::kPastEndOfFile, Text(TextId::kEmptyPeakFile, {path}));
   return peaks;
 }
 
 std::vector<double> PeaksOfProduct(const acquisition::Bench& bench) {
   const std::string& path = bench.state.calfilename;
-  if (path.empty()) throw RunTimeError(ErrorNumber::kFileNotFound, "the product names no peak file");
+  if (path.empty()) throw RunTimeError(ErrorNumber::kFileNotFound, Text(TextId::kNoPeakFile));
   return ReadPeakFile(bench.machine.files.ReadBytes(path), path);
 }
 

@@ -10,11 +10,14 @@
 #include "identification/correlation_bounds.h"
 #include "identification/correlation_sums.h"
 #include "platform/run_time_error.h"
+#include "shell/state/string_table.h"
 
 namespace veritane::identification {
 
 using platform::ErrorNumber;
 using platform::RunTimeError;
+using state::Text;
+using state::TextId;
 
 namespace {
 
@@ -56,7 +59,7 @@ void NormaliseToUnitRange(state::Ordinates& ordinates) {
   const std::span<double> values = ordinates.values;
   const auto [min, max] = FindExtremes(values);
   const double range = max - min;
-  if (!std::isfinite(range)) throw RunTimeError(ErrorNumber::kOverflow, "the range of a spectrum");
+  if (!std::isfinite(range)) throw RunTimeError(ErrorNumber::kOverflow, Text(TextId::kRangeTooLarge));
   if (std::ranges::all_of(values, [flat = min](double value) { return value == flat; })) {
     std::ranges::fill(values, 0.0);
     return;
@@ -67,7 +70,7 @@ void NormaliseToUnitRange(state::Ordinates& ordinates) {
     return std::array{normalised};
   });
   // Normalised numbers lie between 0 and 1, so only one that is no number can spoil their sum.
-  if (!std::isfinite(sum)) throw RunTimeError(ErrorNumber::kOverflow, "an ordinate is not a number");
+  if (!std::isfinite(sum)) throw RunTimeError(ErrorNumber::kOverflow, Text(TextId::kOrdinateNotANumber));
 }
 
 }  // namespace veritane::identification

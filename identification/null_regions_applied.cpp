@@ -7,21 +7,24 @@
 
 #include "identification/correlation_bounds.h"
 #include "platform/run_time_error.h"
+#include "shell/state/string_table.h"
 
 namespace veritane::identification {
 
 using platform::ErrorNumber;
 using platform::RunTimeError;
+using state::Text;
+using state::TextId;
 
 void ApplyNullRegions(state::Ordinates& ordinates, double resolution, std::span<const NullRegion> regions) {
   RequireSixteenBitPointNumbers(ordinates);
   if (regions.empty()) return;
   if (!(resolution > 0) || std::isinf(resolution)) {
-    throw RunTimeError(ErrorNumber::kInvalidCall, "null regions of a spectrum without a spacing");
+    throw RunTimeError(ErrorNumber::kInvalidCall, Text(TextId::kNullRegionsWithoutSpacing));
   }
   for (const NullRegion& region : regions) {
     if (!std::isfinite(region.start) || !std::isfinite(region.end)) {
-      throw RunTimeError(ErrorNumber::kOverflow, "a null region without bounds");
+      throw RunTimeError(ErrorNumber::kOverflow, Text(TextId::kNullRegionWithoutBounds));
     }
   }
 

@@ -6,6 +6,8 @@
 #include <cmath>
 #include <limits>
 
+#include "shell/state/string_table.h"
+
 namespace veritane::identification {
 
 namespace {
@@ -44,7 +46,7 @@ std::string PredictionLine(const PredictedValue& predicted) {
 }
 
 std::vector<std::string> PredictionLines(const state::ProgramState& state) {
-  if (!state.predictionSucceeded) return {"The prediction failed. There are no values to show."};
+  if (!state.predictionSucceeded) return {state::Text(state::TextId::kPredictionFailed)};
   std::vector<std::string> lines;
   for (const PredictedValue& predicted : PredictedValues(state)) lines.push_back(PredictionLine(predicted));
   return lines;

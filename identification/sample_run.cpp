@@ -45,7 +45,8 @@ void SampleRun::Run(const acquisition::BackgroundSchedule& schedule) {
 
 bool SampleRun::Refuse(const std::string& text) {
   bench_.desktop.SetMousePointer(platform::Pointer::kDefault);
-  bench_.desktop.ShowMessage({.text = text, .title = state::kPlainNotice, .icon = MessageIcon::kCritical});
+  bench_.desktop.ShowMessage(
+      {.text = text, .title = Text(TextId::kPlainNotice), .icon = MessageIcon::kCritical});
   return false;
 }
 
@@ -63,7 +64,7 @@ bool SampleRun::FindProduct() {
   }
   for (const std::string& name : {state_.prod, product->collectMethod}) {
     if (const std::string why = platform::WhyNotAFileName(name); !why.empty()) {
-      return Refuse("\"" + name + "\" cannot name the product's files. " + why);
+      return Refuse(Text(TextId::kCannotNameTheProduct, {name, why}));
     }
   }
   state_.clmName = product->collectMethod;
@@ -71,7 +72,7 @@ bool SampleRun::FindProduct() {
   state_.calfilename = product->additionalFile;
   frm_samp_.previousProduct = product->productId;
   if (!CanJudge(state_.algorithm)) {
-    return Refuse("The algorithm \"" + state_.algorithm + "\" is not available in this version of Veritane.");
+    return Refuse(Text(TextId::kAlgorithmNotAvailable, {state_.algorithm}));
   }
   return true;
 }
@@ -85,7 +86,7 @@ void SampleRun::RunForProduct(const acquisition::BackgroundSchedule& schedule) {
   acquisition::AnnounceSample(bench_.desktop, prompts.sample);
   if (!OpenSampleDocument() || !CollectSample() || !IsConsistent()) return;
   FileSample();
-  BehindFiling("it could not be compared.", [this] {
+  BehindFiling(TextId::kFiledNotCompared, [this] {
     const StatusShown status(bench_, Text(TextId::kCalculating));
     Prepare(state_.Samp, state_.ChartSampData, state_.SampFFTData);
     Judge(bench_);
@@ -94,23 +95,22 @@ void SampleRun::RunForProduct(const acquisition::BackgroundSchedule& schedule) {
   // What fails from here on is told over the result, which the operator must not lose.
   bench_.desktop.Perform([this] { RecordResult(); });
   bench_.desktop.Perform([this] {
-    BehindFiling("its result could not be named there.", [this] { NameResultInSampleFile(); });
+    BehindFiling(TextId::kFiledNotNamed, [this] { NameResultInSampleFile(); });
     if (state_.options.printOption != 0) bench_.PrintByTemplate();
   });
 }
 
 // Whoever reads of a fault behind the filing has to know that the spectrum is not lost.
-void SampleRun::BehindFiling(const char* what_failed, const std::function<void()>& step) const {
+void SampleRun::BehindFiling(TextId what_failed, const std::function<void()>& step) const {
   try {
     step();
   } catch (const platform::RunTimeError& error) {
-    throw platform::RunTimeError(error.Number(), std::string(error.what()) + "\r\nThe sample is filed in " +
-                                                     state_.tmpSampName + ", but " + what_failed);
+    throw platform::RunTimeError(error.Number(), Text(what_failed, {error.what(), state_.tmpSampName}));
   }
 }
 
 void SampleRun::RecordResult() {
-  BehindFiling("its result could not be recorded.", [this] {
+  BehindFiling(TextId::kFiledNotRecorded, [this] {
     AppendHistogramLine(bench_.machine.files, state_.tmpSampName,
                         {.sampleName = frm_samp_.txtSampName.Text(),
                          .productId = frm_samp_.cmbStandards.Text(),
@@ -222,15 +222,9 @@ bool SampleRun::IsConsistent() {
   const state::SpectrumBuffer& sample = state_.Samp;
   std::string reason;
   if (standard.Res != sample.Res) {
-    reason =
-        "Sample and Standard have been collected using different spectral resolutions (different Collect "
-        "Methods "
-        "used?). Please contact Supervisor.";
+    reason = Text(TextId::kCollectedOtherwise);
   } else if (standard.Data.lower * standard.Res != sample.Data.lower * sample.Res) {
-    reason =
-        "Sample and Standard have different starting points (different Collect Methods used?). Please "
-        "contact "
-        "Supervisor.";
+    reason = Text(TextId::kStartsElsewhere);
   }
   if (reason.empty()) return true;
   session_.CurrentDocument->CloseDocument(false);
@@ -242,7 +236,7 @@ void SampleRun::FileSample() {
     bench_.machine.files.MoveFile(state_.tmpSampName, roll_over_name_);
   }
   session_.CurrentDocument->SaveDocumentAs(state_.tmpSampName);
-  BehindFiling("the run log could not take its line, and it was not compared.", [this] {
+  BehindFiling(TextId::kFiledNotLogged, [this] {
     log_.Append(RunLogLine(frm_samp_.txtOperatorName.Text(), state_.tmpSampName, bench_.machine.regional,
                            bench_.machine.clock.LocalNow()));
   });
@@ -256,11 +250,15 @@ void SampleRun::ShowResult() {
 
   const platform::DateTime now = bench_.machine.clock.LocalNow();
   const platform::RegionalFormat& regional = bench_.machine.regional;
-  const std::string quality =
-      HasMatchQuality(state_.algorithm) ? " " + platform::NumberText(state_.comparison) + "%.  " : " .  ";
-  bench_.panel.lblResult.SetCaption("Sample Name: " + frm_samp_.txtSampName.Text() + quality +
-                                    regional.LongDate(now) + " at " + regional.ShortTime(now) +
-                                    "  Operator= " + frm_samp_.txtOperatorName.Text());
+  const std::string& sample = frm_samp_.txtSampName.Text();
+  const std::string& operator_name = frm_samp_.txtOperatorName.Text();
+  const std::string date = regional.LongDate(now);
+  const std::string time = regional.ShortTime(now);
+  bench_.panel.lblResult.SetCaption(
+      HasMatchQuality(state_.algorithm)
+          ? Text(TextId::kResultLine,
+                 {sample, platform::NumberText(state_.comparison), date, time, operator_name})
+          : Text(TextId::kResultLineWithoutQuality, {sample, date, time, operator_name}));
   bench_.panel.fraSpectrum.SetCaption(Text(TextId::kMatchQualityCaption));
   state::ShowPanel(bench_.panel, bench_.panel.fraSpectrum);
 }

@@ -8,6 +8,7 @@
 #include "acquisition/bench.h"
 #include "acquisition/opened_documents.h"
 #include "identification/frm_samp.h"
+#include "shell/state/string_table.h"
 
 namespace veritane::identification {
 
@@ -37,7 +38,7 @@ private:
   bool CollectSample();
   bool IsConsistent();
   void FileSample();
-  void BehindFiling(const char* what_failed, const std::function<void()>& step) const;
+  void BehindFiling(state::TextId what_failed, const std::function<void()>& step) const;
   void ShowResult();
   void RecordResult();
   void NameResultInSampleFile();

@@ -6,8 +6,12 @@
 #include "acquisition/null_regions.h"
 #include "identification/correlation.h"
 #include "identification/normalisation.h"
+#include "shell/state/string_table.h"
 
 namespace veritane::identification {
+
+using state::Text;
+using state::TextId;
 
 namespace {
 
@@ -50,11 +54,13 @@ void PlotTraces(state::ProgramState& state, platform::Chart& chart) {
     state.minm = std::min(state.minm, *standard.first);
     state.maxm = std::max(state.maxm, *standard.second);
   }
-  chart.SetTitles("Wavenumber (cm\u207B\u00B9)", "Normalised intensity");
-  chart.SetSeries(state::kStandardSeries, state.ChartRefData.Empty()
-                                              ? platform::ChartSeries()
-                                              : Trace("Standard", state.ChartRefData, state.Ref.Res));
-  chart.SetSeries(state::kSampleSeries, Trace("Sample", state.ChartSampData, state.Samp.Res));
+  chart.SetTitles(Text(TextId::kWavenumberAxis), Text(TextId::kIntensityAxis));
+  chart.SetSeries(state::kStandardSeries,
+                  state.ChartRefData.Empty()
+                      ? platform::ChartSeries()
+                      : Trace(Text(TextId::kStandardTrace), state.ChartRefData, state.Ref.Res));
+  chart.SetSeries(state::kSampleSeries,
+                  Trace(Text(TextId::kSampleTrace), state.ChartSampData, state.Samp.Res));
   chart.RemoveSeriesFrom(state::kSampleSeries + 1);
   ResetChartLimits(state, chart);
 }

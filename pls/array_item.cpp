@@ -5,37 +5,40 @@
 #include <string>
 
 #include "platform/run_time_error.h"
+#include "shell/state/string_table.h"
 
 namespace veritane::pls {
 
 using platform::ErrorNumber;
 using platform::RunTimeError;
+using state::Text;
+using state::TextId;
 
 namespace {
 
 constexpr std::int32_t kMostValues = 1 << 24;
 
-[[noreturn]] void RaiseOutOfMemory(std::int32_t size) {
-  throw RunTimeError(ErrorNumber::kOutOfMemory, "an array of " + std::to_string(size) + " values");
+[[noreturn]] void Raise(ErrorNumber number, std::int32_t size) {
+  throw RunTimeError(number, Text(TextId::kArrayOfValues, {std::to_string(size)}));
 }
 
 }  // namespace
 
 void Redimension(std::vector<double>& values, std::int32_t size) {
-  if (size < 0)
-    throw RunTimeError(ErrorNumber::kSubscript, "an array of " + std::to_string(size) + " values");
-  if (size > kMostValues) RaiseOutOfMemory(size);
+  if (size < 0) Raise(ErrorNumber::kSubscript, size);
+  if (size > kMostValues) Raise(ErrorNumber::kOutOfMemory, size);
   try {
     values.assign(static_cast<std::size_t>(size), 0);
   } catch (const std::bad_alloc&) {
-    RaiseOutOfMemory(size);
+    Raise(ErrorNumber::kOutOfMemory, size);
   }
 }
 
 double& ElementOf(std::vector<double>& values, std::int32_t index) {
   if (index < 1 || static_cast<std::size_t>(index) > values.size()) {
     throw RunTimeError(ErrorNumber::kSubscript,
-                       "element " + std::to_string(index) + " of " + std::to_string(values.size()));
+
+                       Text(TextId::kElementOfArray, {std::to_string(index), std::to_string(values.size())}));
   }
   return values[static_cast<std::size_t>(index) - 1];
 }

@@ -4,27 +4,30 @@
 #include <cmath>
 
 #include "platform/run_time_error.h"
+#include "shell/state/string_table.h"
 
 namespace veritane::pls {
 
 using platform::ErrorNumber;
 using platform::RunTimeError;
+using state::Text;
+using state::TextId;
 
 namespace {
 
 double Finite(double value) {
-  if (!std::isfinite(value)) throw RunTimeError(ErrorNumber::kOverflow, "the F-test");
+  if (!std::isfinite(value)) throw RunTimeError(ErrorNumber::kOverflow, Text(TextId::kFTest));
   return value;
 }
 
 double Quotient(double dividend, double divisor) {
   // Nothing by nothing is no number, and an overflow like every other that is none.
-  if (divisor == 0 && dividend != 0) throw RunTimeError(ErrorNumber::kDivisionByZero, "the F-test");
+  if (divisor == 0 && dividend != 0) throw RunTimeError(ErrorNumber::kDivisionByZero, Text(TextId::kFTest));
   return Finite(dividend / divisor);
 }
 
 double NotNegative(double value) {
-  if (value < 0) throw RunTimeError(ErrorNumber::kInvalidCall, "the F-test");
+  if (value < 0) throw RunTimeError(ErrorNumber::kInvalidCall, Text(TextId::kFTest));
   return value;
 }
 

@@ -10,11 +10,14 @@
 #include "platform/dynamic_library.h"
 #include "platform/run_time_error.h"
 #include "pls/pls_library.h"
+#include "shell/state/string_table.h"
 
 namespace veritane::pls {
 
 using platform::ErrorNumber;
 using platform::RunTimeError;
+using state::Text;
+using state::TextId;
 
 namespace {
 
@@ -55,12 +58,11 @@ std::int32_t Call(Function* function, const char* name, Arguments... arguments) 
   try {
     return function(arguments...);
   } catch (const std::bad_alloc&) {
-    throw RunTimeError(ErrorNumber::kOutOfMemory, std::string(name) + " of the prediction library");
+    throw RunTimeError(ErrorNumber::kOutOfMemory, Text(TextId::kLibraryFunction, {name}));
   } catch (const std::exception& error) {
-    throw RunTimeError(ErrorNumber::kInvalidCall,
-                       std::string(name) + " of the prediction library: " + error.what());
+    throw RunTimeError(ErrorNumber::kInvalidCall, Text(TextId::kLibraryFunctionFailed, {name, error.what()}));
   } catch (...) {
-    throw RunTimeError(ErrorNumber::kInvalidCall, std::string(name) + " of the prediction library");
+    throw RunTimeError(ErrorNumber::kInvalidCall, Text(TextId::kLibraryFunction, {name}));
   }
 }
 

@@ -11,8 +11,12 @@
 #include "platform/run_time_error.h"
 #include "platform/text_file.h"
 #include "platform/text_printout.h"
+#include "shell/state/string_table.h"
 
 namespace veritane::pls {
+
+using state::Text;
+using state::TextId;
 
 namespace {
 
@@ -39,11 +43,11 @@ std::string WithoutTrailingBlanks(const std::string& text) {
 
 MainForm::MainForm(platform::Desktop& desktop, PredictionSurroundings surroundings)
     : Form(desktop, "MainForm"), surroundings_(std::move(surroundings)) {
-  SetCaption("Prediction");
-  cmdNewCalFile.SetCaption("&New Calibration File...");
-  cmdPredict.SetCaption("P&redict");
-  cmdPrint.SetCaption("&Print");
-  cmdDone.SetCaption("&Done");
+  SetCaption(Text(TextId::kPrediction));
+  cmdNewCalFile.SetCaption(Text(TextId::kNewCalibrationFile));
+  cmdPredict.SetCaption(Text(TextId::kPredict));
+  cmdPrint.SetCaption(Text(TextId::kPrintPrediction));
+  cmdDone.SetCaption(Text(TextId::kPredictionDone));
   cmdPredict.SetEnabled(false);
   cmdNewCalFile.OnClick = [this] { cmdNewCalFile_Click(); };
   cmdPredict.OnClick = [this] { cmdPredict_Click(); };
@@ -63,7 +67,7 @@ void MainForm::Form_Activate() {
 }
 
 void MainForm::cmdNewCalFile_Click() {
-  const auto path = Screen().ChooseFile({.title = "Select calibration file",
+  const auto path = Screen().ChooseFile({.title = Text(TextId::kSelectCalibrationFile),
                                          .filter = "*.cal|*.cal",
                                          .folder = surroundings_.state.folders.stdsDir});
   if (path) TakeCalibrationFile(*path);
@@ -78,7 +82,7 @@ void MainForm::TakeCalibrationFile(const std::string& path) {
 void MainForm::cmdPrint_Click() {
   std::string text;
   for (const std::string& line : iqoutput.Items()) text += line + std::string(platform::kLineEnd);
-  platform::TextPrintout printout("Prediction", text);
+  platform::TextPrintout printout(Text(TextId::kPrediction), text);
   Screen().Print(printout);
 }
 
@@ -153,7 +157,7 @@ void MainForm::ReadConcentrations() {
 
 void MainForm::ListResults() {
   const state::ProgramState& state = surroundings_.state;
-  if (!sampleName_.empty()) iqoutput.Add("Sample Name = " + sampleName_);
+  if (!sampleName_.empty()) iqoutput.Add(Text(TextId::kPredictedSample, {sampleName_}));
   for (std::size_t k = 1; k < state.PLSConcentrations.size(); ++k) {
     const std::string name = k < state.PLSConstituentNames.size() ? state.PLSConstituentNames[k] : "";
     iqoutput.Add(name + " = " + ResultText(state.PLSConcentrations[k]));
@@ -165,7 +169,7 @@ void MainForm::CheckError(std::int32_t code) {
   faulted_ = true;
   std::string text;
   PLSPred::GetErrorString(platform::ToInt16(code), text);
-  Screen().ShowMessage({.text = text, .title = "Veritane"});
+  Screen().ShowMessage({.text = text, .title = Text(TextId::kProgramName)});
   Unload();
 }
 

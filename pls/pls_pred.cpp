@@ -1,7 +1,6 @@
 // State, preconditions and items of a loaded calibration.
 #include "pls/pls_pred.h"
 
-#include <array>
 #include <exception>
 
 #include "platform/desktop.h"
@@ -10,8 +9,12 @@
 #include "platform/utf8.h"
 #include "pls/array_item.h"
 #include "pls/f_test.h"
+#include "shell/state/string_table.h"
 
 namespace veritane::pls {
+
+using state::Text;
+using state::TextId;
 
 namespace {
 
@@ -19,33 +22,13 @@ constexpr std::size_t kMemoLength = 256;
 constexpr std::int32_t kNameLength = 32;
 constexpr std::int32_t kBandLength = 5;
 
-// Texts of the codes from -5 to 11.
-constexpr std::int16_t kFirstText = -5;
-constexpr std::array<const char*, 17> kTexts{
-    "No spectral file loaded",
-    "The number of items found is not the same as copied",
-    "No value available for this function",
-    "No prediction structure present",
-    "No Calibration file Loaded",
-    "No Error",
-    "Memory allocation Error",
-    "Calibration file open error",
-    "Calibration file read error",
-    "Source data open error",
-    "Source data read error",
-    "Source data does not match data information stored in the calibration file",
-    "Preprocessing error",
-    "Can not find requested calibration",
-    "Not enough calibration information",
-    "Mathematics calculation error",
-    "Item copy error"};
-
 // The byte that a value of a text item stands for.
 char ByteOf(double value) {
   constexpr std::int32_t kLargestByte = 255;
   const std::int32_t code = platform::ToInt32(value);
   if (code < 0 || code > kLargestByte) {
-    throw platform::RunTimeError(platform::ErrorNumber::kInvalidCall, "character " + std::to_string(code));
+    throw platform::RunTimeError(platform::ErrorNumber::kInvalidCall,
+                                 Text(TextId::kCharacterCode, {std::to_string(code)}));
   }
   return static_cast<char>(code);
 }
@@ -79,8 +62,8 @@ std::int32_t PLSPred::LoadCalFile(const std::string& szCal) {
   }
   const std::int32_t handle = library_.LoadCalFile(szCal);
   if (handle == 0) {
-    desktop_.ShowMessage({.text = "Calibration file did not load. It cannot be read only.",
-                          .title = "Calibration File Error",
+    desktop_.ShowMessage({.text = Text(TextId::kCalibrationNotLoaded),
+                          .title = Text(TextId::kCalibrationErrorTitle),
                           .icon = platform::MessageIcon::kCritical});
   }
   calHandle_ = handle;
@@ -168,9 +151,10 @@ std::int32_t PLSPred::GetCalTotal(std::int16_t& Value) {
 }
 
 std::int32_t PLSPred::GetErrorString(std::int16_t ErrorNumber, std::string& szErrorString) {
-  const int index = ErrorNumber - kFirstText;
-  const bool has_text = index >= 0 && index < static_cast<int>(kTexts.size());
-  szErrorString = has_text ? kTexts[static_cast<std::size_t>(index)] : "Not a valid error number";
+  // The texts of the codes stand in their order.
+  const auto text = static_cast<TextId>(static_cast<int>(TextId::kPlsNoError) + ErrorNumber);
+  const bool has_text = text >= TextId::kPlsNoSpectrum && text <= TextId::kPlsItemCopy;
+  szErrorString = Text(has_text ? text : TextId::kPlsNoErrorNumber);
   return kNoError;
 }
 

@@ -3,20 +3,24 @@
 
 #include "platform/desktop.h"
 #include "platform/text_printout.h"
+#include "shell/state/string_table.h"
 
 namespace veritane::review {
 
+using state::Text;
+using state::TextId;
+
 FrmResults::FrmResults(platform::Desktop& desktop) : Form(desktop, "frmResults") {
-  SetCaption("Results");
+  SetCaption(Text(TextId::kResults));
   txtResults.isMultiLine = true;
   txtResults.isReadOnly = true;
   txtResults.OnKeyPress = [this](int key) { return txtResults_KeyPress(key); };
-  cmdPrint.SetCaption("&Print");
+  cmdPrint.SetCaption(Text(TextId::kPrintResults));
   cmdPrint.OnClick = [this] { cmdPrint_Click(); };
 }
 
 void FrmResults::cmdPrint_Click() {
-  platform::TextPrintout printout("Results", txtResults.Text());
+  platform::TextPrintout printout(Text(TextId::kResults), txtResults.Text());
   Screen().Print(printout);
 }
 

@@ -7,10 +7,13 @@
 #include "platform/run_time_error.h"
 #include "platform/windows_path.h"
 #include "review/chart_printout.h"
+#include "shell/state/string_table.h"
 
 namespace veritane::review {
 
 using platform::RunTimeError;
+using state::Text;
+using state::TextId;
 
 namespace {
 
@@ -34,8 +37,8 @@ void Printing::Print() {
 }
 
 void Printing::PrintChart() {
-  ChartPrintout printout("Spectrum " + platform::LeafWithoutExtension(SampleFile()), bench_.panel.chart,
-                         bench_.panel.lblResult.Caption());
+  ChartPrintout printout(Text(TextId::kChartPrintTitle, {platform::LeafWithoutExtension(SampleFile())}),
+                         bench_.panel.chart, bench_.panel.lblResult.Caption());
   bench_.desktop.Print(printout);
 }
 
@@ -43,8 +46,8 @@ void Printing::PrintByTemplate() {
   try {
     PrintDocuments();
   } catch (const RunTimeError& error) {
-    throw RunTimeError(error.Number(), std::string(error.what()) + "\r\nPrinting through the template " +
-                                           state_.options.printTemplate + " was not completed.");
+    throw RunTimeError(error.Number(),
+                       Text(TextId::kTemplateNotCompleted, {error.what(), state_.options.printTemplate}));
   }
 }
 

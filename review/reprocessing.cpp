@@ -52,7 +52,7 @@ std::string WhyNotComparable(const state::SpectrumBuffer& standard, const state:
   if (standard.NumPts != sample.NumPts) reason = Text(TextId::kPointsDiffer);
   // As many points as far apart may still lie elsewhere, and would then be compared at other wavenumbers.
   if (reason.empty() && FirstWavenumber(standard) != FirstWavenumber(sample)) {
-    reason = " First wavenumbers of the spectra are different.";
+    reason = Text(TextId::kFirstWavenumbersDiffer);
   }
   return reason;
 }
@@ -121,8 +121,7 @@ std::optional<std::int16_t> Reprocessing::ChooseSpectrum() {
 
 std::string Reprocessing::EntryOf(std::int16_t index) {
   const auto spectrum = session_.CurrentDocument->GetSpectrumAt(index);
-  const std::string name = TextOf(*spectrum, "SpectName");
-  return name + " Collected on " + TextOf(*spectrum, "Time");
+  return Text(TextId::kSpectrumEntry, {TextOf(*spectrum, "SpectName"), TextOf(*spectrum, "Time")});
 }
 
 void Reprocessing::Run(const std::string& algorithm) {
@@ -228,7 +227,7 @@ void Reprocessing::ShowResult() {
 }
 
 std::vector<std::string> Reprocessing::HeaderLines() const {
-  std::string result = "Sample Name: " + sample_name_;
+  std::string result = Text(TextId::kReprocessedSample, {sample_name_});
   if (identification::HasMatchQuality(state_.algorithm)) {
     result += Text(TextId::kMatchQuality) + platform::NumberText(state_.comparison) +
               Text(TextId::kPercentAlgorithm) + state_.algorithm;

@@ -3,11 +3,15 @@
 
 #include <initializer_list>
 
+#include "shell/state/string_table.h"
+
 namespace veritane::shell {
 
 namespace {
 
 using platform::Control;
+using state::Text;
+using state::TextId;
 
 void Place(platform::Frame& frame, std::initializer_list<Control*> controls) {
   for (Control* control : controls) control->PlaceIn(frame);
@@ -25,17 +29,17 @@ MainControls::MainControls(platform::Desktop& desktop) : Form(desktop, "frmVerit
   platform::OptionButton::Group({&optManualBackground, &optBackInterval, &optBackBeforeSample});
   platform::OptionButton::Group({&optDefaultPrint, &optPrintTemplate});
 
-  Label8.SetCaption("Material verification by infrared spectroscopy");
+  Label8.SetCaption(Text(TextId::kSubtitle));
   txtbackInterval.SetText("0");
   txtThreshold.SetText("90");
-  chkPrintPassFail.SetCaption("Sho&w Pass/Fail with the result");
+  chkPrintPassFail.SetCaption(Text(TextId::kShowPassFail));
   chkPrintPassFail.SetChecked(true);
-  fraPrint.SetCaption("Print Options");
-  optDefaultPrint.SetCaption("&Default Printing");
-  optPrintTemplate.SetCaption("&Print with a Template");
-  cmdSelTemplate.SetCaption("Select Temp&late...");
-  lblReprocessAlgorithm.SetCaption("&Algorithm");
-  cmdNextSample.SetCaption("&Next Sample");
+  fraPrint.SetCaption(Text(TextId::kPrintOptions));
+  optDefaultPrint.SetCaption(Text(TextId::kDefaultPrinting));
+  optPrintTemplate.SetCaption(Text(TextId::kPrintWithTemplate));
+  cmdSelTemplate.SetCaption(Text(TextId::kChooseTemplate));
+  lblReprocessAlgorithm.SetCaption(Text(TextId::kReprocessAlgorithm));
+  cmdNextSample.SetCaption(Text(TextId::kNextSample));
   cmdNextSample.isDefault = true;
   cmdBacktoMainMenu.isCancel = true;
 }

@@ -3,11 +3,14 @@
 #include "identification/pls_prediction.h"
 #include "platform/run_time_error.h"
 #include "shell/frm_veritane.h"
+#include "shell/state/string_table.h"
 
 namespace veritane::shell {
 
 using platform::ErrorNumber;
 using platform::RunTimeError;
+using state::Text;
+using state::TextId;
 
 pls::PredictionSurroundings FrmVeritane::PredictionAround() {
   return {.files = machine_.files,
@@ -54,7 +57,7 @@ std::string FrmVeritane::NameOfSpectrum() {
 
 void FrmVeritane::ExportSpectrum(const std::string& path) {
   if (session_.CurrentDocument == nullptr || state_.SpectrumIndex < 1) {
-    throw RunTimeError(ErrorNumber::kInvalidCall, "there is no spectrum to predict");
+    throw RunTimeError(ErrorNumber::kInvalidCall, Text(TextId::kNoSpectrumToPredict));
   }
   acquisition::Document& document = *session_.CurrentDocument;
   document.SetDocumentShown(0);

@@ -3,6 +3,7 @@
 #include "acquisition/method_list.h"
 #include "platform/desktop.h"
 #include "platform/run_time_error.h"
+#include "platform/texts.h"
 #include "shell/frm_veritane.h"
 #include "shell/state/data_folders.h"
 #include "shell/state/messages.h"
@@ -31,7 +32,8 @@ void IgnoringErrors(Step step) {
 void FrmVeritane::Form_Load() {
   state_.folderSet = state::ChooseFolderSet(machine_.registry);
   const std::string common = machine_.folders.CommonApplicationData(false);
-  if (common.empty()) Screen().ShowMessage({.text = "Couldn't find AppData directory", .title = "Veritane"});
+  if (common.empty())
+    Screen().ShowMessage({.text = Text(TextId::kNoApplicationData), .title = Text(TextId::kProgramName)});
   const std::string data_folder = state::DataFolderBelow(common);
   if (!TakeDataFolder(data_folder)) return;
   state::MakeTablesConcrete(machine_.files, state_.folderSet, data_folder);
@@ -56,7 +58,7 @@ void FrmVeritane::Form_Load() {
   grid.SetFixed(1, 0);
   FillAlgorithmLists();
   LoadMethods();
-  chart.SetTitles("Wavenumber (cm\u207B\u00B9)", "Normalised intensity");
+  chart.SetTitles(Text(TextId::kWavenumberAxis), Text(TextId::kIntensityAxis));
   state_.formStartup = 0;
   Screen().SetMousePointer(Pointer::kDefault);
 }
@@ -67,9 +69,8 @@ bool FrmVeritane::TakeDataFolder(const std::string& data_folder) {
   if (!machine_.files.FolderExists(data_folder)) return true;
   data_folder_lock_ = machine_.files.TakeFile(data_folder + "veritane.lock");
   if (data_folder_lock_ != nullptr) return true;
-  Screen().ShowMessage({.text = "Veritane is running already with the data in " + data_folder +
-                                "\r\nPlease go on in its window.",
-                        .title = "Veritane",
+  Screen().ShowMessage({.text = Text(TextId::kRunningAlready, {data_folder}),
+                        .title = Text(TextId::kProgramName),
                         .icon = MessageIcon::kCritical});
   Screen().End(1);
   return false;
@@ -78,9 +79,10 @@ bool FrmVeritane::TakeDataFolder(const std::string& data_folder) {
 // Placeholders until the product table is loaded.
 void FrmVeritane::PrepareGrid() {
   for (int column = 1; column < grid.ColumnCount(); ++column) {
-    grid.SetCell(0, column, "Col " + std::to_string(column));
+    grid.SetCell(0, column, Text(TextId::kGridColumn, {std::to_string(column)}));
   }
-  for (int row = 1; row < grid.RowCount(); ++row) grid.SetCell(row, 0, "Row " + std::to_string(row));
+  for (int row = 1; row < grid.RowCount(); ++row)
+    grid.SetCell(row, 0, Text(TextId::kGridRow, {std::to_string(row)}));
   grid.SetCurrentCell(1, 1);
 }
 
@@ -90,14 +92,15 @@ void FrmVeritane::DeleteStalePrintView() {
 }
 
 void FrmVeritane::ShowVersionTitle() {
-  SetCaption("Veritane - Version " + std::to_string(VERITANE_VERSION_MAJOR) + "." +
-             std::to_string(VERITANE_VERSION_MINOR) + "." + std::to_string(VERITANE_VERSION_REVISION));
+  SetCaption(Text(TextId::kVersionTitle,
+                  {std::to_string(VERITANE_VERSION_MAJOR), std::to_string(VERITANE_VERSION_MINOR),
+                   std::to_string(VERITANE_VERSION_REVISION)}));
 }
 
 void FrmVeritane::CreateSpectrometerObject() {
   session_.SpectrometerApp = create_spectrometer_app_("quillon.app.1");
   session_.SpectrometerApp->SetWaiting({.busyServerRaisesError = true,
-                                        .pendingText = "Wait until analyzer finishes process\u2026",
+                                        .pendingText = platform::Text(platform::TextId::kWaitingForServer),
                                         .pendingMilliseconds = 999999999,
                                         .busyMilliseconds = 10000});
 }
@@ -115,10 +118,9 @@ bool FrmVeritane::LoadCalibrationMethod() {
       session_.SpectrometerApp->OpenDocument(state_.folders.InStandards("Autoalign.bsp"));
   const std::string method = state_.folders.InStandards("Initial.clm");
   if (!machine_.files.FileExists(method)) {
-    Screen().ShowMessage(
-        {.text = "A file required by Veritane is not present (Initial.clm). Please re-install Veritane.",
-         .title = state::kPlainNotice,
-         .icon = MessageIcon::kCritical});
+    Screen().ShowMessage({.text = Text(TextId::kInitialMethodMissing),
+                          .title = Text(TextId::kPlainNotice),
+                          .icon = MessageIcon::kCritical});
     cmdExit_Click();
     return false;
   }
@@ -175,12 +177,10 @@ bool FrmVeritane::SaveSettingsOrAsk() {
     SaveSettings();
     return true;
   } catch (const platform::RunTimeError& error) {
-    const auto answer =
-        Screen().ShowMessage({.text = "The settings cannot be saved. " + std::string(error.what()) +
-                                      "\r\nLeave Veritane without saving them?",
-                              .title = "Veritane",
-                              .icon = MessageIcon::kQuestion,
-                              .buttons = platform::MessageButtons::kYesNo});
+    const auto answer = Screen().ShowMessage({.text = Text(TextId::kSettingsNotSaved, {error.what()}),
+                                              .title = Text(TextId::kProgramName),
+                                              .icon = MessageIcon::kQuestion,
+                                              .buttons = platform::MessageButtons::kYesNo});
     return answer == platform::MessageAnswer::kYes;
   }
 }

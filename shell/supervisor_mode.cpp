@@ -143,8 +143,8 @@ bool FrmVeritane::IntervalIsRight() {
   constexpr double kMostHours = std::numeric_limits<std::int16_t>::max();
   const std::optional<double> hours = platform::ParseNumber(txtbackInterval.Text());
   if (hours && *hours >= 0 && *hours <= kMostHours) return true;
-  Screen().ShowMessage({.text = "The hours between backgrounds must be a number from 0 to 32767.",
-                        .title = state::kPlainNotice,
+  Screen().ShowMessage({.text = Text(TextId::kIntervalRange),
+                        .title = Text(TextId::kPlainNotice),
                         .icon = MessageIcon::kExclamation});
   txtbackInterval.SetFocus();
   return false;
@@ -160,8 +160,9 @@ void FrmVeritane::optPrintTemplate_Click() {
 }
 
 void FrmVeritane::cmdSelTemplate_Click() {
-  const auto path = Screen().ChooseFile(
-      {.title = "Select print template", .filter = "(*.bpt)|*.bpt", .folder = state_.folders.appDir});
+  const auto path = Screen().ChooseFile({.title = Text(TextId::kSelectPrintTemplate),
+                                         .filter = "(*.bpt)|*.bpt",
+                                         .folder = state_.folders.appDir});
   if (!path) return;
   state_.options.printTemplate = *path;
   lblPrintTemplate.SetCaption(*path);
@@ -182,7 +183,7 @@ void FrmVeritane::SSTab1_Change(int previous) {
   if (is_turning_back_) return;
   if (previous == kOptionsTab && optPrintTemplate.Checked() && lblPrintTemplate.Caption().empty()) {
     Screen().ShowMessage(
-        {.text = "Please select a Print Template, or Select Default Printing", .title = "Veritane"});
+        {.text = Text(TextId::kTemplateOrDefaultPrinting), .title = Text(TextId::kProgramName)});
     TurnBackTo(kOptionsTab);
     return;
   }
@@ -197,12 +198,13 @@ bool FrmVeritane::PrintOptionsAreComplete() {
   const std::string& path = lblPrintTemplate.Caption();
   std::string problem;
   if (optPrintTemplate.Checked() && path.empty()) {
-    problem = "A print template must be selected.";
+    problem = Text(TextId::kPrintTemplateRequired);
   } else if (!path.empty() && !machine_.files.FileExists(path)) {
-    problem = "Selected print template does not exist. Please select a new print template.";
+    problem = Text(TextId::kPrintTemplateMissing);
   }
   if (problem.empty()) return true;
-  Screen().ShowMessage({.text = problem, .title = state::kPlainNotice, .icon = MessageIcon::kExclamation});
+  Screen().ShowMessage(
+      {.text = problem, .title = Text(TextId::kPlainNotice), .icon = MessageIcon::kExclamation});
   return false;
 }
 

@@ -3,6 +3,7 @@
 
 #include "platform/run_time_error.h"
 #include "platform/text_file.h"
+#include "shell/state/string_table.h"
 
 namespace veritane::state {
 
@@ -63,9 +64,9 @@ std::string CurrentUserName(const platform::UserAccount& account) {
     } else if (const auto computer = account.ComputerName()) {
       name = "[" + UpToNul(*computer) + "]";
     }
-    return name.empty() ? "<unknown user 1>" : name;
+    return name.empty() ? Text(TextId::kUnknownUser) : name;
   } catch (const platform::RunTimeError&) {
-    return "<unknown user 2>";
+    return Text(TextId::kUserCannotBeTold);
   }
 }
 

@@ -1,20 +1,11 @@
 // The program's string table.
 #include "shell/state/string_table.h"
 
-#include <algorithm>
-#include <utility>
-#include <vector>
-
-#include "platform/run_time_error.h"
-
 namespace veritane::state {
 
-namespace {
-
-// Sorted by number.
-const std::vector<std::pair<int, std::string>>& Table() {
+const platform::TextTable& Texts() {
   // clang-format off
-  static const std::vector<std::pair<int, std::string>> table{
+  static const platform::TextTable table{
     {16, "Product ID"},
     {17, "Collect Method"},
     {18, "Algorithm"},
@@ -145,21 +136,153 @@ const std::vector<std::pair<int, std::string>>& Table() {
     {253, "Operator Name"},
     {254, "Please enter an Operator Name"},
     {255, "Standard"},
+    {1000, "Notice"},
+    {1001, "Veritane"},
+    {1002, "<unknown user 1>"},
+    {1003, "<unknown user 2>"},
+    {1004, "Wavenumber (cm⁻¹)"},
+    {1005, "Normalised intensity"},
+    {1006, "Select calibration file"},
+    {1100, "Material verification by infrared spectroscopy"},
+    {1101, "Sho&w Pass/Fail with the result"},
+    {1102, "Print Options"},
+    {1103, "&Default Printing"},
+    {1104, "&Print with a Template"},
+    {1105, "Select Temp&late..."},
+    {1106, "&Algorithm"},
+    {1107, "&Next Sample"},
+    {1108, "Veritane - Version {1}.{2}.{3}"},
+    {1109, "Col {1}"},
+    {1110, "Row {1}"},
+    {1120, "Couldn't find AppData directory"},
+    {1121, "Veritane is running already with the data in {1}\r\nPlease go on in its window."},
+    {1122, "A file required by Veritane is not present (Initial.clm). Please re-install Veritane."},
+    {1123, "The settings cannot be saved. {1}\r\nLeave Veritane without saving them?"},
+    {1130, "The hours between backgrounds must be a number from 0 to 32767."},
+    {1131, "Select print template"},
+    {1132, "Please select a Print Template, or Select Default Printing"},
+    {1133, "A print template must be selected."},
+    {1134, "Selected print template does not exist. Please select a new print template."},
+    {1135, "there is no spectrum to predict"},
+    {1200, "Name Used to Identify a Unique Product"},
+    {1201, "File"},
+    {1202, "C&hoose..."},
+    {1203, "Use &Full Barcode for Product ID"},
+    {1204, "File Name"},
+    {1205, "Select peak file"},
+    {1210, "BACK is a reserved filename. Please enter a different Product ID"},
+    {1211, "Please select a calibration file when using PLS algorithm"},
+    {1212, "Please select a Peak file when using the Mark Peaks algorithm"},
+    {1213, "Please select a Collect Method."},
+    {1214, "\"{1}\" cannot name a product's files. {2}"},
+    {1215, "A Product ID cannot hold a comma."},
+    {1216, "A Product ID cannot begin with a blank."},
+    {1217, "\"{1}\" is the name of a background file. Please enter a different Product ID"},
+    {1218, "{1}\r\nThe Standard is filed in {2}, but the product table does not name it. Delete that file before you collect the Standard again."},
+    {1219, "The table holds an earlier row for Product ID: {1}. Samples are measured and compared as that row says until it is deleted or changed."},
+    {1230, "\"{1}\" cannot be a collect method. {2}"},
+    {1231, "The product table cannot be read. {1}"},
+    {1232, "You have chosen an Algorithm for Product ID: {1}  that requires an additional file. Please chose the appropriate file."},
+    {1233, "Delete Row..."},
+    {1234, "Are you sure you want to delete {1}? Standard spectra, Sample spectra, and Histogram file will be deleted."},
+    {1235, "{1}: \"{2}\" is no region"},
+    {1236, "the measured spectrum is empty"},
+    {1240, "the object belongs to another application"},
+    {1241, "{1}: \"contract name = server name\" was expected"},
+    {1242, "{1}: the contract has no \"{2}\""},
+    {1243, "{1}: \"{2}\" stands there twice"},
+    {1244, "{1}: a member's name was expected behind \"=\", or call, callref, get or put and a name"},
+    {1300, "Sample Name"},
+    {1301, "Please enter a Sample Name."},
+    {1302, "\"{1}\" cannot name the product's files. {2}"},
+    {1303, "The algorithm \"{1}\" is not available in this version of Veritane."},
+    {1304, "Sample and Standard have been collected using different spectral resolutions (different Collect Methods used?). Please contact Supervisor."},
+    {1305, "Sample and Standard have different starting points (different Collect Methods used?). Please contact Supervisor."},
+    {1306, "{1}\r\nThe sample is filed in {2}, but it could not be compared."},
+    {1307, "{1}\r\nThe sample is filed in {2}, but the run log could not take its line, and it was not compared."},
+    {1308, "{1}\r\nThe sample is filed in {2}, but its result could not be recorded."},
+    {1309, "{1}\r\nThe sample is filed in {2}, but its result could not be named there."},
+    {1320, "Sample Name: {1} {2}%.  {3} at {4}  Operator= {5}"},
+    {1321, "Sample Name: {1} .  {2} at {3}  Operator= {4}"},
+    {1322, "Standard"},
+    {1323, "Sample"},
+    {1324, "The prediction failed. There are no values to show."},
+    {1325, "departs < .0001"},
+    {1326, "departs < .001"},
+    {1327, "departs < .01"},
+    {1328, "departs ≥ .01"},
+    {1340, "a spectrum without points"},
+    {1341, "a spectrum of more than 32,767 points"},
+    {1342, "a point number beyond 16 bits"},
+    {1343, "an ordinate is infinite or not a number"},
+    {1344, "an ordinate is infinite, not a number or too large"},
+    {1345, "an ordinate is not a number"},
+    {1346, "the range of a spectrum"},
+    {1347, "a baseline over more points than the spectrum has"},
+    {1348, "a baseline through a single point"},
+    {1349, "the sample is 0 everywhere"},
+    {1350, "the Standard is 0 everywhere"},
+    {1351, "the sample has points that the Standard lacks"},
+    {1352, "a transform of fewer than 156 points"},
+    {1353, "null regions of a spectrum without a spacing"},
+    {1354, "a null region without bounds"},
+    {1360, "a spectrum with a spacing of 0"},
+    {1361, "a spectrum without a spacing"},
+    {1362, "a Lumivar band of a single point"},
+    {1363, "the spectrum is too short for a single Lumivar band"},
+    {1364, "the Lumivar band {1} - {2} has points that the spectrum lacks"},
+    {1365, "the Standard's ordinates add up to 0"},
+    {1366, "the measure of a Lumivar band"},
+    {1367, "the Lumivar match quality"},
+    {1380, "{1}: \"{2}\" is no peak position"},
+    {1381, "{1}: no peak position in it"},
+    {1382, "the product names no peak file"},
+    {1400, "Results"},
+    {1401, "&Print"},
+    {1402, "Spectrum {1}"},
+    {1403, "{1}\r\nPrinting through the template {2} was not completed."},
+    {1404, " First wavenumbers of the spectra are different."},
+    {1405, "{1} Collected on {2}"},
+    {1406, "Sample Name: {1}"},
+    {1500, "Prediction"},
+    {1501, "&New Calibration File..."},
+    {1502, "P&redict"},
+    {1503, "&Print"},
+    {1504, "&Done"},
+    {1505, "Sample Name = {1}"},
+    {1506, "Calibration file did not load. It cannot be read only."},
+    {1507, "Calibration File Error"},
+    {1520, "No spectral file loaded"},
+    {1521, "The number of items found is not the same as copied"},
+    {1522, "No value available for this function"},
+    {1523, "No prediction structure present"},
+    {1524, "No Calibration file Loaded"},
+    {1525, "No Error"},
+    {1526, "Memory allocation Error"},
+    {1527, "Calibration file open error"},
+    {1528, "Calibration file read error"},
+    {1529, "Source data open error"},
+    {1530, "Source data read error"},
+    {1531, "Source data does not match data information stored in the calibration file"},
+    {1532, "Preprocessing error"},
+    {1533, "Can not find requested calibration"},
+    {1534, "Not enough calibration information"},
+    {1535, "Mathematics calculation error"},
+    {1536, "Item copy error"},
+    {1537, "Not a valid error number"},
+    {1540, "character {1}"},
+    {1541, "an array of {1} values"},
+    {1542, "element {1} of {2}"},
+    {1543, "the F-test"},
+    {1544, "{1} of the prediction library"},
+    {1545, "{1} of the prediction library: {2}"},
   };
   // clang-format on
   return table;
 }
 
-}  // namespace
-
 const std::string& Text(int id) {
-  const auto& table = Table();
-  const auto found = std::lower_bound(table.begin(), table.end(), id,
-                                      [](const auto& entry, int wanted) { return entry.first < wanted; });
-  if (found == table.end() || found->first != id) {
-    throw platform::RunTimeError(platform::ErrorNumber::kInvalidCall, "text " + std::to_string(id));
-  }
-  return found->second;
+  return Texts().At(id);
 }
 
 }  // namespace veritane::state
