@@ -1,7 +1,7 @@
 // Filling in places, and the platform's own texts.
 #include "platform/text_table.h"
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include "platform/run_time_error.h"
 #include "platform/texts.h"
@@ -57,7 +57,7 @@ TEST(PlatformTexts, HaveEachNumberOnceAndATextForEveryName) {
     EXPECT_NE(text, "") << id;
     there.insert(before = id);
   }
-  EXPECT_EQ(there, wanted);
+  EXPECT_THAT(there, ::testing::ContainerEq(wanted));
 }
 
 }  // namespace

@@ -1,7 +1,7 @@
 // The program's texts by number.
 #include "shell/state/string_table.h"
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include "platform/run_time_error.h"
 #include "tests/platform/named_values.h"
@@ -24,7 +24,7 @@ TEST(StringTable, HasEachNumberOnceAndATextForEveryName) {
     EXPECT_NE(text, "") << id;
     there.insert(before = id);
   }
-  EXPECT_EQ(there, wanted);
+  EXPECT_THAT(there, ::testing::ContainerEq(wanted));
 }
 
 TEST(StringTable, RefusesNumbersWithoutAText) {
