@@ -2,6 +2,7 @@
 // number.
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <set>
 #include <string_view>
@@ -18,11 +19,14 @@ constexpr bool HasName() {
 // The numbers below `kEnd` that have a name.
 template <typename Enum, std::size_t kEnd>
 std::set<int> NamedValues() {
+  constexpr auto have_names = []<std::size_t... number>(std::index_sequence<number...>) {
+    return std::array<bool, kEnd>{HasName<static_cast<Enum>(number)>()...};
+  };
+  constexpr std::array has_name = have_names(std::make_index_sequence<kEnd>());
   std::set<int> named;
-  [&]<std::size_t... number>(std::index_sequence<number...>) {
-    ((HasName<static_cast<Enum>(number)>() ? void(named.insert(static_cast<int>(number))) : void()), ...);
+  for (std::size_t number = 0; number < kEnd; ++number) {
+    if (has_name[number]) named.insert(static_cast<int>(number));
   }
-  (std::make_index_sequence<kEnd>());
   return named;
 }
 
