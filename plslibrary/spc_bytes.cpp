@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "plslibrary/measured_spectrum.h"
 
@@ -21,10 +22,10 @@ double Integer(const SpcBytes& bytes, std::uint64_t offset, const SpcCoding& cod
   return static_cast<std::int32_t>(coding.highWordFirst ? WordsSwapped(bits) : bits);
 }
 
-std::vector<double> IeeeNumbers(const SpcBytes& bytes, std::uint64_t offset, std::uint64_t points,
+std::vector<double> IeeeNumbers(const SpcBytes& bytes, std::uint64_t offset, std::size_t points,
                                 bool swap_words) {
   std::vector<double> y(points);
-  for (std::uint64_t i = 0; i < points; ++i) {
+  for (std::size_t i = 0; i < points; ++i) {
     const auto bits = bytes.At<std::uint32_t>(offset + 4 * i);
     y[i] = std::bit_cast<float>(swap_words ? WordsSwapped(bits) : bits);
   }
@@ -40,7 +41,7 @@ bool ArePlausible(const std::vector<double>& y) {
 
 // Writers of the old form do not agree whether IEEE numbers, too, have their high word first. Only one order
 // gives a spectrum; where both do, and differ, nobody can say which one is right.
-std::vector<double> OldIeeeNumbers(const SpcBytes& bytes, std::uint64_t offset, std::uint64_t points,
+std::vector<double> OldIeeeNumbers(const SpcBytes& bytes, std::uint64_t offset, std::size_t points,
                                    const std::string& what) {
   std::vector<double> plain = IeeeNumbers(bytes, offset, points, false);
   std::vector<double> swapped = IeeeNumbers(bytes, offset, points, true);
@@ -63,12 +64,16 @@ void SpcBytes::RequireRange(std::uint64_t offset, std::uint64_t size) const {
   }
 }
 
-std::vector<double> ReadOrdinates(const SpcBytes& bytes, std::uint64_t offset, std::uint64_t points,
+std::vector<double> ReadOrdinates(const SpcBytes& bytes, std::uint64_t offset, std::uint64_t point_count,
                                   const SpcCoding& coding, const std::string& what) {
-  if (points > bytes.Remaining(offset) / coding.BytesAPoint()) {
-    throw SpectrumReadError(what + "its " + std::to_string(points) +
+  // What lies in the file lies in memory too, so that a number of points which a size cannot hold is not
+  // there.
+  if (!std::in_range<std::size_t>(point_count) ||
+      point_count > bytes.Remaining(offset) / coding.BytesAPoint()) {
+    throw SpectrumReadError(what + "its " + std::to_string(point_count) +
                             " points reach beyond the end of the file");
   }
+  const auto points = static_cast<std::size_t>(point_count);
   std::vector<double> y;
   if (coding.IsIeee()) {
     y = coding.highWordFirst ? OldIeeeNumbers(bytes, offset, points, what)
@@ -76,7 +81,7 @@ std::vector<double> ReadOrdinates(const SpcBytes& bytes, std::uint64_t offset, s
   } else {
     const int scale = coding.exponent - (coding.is16Bit ? 16 : 32);
     y.resize(points);
-    for (std::uint64_t i = 0; i < points; ++i) {
+    for (std::size_t i = 0; i < points; ++i) {
       y[i] = std::ldexp(Integer(bytes, offset + coding.BytesAPoint() * i, coding), scale);
     }
   }

@@ -62,10 +62,10 @@ struct SpcCoding {
   std::uint64_t BytesAPoint() const { return is16Bit && !IsIeee() ? 2 : 4; }
 };
 
-// `points` ordinates from `offset`: integer × 2^(exponent − 32), or − 16 for 16-bit, or IEEE numbers as they
-// are. SpectrumReadError when they reach beyond the file or one of them is not finite; `what` begins its
+// `point_count` ordinates from `offset`: integer × 2^(exponent − 32), or − 16 for 16-bit, or IEEE numbers as
+// they are. SpectrumReadError when they reach beyond the file or one of them is not finite; `what` begins its
 // text.
-std::vector<double> ReadOrdinates(const SpcBytes& bytes, std::uint64_t offset, std::uint64_t points,
+std::vector<double> ReadOrdinates(const SpcBytes& bytes, std::uint64_t offset, std::uint64_t point_count,
                                   const SpcCoding& coding, const std::string& what);
 
 }  // namespace veritane::plslibrary
