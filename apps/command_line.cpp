@@ -34,19 +34,23 @@ std::vector<std::string> CommandLine::Values(const std::string& name) const {
 
 int RunProgram(const Program& program, int argument_count, char** arguments,
                const std::function<int(const CommandLine&)>& run) {
+  const auto say = [&](std::ostream& output, const std::string& text) {
+    output << text << std::flush;
+    if (program.alsoShow) program.alsoShow(text);
+  };
   if (std::any_of(arguments + 1, arguments + argument_count,
                   [](std::string_view argument) { return argument == "--help"; })) {
-    std::cout << program.usage;
+    say(std::cout, program.usage);
     return 0;
   }
   try {
     return run(CommandLine(argument_count, arguments, program.options, program.mostWords));
   } catch (const UsageError& error) {
-    std::cerr << program.name << ": " << error.what() << '\n'
-              << program.name << " --help tells how it is used.\n";
+    say(std::cerr,
+        program.name + ": " + error.what() + '\n' + program.name + " --help tells how it is used.\n");
     return 2;
   } catch (const std::exception& error) {
-    std::cerr << program.name << ": " << error.what() << '\n';
+    say(std::cerr, program.name + ": " + error.what() + '\n');
     return 1;
   }
 }

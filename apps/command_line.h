@@ -42,6 +42,9 @@ struct Program {
   // The options that take a value, and how many words may stand beside them.
   std::set<std::string> options = {};
   std::size_t mostWords = 0;
+  // Shows what the program says instead of running, once it is written to the standard outputs: on some
+  // systems a program with a window has none.
+  std::function<void(const std::string& text)> alsoShow = {};
 };
 
 // What a program's main does: runs `run` on the command line and returns the exit status, which is what `run`

@@ -9,6 +9,7 @@
 #include "apps/simulator_panel/frm_simulator.h"
 #include "platform/system/common_controls.h"
 #include "platform/system/native_path.h"
+#include "platform/system/starter_message.h"
 #include "platform/system/system_machine.h"
 #include "platform/wx/wx_user_interface.h"
 
@@ -62,8 +63,11 @@ int Run(const apps::CommandLine& line, int argument_count, char** arguments) {
 }  // namespace
 
 int main(int argument_count, char** arguments) {
-  return apps::RunProgram(
-      {.name = "simulator-panel", .usage = "usage: simulator-panel [--root DIR]\n", .options = {"--root"}},
-      argument_count, arguments,
-      [&](const apps::CommandLine& line) { return Run(line, argument_count, arguments); });
+  return apps::RunProgram({.name = "simulator-panel",
+                           .usage = "usage: simulator-panel [--root DIR]\n",
+                           .options = {"--root"},
+                           .alsoShow = platform::ShowToStarter},
+                          argument_count, arguments, [&](const apps::CommandLine& line) {
+                            return Run(line, argument_count, arguments);
+                          });
 }

@@ -11,6 +11,7 @@
 #include "platform/run_time_error.h"
 #include "platform/system/common_controls.h"
 #include "platform/system/native_path.h"
+#include "platform/system/starter_message.h"
 #include "platform/wx/wx_user_interface.h"
 #include "shell/frm_veritane.h"
 
@@ -78,7 +79,8 @@ int Run(const apps::CommandLine& line, int argument_count, char** arguments) {
 int main(int argument_count, char** arguments) {
   return apps::RunProgram({.name = "veritane",
                            .usage = "usage: veritane [--instrument simulated|real]\n",
-                           .options = {apps::kInstrumentOption}},
+                           .options = {apps::kInstrumentOption},
+                           .alsoShow = platform::ShowToStarter},
                           argument_count, arguments, [&](const apps::CommandLine& line) {
                             return Run(line, argument_count, arguments);
                           });
