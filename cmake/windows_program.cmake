@@ -1,5 +1,23 @@
-# veritane_windows_program(<target> [WINDOW]) gives a program its manifest and version on Windows, and takes the console
-# from one with a WINDOW. Does nothing elsewhere.
+# veritane_windows_program(<target> [WINDOW]) gives a program its manifest, version and icon on Windows, and takes the
+# console from one with a WINDOW. Does nothing elsewhere.
+if(WIN32)
+  find_program(VERITANE_RSVG_CONVERT rsvg-convert REQUIRED)
+  find_program(VERITANE_CONVERT convert REQUIRED)
+  set(VERITANE_ICON ${CMAKE_BINARY_DIR}/veritane.ico)
+  set(drawing ${CMAKE_SOURCE_DIR}/packaging/linux/veritane.svg)
+  set(pictures)
+  set(draw_pictures)
+  foreach(size 16 24 32 48 64 128 256)
+    set(picture ${CMAKE_BINARY_DIR}/veritane-${size}.png)
+    list(APPEND pictures ${picture})
+    list(APPEND draw_pictures COMMAND ${VERITANE_RSVG_CONVERT} --width ${size} --height ${size} --output ${picture}
+                              ${drawing})
+  endforeach()
+  add_custom_command(OUTPUT ${VERITANE_ICON} BYPRODUCTS ${pictures} ${draw_pictures}
+                     COMMAND ${VERITANE_CONVERT} ${pictures} ${VERITANE_ICON} DEPENDS ${drawing} VERBATIM)
+  add_custom_target(veritane_icon DEPENDS ${VERITANE_ICON})
+endif()
+
 function(veritane_windows_program TARGET)
   cmake_parse_arguments(PROGRAM "WINDOW" "" "" ${ARGN})
   if(NOT WIN32)
@@ -8,6 +26,8 @@ function(veritane_windows_program TARGET)
   set(resources ${CMAKE_CURRENT_BINARY_DIR}/${TARGET}.rc)
   configure_file(${CMAKE_SOURCE_DIR}/packaging/windows/program.rc.in ${resources} @ONLY)
   target_sources(${TARGET} PRIVATE ${resources})
+  set_source_files_properties(${resources} PROPERTIES OBJECT_DEPENDS ${VERITANE_ICON})
+  add_dependencies(${TARGET} veritane_icon)
   if(PROGRAM_WINDOW)
     set_target_properties(${TARGET} PROPERTIES WIN32_EXECUTABLE TRUE)
     set_source_files_properties(${resources} PROPERTIES COMPILE_DEFINITIONS VERITANE_WITH_TOOLKIT)

@@ -5,6 +5,7 @@
 #include <wx/display.h>
 #include <wx/frame.h>
 #include <wx/gauge.h>
+#include <wx/iconbndl.h>
 #include <wx/panel.h>
 
 #include <algorithm>
@@ -54,6 +55,10 @@ FormWindow::FormWindow(Form& form, ActionGate& gate, wxWindow* main_window)
       root_(new wxPanel(window_)),
       alive_(std::make_shared<FormWindow*>(this)) {
   window_->SetName(ToWx(form.Name()));
+#ifdef __WXMSW__
+  // Elsewhere the desktop knows the program's icon; here it is in the program itself.
+  window_->SetIcons(wxIconBundle("VERITANE", nullptr));
+#endif
   BuildControls();
   window_->Bind(wxEVT_CLOSE_WINDOW, &FormWindow::OnClose, this);
   window_->Bind(wxEVT_CHILD_FOCUS, &FormWindow::OnChildFocus, this);
