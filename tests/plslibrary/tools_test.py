@@ -1,4 +1,6 @@
-"""veritane-calibrate and veritane-predict through their command lines: tools_test.py PROGRAMS DATA"""
+"""veritane-calibrate and veritane-predict through their command lines: tools_test.py PROGRAMS DATA [LAUNCHER]
+
+With a LAUNCHER the programs are those of Windows, which it starts."""
 import csv
 import json
 import math
@@ -9,6 +11,8 @@ import tempfile
 import unittest
 
 PROGRAMS, DATA = (pathlib.Path(argument).resolve() for argument in sys.argv[1:3])
+LAUNCHER = sys.argv[3:4]
+SUFFIX = ".exe" if LAUNCHER else ""
 GASOLINE = DATA / "pls" / "gasoline_nir.csv"
 
 
@@ -35,7 +39,7 @@ class Tools(unittest.TestCase):
         self.folder = pathlib.Path(folder.name)
 
     def run_tool(self, name, *arguments, status=0):
-        done = subprocess.run([PROGRAMS / name, *map(str, arguments)], cwd=self.folder, capture_output=True,
+        done = subprocess.run([*LAUNCHER, PROGRAMS / (name + SUFFIX), *map(str, arguments)], cwd=self.folder, capture_output=True,
                               encoding="utf-8")
         self.assertEqual(done.returncode, status, done.stderr)
         return done
