@@ -30,6 +30,8 @@ list(TRANSFORM veritane_pkgconfig APPEND /lib/pkgconfig)
 list(JOIN veritane_pkgconfig ":" veritane_pkgconfig)
 set(ENV{PKG_CONFIG_LIBDIR} ${veritane_pkgconfig})
 set(PKG_CONFIG_ARGN --static)
+# The library that the PDF library needs is looked for by name, and its DLL would be found first.
+set(pkgcfg_lib_cairo_z /usr/${veritane_host}/lib/libz.a CACHE FILEPATH "zlib, linked in" FORCE)
 file(GLOB wxWidgets_CONFIG_EXECUTABLE
      ${CMAKE_CURRENT_LIST_DIR}/../../build/windows/libraries-${veritane_architecture}/wxwidgets/bin/wx-config)
 
