@@ -28,6 +28,7 @@ VIAddVersionKey LegalCopyright "Licensed under the Apache License 2.0"
 !define UNINSTALL_KEY "Software\Microsoft\Windows\CurrentVersion\Uninstall\Veritane"
 !define MENU "$SMPROGRAMS\Veritane"
 
+!define MUI_ICON "${BUILD}/veritane.ico"
 !define MUI_ABORTWARNING
 !insertmacro MUI_PAGE_WELCOME
 !insertmacro MUI_PAGE_LICENSE "../../LICENSE"
@@ -72,6 +73,10 @@ Section "Veritane"
     File "${BUILD}/bin/PLSIQP32.DLL"
     WriteRegDWORD HKLM "${UNINSTALL_KEY}" "OwnLibrary" 1
   ${EndIf}
+  ; Users may not write beside the programs: what these write there, they write into the data folder.
+  FileOpen $0 "$INSTDIR\program_folder" w
+  FileWrite $0 "$APPDATA\Kestrova\Veritane$\r$\n"
+  FileClose $0
   WriteUninstaller "$INSTDIR\uninstall.exe"
 
   CreateDirectory "${MENU}"
@@ -124,6 +129,7 @@ Section "Uninstall"
     Delete "$INSTDIR\PLSIQP32.DLL"
   ${EndIf}
   Delete "$INSTDIR\LICENSE.txt"
+  Delete "$INSTDIR\program_folder"
   Delete "$INSTDIR\uninstall.exe"
   ; Only when nothing else lies there.
   RMDir "$INSTDIR"
