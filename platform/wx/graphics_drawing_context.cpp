@@ -24,11 +24,12 @@ wxString InstalledFace(const wxFont& font) {
   static std::map<wxString, wxString> known;
   wxString& installed = known[font.GetFaceName()];
   if (!installed.empty()) return installed;
+  // In the list itself: the toolkit's own answer takes those names for fonts.
+  const wxArrayString all = wxFontEnumerator::GetFacenames();
   for (const wxString& face :
        {font.GetFaceName(), wxString("Segoe UI"), wxString("Tahoma"), wxString("DejaVu Sans")}) {
-    if (wxFontEnumerator::IsValidFacename(face)) return installed = face;
+    if (all.Index(face, false) != wxNOT_FOUND) return installed = face;
   }
-  const wxArrayString all = wxFontEnumerator::GetFacenames();
   return installed = all.empty() ? font.GetFaceName() : all.front();
 }
 
