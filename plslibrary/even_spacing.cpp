@@ -7,7 +7,7 @@
 
 namespace veritane::plslibrary {
 
-void RequireLimits(double first_x, double last_x, std::size_t points, const std::string& what) {
+void RequireLimits(double first_x, double last_x, std::uint64_t points, const std::string& what) {
   if (points == 0) throw SpectrumReadError(what + "there are no points");
   // The distance overflows where both limits are finite but absurd.
   if (!std::isfinite(first_x) || !std::isfinite(last_x) || !std::isfinite(last_x - first_x)) {

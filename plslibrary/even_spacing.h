@@ -1,6 +1,7 @@
 // Spectra that come with an x for every point are taken only when the points are evenly spaced.
 #pragma once
 
+#include <cstdint>
 #include <span>
 #include <string>
 
@@ -15,6 +16,6 @@ inline constexpr double kSpacingTolerance = 0.05;
 void RequireEvenSpacing(std::span<const double> x, const std::string& what);
 
 // The same for a spectrum that is given by its first and last x alone.
-void RequireLimits(double first_x, double last_x, std::size_t points, const std::string& what);
+void RequireLimits(double first_x, double last_x, std::uint64_t points, const std::string& what);
 
 }  // namespace veritane::plslibrary
