@@ -16,7 +16,7 @@ const std::string* TextTable::Find(int id) const {
 
 const std::string& TextTable::At(int id) const {
   const std::string* const text = Find(id);
-  if (text == nullptr) throw RunTimeError(ErrorNumber::kInvalidCall, "text " + std::to_string(id));
+  if (text == nullptr) throw RunTimeError(ErrorNumber::kInvalidCall, std::to_string(id));
   return *text;
 }
 

@@ -12,6 +12,7 @@
 #include "platform/system/common_controls.h"
 #include "platform/system/native_path.h"
 #include "platform/system/starter_message.h"
+#include "platform/texts.h"
 #include "platform/wx/wx_user_interface.h"
 #include "shell/frm_veritane.h"
 
@@ -66,8 +67,8 @@ int Run(const apps::CommandLine& line, int argument_count, char** arguments) {
       program->main.Form_Load();
     } catch (const platform::RunTimeError& error) {
       screen.NoteError(error);
-      screen.ShowMessage({.text = "Veritane cannot start. " + std::string(error.what()),
-                          .title = "Veritane",
+      screen.ShowMessage({.text = platform::Text(platform::TextId::kCannotStart, {error.what()}),
+                          .title = platform::Text(platform::TextId::kProgramName),
                           .icon = platform::MessageIcon::kCritical});
       program->desktop.End(1);
     }

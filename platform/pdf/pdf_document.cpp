@@ -9,6 +9,7 @@
 
 #include "platform/pdf/cairo_drawing.h"
 #include "platform/run_time_error.h"
+#include "platform/texts.h"
 
 namespace veritane::platform {
 
@@ -37,7 +38,7 @@ cairo_status_t Append(void* bytes, const unsigned char* data, unsigned int lengt
 void RequirePage(PdfPageSize page) {
   for (const double side : {page.width, page.height}) {
     if (!(side >= 1 && side <= kLargestSide)) {
-      throw RunTimeError(ErrorNumber::kInvalidCall, "a page's sides are 1 to 14400 points long");
+      throw RunTimeError(ErrorNumber::kInvalidCall, Text(TextId::kPageSides));
     }
   }
 }
@@ -59,7 +60,7 @@ public:
   DrawingContext& Drawing() { return drawing_; }
 
   void NextPage() {
-    if (finished_) throw RunTimeError(ErrorNumber::kInvalidCall, "the document is finished");
+    if (finished_) throw RunTimeError(ErrorNumber::kInvalidCall, Text(TextId::kDocumentFinished));
     cairo_show_page(cairo_.get());
   }
 

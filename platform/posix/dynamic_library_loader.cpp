@@ -6,6 +6,7 @@
 #include <algorithm>
 
 #include "platform/run_time_error.h"
+#include "platform/texts.h"
 
 namespace veritane::platform {
 
@@ -16,7 +17,7 @@ namespace {
 // The reason that the last call gave, which names the file.
 std::string LastReason() {
   const char* reason = ::dlerror();
-  return reason == nullptr ? "unknown reason" : reason;
+  return reason == nullptr ? Text(TextId::kUnknownReason) : reason;
 }
 
 class SharedObject : public DynamicLibrary {
@@ -31,7 +32,7 @@ public:
   FunctionAddress Function(const std::string& name) const override {
     void* const address = ::dlsym(handle_, name.c_str());
     if (address == nullptr) {
-      throw RunTimeError(ErrorNumber::kFileNotFound, name + " in " + file_name_);
+      throw RunTimeError(ErrorNumber::kFileNotFound, Text(TextId::kNotInLibrary, {name, file_name_}));
     }
     return reinterpret_cast<FunctionAddress>(address);
   }

@@ -4,13 +4,15 @@
 
 #include "platform/run_time_error.h"
 #include "platform/system/system_clock.h"
+#include "platform/texts.h"
 
 namespace veritane::platform {
 
 DateTime LocalTimeOf(std::chrono::system_clock::time_point moment) {
   const std::time_t seconds = std::chrono::system_clock::to_time_t(moment);
   std::tm broken{};
-  if (::localtime_r(&seconds, &broken) == nullptr) throw RunTimeError(ErrorNumber::kOverflow, "the date");
+  if (::localtime_r(&seconds, &broken) == nullptr)
+    throw RunTimeError(ErrorNumber::kOverflow, Text(TextId::kDate));
   return {.year = broken.tm_year + 1900,
           .month = broken.tm_mon + 1,
           .day = broken.tm_mday,

@@ -6,6 +6,7 @@
 #include <ctime>
 
 #include "platform/run_time_error.h"
+#include "platform/texts.h"
 
 namespace veritane::platform {
 
@@ -14,7 +15,7 @@ public:
   explicit Locale(const std::string& name) : locale_(::newlocale(LC_ALL_MASK, name.c_str(), nullptr)) {
     if (locale_ == nullptr && name.empty()) locale_ = ::newlocale(LC_ALL_MASK, "C", nullptr);
     if (locale_ == nullptr) {
-      throw RunTimeError(ErrorNumber::kInvalidCall, "the locale \"" + name + "\" is not installed");
+      throw RunTimeError(ErrorNumber::kInvalidCall, Text(TextId::kNoLocale, {name}));
     }
   }
   ~Locale() { ::freelocale(locale_); }

@@ -1,6 +1,7 @@
 // A POSIX system has no automation between programs.
 #include "platform/automation.h"
 #include "platform/run_time_error.h"
+#include "platform/texts.h"
 
 namespace veritane::platform {
 
@@ -9,7 +10,7 @@ namespace {
 class NoAutomation : public Automation {
 public:
   std::shared_ptr<AutomationObject> Create(const std::string& prog_id) override {
-    throw RunTimeError(ErrorNumber::kCannotCreateObject, prog_id + ": this system has no automation");
+    throw RunTimeError(ErrorNumber::kCannotCreateObject, Text(TextId::kNoAutomation, {prog_id}));
   }
   // Without objects there is nothing to wait for.
   void SetWaiting(const AutomationWaiting&) override {}

@@ -8,6 +8,7 @@
 #include "platform/form.h"
 #include "platform/run_time_error.h"
 #include "platform/scripted/control_report.h"
+#include "platform/texts.h"
 
 namespace veritane::platform {
 
@@ -40,7 +41,7 @@ LineSource LinesOf(std::istream& stream) {
   return [&stream, is_first = true]() mutable -> std::optional<std::string> {
     std::string line;
     if (!std::getline(stream, line)) {
-      if (stream.bad()) throw RunTimeError(ErrorNumber::kDeviceError, "the script cannot be read");
+      if (stream.bad()) throw RunTimeError(ErrorNumber::kDeviceError, Text(TextId::kScriptUnreadable));
       return std::nullopt;
     }
     if (is_first && line.starts_with(kByteOrderMark)) line.erase(0, kByteOrderMark.size());

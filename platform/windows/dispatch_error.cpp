@@ -6,6 +6,7 @@
 #include <cstdio>
 
 #include "platform/automation.h"
+#include "platform/texts.h"
 #include "platform/windows/dispatch_value.h"
 #include "platform/windows/system_text.h"
 
@@ -61,27 +62,26 @@ std::string SystemText(HRESULT result) {
 }
 
 RunTimeError ErrorOfCall(HRESULT result, const std::string& member) {
-  const std::string place = member + ": ";
   if (MeansServerGone(result)) {
-    return {kServerGone, place + "the application was closed or has failed. " + SystemText(result)};
+    return {kServerGone, Text(TextId::kApplicationGone, {member, SystemText(result)})};
   }
   if (MeansServerBusy(result)) {
-    return {kAutomationError, place + "the application is busy. " + SystemText(result)};
+    return {kAutomationError, Text(TextId::kApplicationBusy, {member, SystemText(result)})};
   }
   switch (result) {
     case DISP_E_UNKNOWNNAME:
     case DISP_E_MEMBERNOTFOUND:
-      return {kNoSuchMember, "Object doesn't support this property or method: " + member};
+      return {kNoSuchMember, Text(TextId::kMemberMissing, {member})};
     case DISP_E_BADPARAMCOUNT:
     case DISP_E_PARAMNOTOPTIONAL:
-      return {kWrongArgumentCount, "Wrong number of arguments: " + member};
+      return {kWrongArgumentCount, Text(TextId::kArgumentCountWrong, {member})};
     case DISP_E_TYPEMISMATCH:
     case DISP_E_BADVARTYPE:
       return RunTimeError(ErrorNumber::kTypeMismatch, member);
     case DISP_E_OVERFLOW:
       return RunTimeError(ErrorNumber::kOverflow, member);
     default:
-      return {kAutomationError, "Automation error in " + member + ": " + SystemText(result)};
+      return {kAutomationError, Text(TextId::kAutomationFailed, {member, SystemText(result)})};
   }
 }
 
@@ -100,7 +100,7 @@ RunTimeError ReportedError(EXCEPINFO& reported, const std::string& member) {
   if (MeansServerGone(reported.scode) || MeansServerBusy(reported.scode))
     return ErrorOfCall(reported.scode, member);
   return {kAutomationError,
-          text.empty() ? "Automation error in " + member + ": " + SystemText(reported.scode) : text};
+          text.empty() ? Text(TextId::kAutomationFailed, {member, SystemText(reported.scode)}) : text};
 }
 
 HRESULT ResultOf(const RunTimeError& error) {

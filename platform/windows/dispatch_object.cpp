@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "platform/run_time_error.h"
+#include "platform/texts.h"
 #include "platform/windows/dispatch_error.h"
 #include "platform/windows/system_text.h"
 
@@ -19,7 +20,7 @@ public:
   IDispatch* Outgoing(const std::shared_ptr<AutomationObject>& object) override {
     const auto* const known = dynamic_cast<const DispatchObject*>(object.get());
     if (known == nullptr) {
-      throw RunTimeError(ErrorNumber::kTypeMismatch, "the object belongs to another application");
+      throw RunTimeError(ErrorNumber::kTypeMismatch, Text(TextId::kForeignObject));
     }
     known->Interface()->AddRef();
     return known->Interface();

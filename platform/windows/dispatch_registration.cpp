@@ -6,6 +6,7 @@
 
 #include "platform/automation_server.h"
 #include "platform/run_time_error.h"
+#include "platform/texts.h"
 #include "platform/windows/dispatch_error.h"
 #include "platform/windows/dispatch_value.h"
 #include "platform/windows/system_text.h"
@@ -71,8 +72,8 @@ LSTATUS DeleteAll(HKEY root, const ServedClass& served) {
 }
 
 [[noreturn]] void ThrowUnwritable(const Hive& hive, LSTATUS status) {
-  throw RunTimeError(kAutomationError, std::string("The registry below ") + hive.name +
-                                           " cannot be written: " + SystemText(HRESULT_FROM_WIN32(status)));
+  throw RunTimeError(kAutomationError,
+                     Text(TextId::kRegistryRefuses, {hive.name, SystemText(HRESULT_FROM_WIN32(status))}));
 }
 
 }  // namespace
@@ -81,8 +82,7 @@ void RegisterServer(const ServedClass& served, const std::string& command_line) 
   for (const Hive& hive : kHives) {
     const std::string owner = Read(hive.root, served.progId + "\\CLSID");
     if (!owner.empty() && owner != served.classId) {
-      throw RunTimeError(kAutomationError, served.progId + " belongs to another program (" + owner +
-                                               " below " + hive.name + ") and is left to it");
+      throw RunTimeError(kAutomationError, Text(TextId::kClassOfAnother, {served.progId, owner, hive.name}));
     }
   }
   if (WriteAll(kHives[0].root, served, command_line) == ERROR_SUCCESS) return;

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "platform/run_time_error.h"
+#include "platform/texts.h"
 #include "platform/windows/dispatch_error.h"
 #include "platform/windows/dispatch_value.h"
 #include "platform/windows/system_text.h"
@@ -57,13 +58,13 @@ class ServerExchange : public ObjectExchange {
 public:
   IDispatch* Outgoing(const std::shared_ptr<AutomationObject>& object) override {
     auto served = std::dynamic_pointer_cast<ServedObject>(object);
-    if (served == nullptr) throw RunTimeError(ErrorNumber::kTypeMismatch, "the object cannot be shown");
+    if (served == nullptr) throw RunTimeError(ErrorNumber::kTypeMismatch, Text(TextId::kObjectCannotBeShown));
     return ServeObject(std::move(served));
   }
   std::shared_ptr<AutomationObject> Incoming(IDispatch* dispatch) override {
     void* own = nullptr;
     if (FAILED(dispatch->QueryInterface(kServedObjectInterface, &own))) {
-      throw RunTimeError(ErrorNumber::kTypeMismatch, "the object belongs to another program");
+      throw RunTimeError(ErrorNumber::kTypeMismatch, Text(TextId::kForeignObject));
     }
     auto* const server = static_cast<DispatchServer*>(own);
     std::shared_ptr<AutomationObject> object = server->Object();

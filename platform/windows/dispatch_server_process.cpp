@@ -7,6 +7,7 @@
 
 #include "platform/automation_server.h"
 #include "platform/run_time_error.h"
+#include "platform/texts.h"
 #include "platform/windows/dispatch_error.h"
 #include "platform/windows/dispatch_server.h"
 #include "platform/windows/dispatch_value.h"
@@ -16,9 +17,9 @@ namespace veritane::platform {
 
 namespace {
 
-void Require(HRESULT result, const char* step) {
+void Require(HRESULT result, TextId step) {
   if (FAILED(result)) {
-    throw RunTimeError(kAutomationError, std::string(step) + ": " + SystemText(result));
+    throw RunTimeError(kAutomationError, Text(TextId::kErrorWithDetail, {Text(step), SystemText(result)}));
   }
 }
 
@@ -93,7 +94,7 @@ private:
 class WindowsAutomationServer : public AutomationServer {
 public:
   WindowsAutomationServer() {
-    Require(CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED), "Entering the system's automation");
+    Require(CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED), TextId::kEnteringAutomation);
     IMessageFilter* former = nullptr;
     CoRegisterMessageFilter(&gate_, &former);
     if (former != nullptr) former->Release();
@@ -105,11 +106,11 @@ public:
   void Serve(const ServedClass& served, std::shared_ptr<ServedObject> object,
              const std::function<void()>& ready) override {
     CLSID class_id{};
-    Require(CLSIDFromString(WideText(served.classId).c_str(), &class_id), "The class");
+    Require(CLSIDFromString(WideText(served.classId).c_str(), &class_id), TextId::kClass);
     ObjectFactory factory(std::move(object));
     DWORD registration = 0;
     Require(CoRegisterClassObject(class_id, &factory, CLSCTX_LOCAL_SERVER, REGCLS_MULTIPLEUSE, &registration),
-            "Offering the class");
+            TextId::kOfferingClass);
     ready();
     MSG message;
     while (GetMessageW(&message, nullptr, 0, 0) > 0) {

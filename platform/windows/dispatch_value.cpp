@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "platform/run_time_error.h"
+#include "platform/texts.h"
 
 namespace veritane::platform {
 
@@ -57,7 +58,7 @@ AutomationArray FromArray(SAFEARRAY* array, VARTYPE type, ObjectExchange& object
   LONG upper = -1;
   if (array == nullptr || SafeArrayGetDim(array) != 1 || FAILED(SafeArrayGetLBound(array, 1, &lower)) ||
       FAILED(SafeArrayGetUBound(array, 1, &upper))) {
-    throw RunTimeError(ErrorNumber::kTypeMismatch, "an automation array has more than one dimension");
+    throw RunTimeError(ErrorNumber::kTypeMismatch, Text(TextId::kArrayOfArrays));
   }
   const long long count = static_cast<long long>(upper) - lower + 1;
   AutomationArray result{lower, std::vector<double>(static_cast<std::size_t>(std::max(count, 0LL)))};
@@ -79,7 +80,7 @@ AutomationArray FromArray(SAFEARRAY* array, VARTYPE type, ObjectExchange& object
       CopyVariants(opened.Data(), objects, result.values);
       break;
     default:
-      throw RunTimeError(ErrorNumber::kTypeMismatch, "an automation array holds no numbers");
+      throw RunTimeError(ErrorNumber::kTypeMismatch, Text(TextId::kArrayWithoutNumbers));
   }
   return result;
 }
@@ -88,7 +89,7 @@ AutomationValue FromUnknown(IUnknown* unknown, ObjectExchange& objects) {
   if (unknown == nullptr) return std::shared_ptr<AutomationObject>();
   void* dispatch = nullptr;
   if (FAILED(unknown->QueryInterface(IID_IDispatch, &dispatch))) {
-    throw RunTimeError(ErrorNumber::kTypeMismatch, "an object has no automation interface");
+    throw RunTimeError(ErrorNumber::kTypeMismatch, Text(TextId::kNoAutomationInterface));
   }
   auto* const found = static_cast<IDispatch*>(dispatch);
   std::shared_ptr<AutomationObject> object = objects.Incoming(found);
@@ -102,7 +103,7 @@ AutomationValue AsText(const VARIANT& variant) {
   VARIANT source = variant;  // the system asks for one that it might change, and does not
   if (FAILED(VariantChangeType(text.Get(), &source, 0, VT_BSTR))) {
     throw RunTimeError(ErrorNumber::kTypeMismatch,
-                       "an automation value of type " + std::to_string(V_VT(&variant)) + " is of no use");
+                       Text(TextId::kUselessAutomationValue, {std::to_string(V_VT(&variant))}));
   }
   return Utf8Text({V_BSTR(text.Get()), SysStringLen(V_BSTR(text.Get()))});
 }

@@ -5,6 +5,7 @@
 
 #include "platform/run_time_error.h"
 #include "platform/system/native_path.h"
+#include "platform/texts.h"
 #include "platform/windows/system_text.h"
 
 namespace veritane::platform {
@@ -15,7 +16,7 @@ namespace {
 
 std::string ReasonOf(DWORD code) {
   const std::string words = SystemWords(code);
-  return words.empty() ? "error " + std::to_string(code) : words;
+  return words.empty() ? Text(TextId::kErrorOfSystem, {std::to_string(code)}) : words;
 }
 
 class LoadedDll : public DynamicLibrary {
@@ -29,7 +30,8 @@ public:
 
   FunctionAddress Function(const std::string& name) const override {
     const FARPROC address = ::GetProcAddress(handle_, name.c_str());
-    if (address == nullptr) throw RunTimeError(ErrorNumber::kFileNotFound, name + " in " + file_name_);
+    if (address == nullptr)
+      throw RunTimeError(ErrorNumber::kFileNotFound, Text(TextId::kNotInLibrary, {name, file_name_}));
     return reinterpret_cast<FunctionAddress>(address);
   }
 

@@ -3,6 +3,7 @@
 
 #include "platform/run_time_error.h"
 #include "platform/system/system_clock.h"
+#include "platform/texts.h"
 
 namespace veritane::platform {
 
@@ -49,7 +50,7 @@ DateTime LocalTimeOf(std::chrono::system_clock::time_point moment) {
   const TIME_ZONE_INFORMATION rules = RulesOf(universal.wYear);
   SYSTEMTIME local;
   if (!::SystemTimeToTzSpecificLocalTime(&rules, &universal, &local)) {
-    throw RunTimeError(ErrorNumber::kOverflow, "the date");
+    throw RunTimeError(ErrorNumber::kOverflow, Text(TextId::kDate));
   }
   return DateTimeOf(local);
 }
@@ -59,7 +60,7 @@ std::chrono::system_clock::time_point MomentOf(const DateTime& local) {
   const TIME_ZONE_INFORMATION rules = RulesOf(time.wYear);
   SYSTEMTIME universal;
   if (!::TzSpecificLocalTimeToSystemTime(&rules, &time, &universal)) {
-    throw RunTimeError(ErrorNumber::kOverflow, "the date");
+    throw RunTimeError(ErrorNumber::kOverflow, Text(TextId::kDate));
   }
   return std::chrono::system_clock::time_point(std::chrono::seconds(WallClockSeconds(DateTimeOf(universal))));
 }

@@ -105,7 +105,7 @@ private:
 
 AutomationThread::AutomationThread(ShowWaiting show) {
   if (FAILED(CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED))) {
-    throw RunTimeError(kAutomationError, "Automation error: the system lets this thread make no calls");
+    throw RunTimeError(kAutomationError, Text(TextId::kNoAutomationThread));
   }
   filter_ = new MessageFilter(std::move(show));
   IMessageFilter* former = nullptr;

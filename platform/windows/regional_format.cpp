@@ -7,6 +7,7 @@
 #include <array>
 
 #include "platform/run_time_error.h"
+#include "platform/texts.h"
 #include "platform/windows/system_text.h"
 
 namespace veritane::platform {
@@ -39,7 +40,7 @@ public:
   explicit Locale(const std::string& name) : is_plain_(name == "C"), name_(WindowsName(name)) {
     if (is_plain_ || name.empty()) return;
     if (!::IsValidLocaleName(name_.c_str())) {
-      throw RunTimeError(ErrorNumber::kInvalidCall, "the locale \"" + name + "\" is not installed");
+      throw RunTimeError(ErrorNumber::kInvalidCall, Text(TextId::kNoLocale, {name}));
     }
   }
 
@@ -74,7 +75,7 @@ private:
 
   // The length counts the closing NUL and is 0 for a date that the system cannot write.
   static std::string Checked(const wchar_t* text, int length) {
-    if (length <= 0) throw RunTimeError(ErrorNumber::kInvalidCall, "the date cannot be written");
+    if (length <= 0) throw RunTimeError(ErrorNumber::kInvalidCall, Text(TextId::kDateUnwritable));
     return Utf8Text({text, static_cast<std::size_t>(length - 1)});
   }
 

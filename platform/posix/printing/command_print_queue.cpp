@@ -13,6 +13,7 @@
 #include <vector>
 
 #include "platform/run_time_error.h"
+#include "platform/texts.h"
 
 namespace veritane::platform {
 
@@ -30,7 +31,7 @@ File NamelessFile(std::string_view bytes) {
   const bool written = file != nullptr &&
                        std::fwrite(bytes.data(), 1, bytes.size(), file.get()) == bytes.size() &&
                        std::fflush(file.get()) == 0 && std::fseek(file.get(), 0, SEEK_SET) == 0;
-  if (!written) throw RunTimeError(ErrorNumber::kDeviceError, "no temporary file for the printer");
+  if (!written) throw RunTimeError(ErrorNumber::kDeviceError, Text(TextId::kNoPrintFile));
   return file;
 }
 
@@ -101,9 +102,9 @@ bool CommandPrintQueue::HasPrinter() const {
 void CommandPrintQueue::Submit(const std::string& pdf, const std::string& title) {
   // The queue's own paper may be another than ours.
   const std::optional<Outcome> outcome = RunCommand({lp_, "-t", title, "-o", "fit-to-page", "-"}, pdf);
-  if (!outcome) throw RunTimeError(ErrorNumber::kDeviceError, "the command " + lp_ + " cannot be run");
+  if (!outcome) throw RunTimeError(ErrorNumber::kDeviceError, Text(TextId::kNoPrintCommand, {lp_}));
   if (outcome->status == 0) return;
-  throw RunTimeError(ErrorNumber::kDeviceError, "the printer did not take the print. " + outcome->output);
+  throw RunTimeError(ErrorNumber::kDeviceError, Text(TextId::kPrintCommandRefuses, {outcome->output}));
 }
 
 }  // namespace veritane::platform

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "platform/run_time_error.h"
+#include "platform/texts.h"
 #include "platform/windows/printing/device_pages.h"
 #include "platform/windows/system_text.h"
 
@@ -17,7 +18,7 @@ namespace veritane::platform {
 namespace {
 
 [[noreturn]] void RaisePrinterError(const std::wstring& name) {
-  throw RunTimeError(ErrorNumber::kDeviceError, "the printer " + Utf8Text(name) + " did not take the print");
+  throw RunTimeError(ErrorNumber::kDeviceError, Text(TextId::kPrinterRefuses, {Utf8Text(name)}));
 }
 
 // The printer's settings, with the paper as the document wants it. Empty when the driver gives none.
