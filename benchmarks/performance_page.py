@@ -1,8 +1,10 @@
 #!/usr/bin/python3
 """Writes docs/performance.md from the results of the benchmarks, of numpy_comparison.py, of
-reprocess_benchmark.py, of pls_comparison.py, of load_benchmark.py and of opening_time.
+reprocess_benchmark.py, of pls_comparison.py, of load_benchmark.py, of opening_time and of
+start_benchmark.py.
 
-    performance_page.py BENCHMARKS.json NUMPY.json REPROCESS.json PLS.json LOAD.json OPENING.json COMPILER PAGE
+    performance_page.py BENCHMARKS.json NUMPY.json REPROCESS.json PLS.json LOAD.json OPENING.json START.json \
+        COMPILER PAGE
 """
 import json
 import math
@@ -104,6 +106,20 @@ def load_lines(results):
     ]
 
 
+def start_lines(results):
+    """The section on the start of the program with its window."""
+    return [
+        "## Start", "",
+        f"Wall time from the command to the operator's menu, drawn and waiting, of {results['starts']} starts in "
+        f"demonstration mode; goals: below 0.3 s, and below 80 MB. Load average before the run: {results['load']}.", "",
+        "| | |", "|---|---:|",
+        f"| Start, median | {results['median_ms']:.3g} ms |",
+        f"| Start, longest | {results['longest_ms']:.3g} ms |",
+        f"| Of it computing | {results['computing_ms']:.3g} ms |",
+        f"| The most memory | {results['memory_mb']:.0f} MB |", "",
+    ]
+
+
 def opening_lines(results):
     """The section on a long product table in the window."""
     lines = [
@@ -125,7 +141,8 @@ def main():
     pls = json.loads(pathlib.Path(sys.argv[4]).read_text())
     load = json.loads(pathlib.Path(sys.argv[5]).read_text())
     opening = json.loads(pathlib.Path(sys.argv[6]).read_text())
-    compiler, page = sys.argv[7], pathlib.Path(sys.argv[8])
+    start = json.loads(pathlib.Path(sys.argv[7]).read_text())
+    compiler, page = sys.argv[8], pathlib.Path(sys.argv[9])
 
     times, rates, qualities, pls_results = {}, {}, set(), {}
     for run in benchmarks["benchmarks"]:
@@ -169,7 +186,8 @@ def main():
         f"regions and correlate it with the Standard; both find {numpy['quality']} %. The program takes "
         f"{euclidean[0] / numpy['best_ns']:.2f} of numpy's time (best runs).", "",
         "Times are processor time over repetitions of one run each; documents and tables are in memory.", "",
-    ] + pls_lines(times, pls) + reprocessing_lines(reprocess) + load_lines(load) + opening_lines(opening)
+    ] + pls_lines(times, pls) + reprocessing_lines(reprocess) + load_lines(load) + opening_lines(opening) + \
+        start_lines(start)
     page.write_text("\n".join(lines), encoding="utf-8")
 
 

@@ -1,6 +1,7 @@
 // The wxWidgets application around the program.
 #include <wx/app.h>
 #include <wx/log.h>
+#include <wx/utils.h>
 
 #include <cstdio>
 #include <memory>
@@ -56,6 +57,9 @@ private:
 }  // namespace
 
 int RunInWindow(int argc, char** argv, PathMapping paths, std::function<void(WxUserInterface&)> start) {
+  // GTK would load a whole graphics driver, half of the program's memory, in which nothing is ever drawn.
+  // Other toolkits do not know the word.
+  if (!wxGetEnv("GDK_GL", nullptr)) wxSetEnv("GDK_GL", "disable");
   wxApp::SetInstance(new WindowApplication(std::move(paths), std::move(start)));
   return wxEntry(argc, argv);
 }
