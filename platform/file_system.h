@@ -11,7 +11,8 @@
 
 namespace veritane::platform {
 
-// A file that stays open for appending. Each call is one write, so a failure leaves no half line.
+// A file that stays open for appending. Each call is one write, so a failure leaves no half line. One that
+// was deleted or renamed meanwhile is made anew, so that nothing goes where nobody finds it.
 class AppendingFile {
 public:
   virtual ~AppendingFile() = default;
@@ -26,7 +27,8 @@ public:
 };
 
 // All operations raise RunTimeError 52 for a path that names nothing, 53 for a missing file, 76 for a missing
-// folder, 70 or 75 where access is refused, 61 for a full disk, 57 for a device fault.
+// folder, 70 or 75 where access is refused, 61 for a full disk, 57 for a device fault, 71 for a
+// network drive that is gone.
 class FileSystem {
 public:
   virtual ~FileSystem() = default;
@@ -48,6 +50,9 @@ public:
   virtual std::unique_ptr<TakenFile> TakeFile(const std::string& path) = 0;
 
   virtual void DeleteFile(const std::string& path) = 0;
+  // Removes what WriteBytes of programs that were killed left unfinished in the folder, as far as that is
+  // possible: it is in nobody's way. What another program is writing stays.
+  virtual void ClearUnfinished(const std::string& folder) = 0;
   // Renames within a volume; error 58 when `to` exists.
   virtual void MoveFile(const std::string& from, const std::string& to) = 0;
 

@@ -25,7 +25,7 @@ class ShellFolders {
 public:
   virtual ~ShellFolders() = default;
   // The common application data folder, or "" when the system has none. With `create` it is made when
-  // missing.
+  // missing. One that cannot be looked at is an error (57, 70, 71).
   virtual std::string CommonApplicationData(bool create) const = 0;
   // The folder of the running program.
   virtual std::string ProgramFolder() const = 0;

@@ -94,7 +94,8 @@ private:
   void CreateSpectrometerObject();
   // The run log; opened when it is not open yet.
   platform::AppendingFile& Log();
-  bool TakeDataFolder(const std::string& data_folder);
+  std::optional<std::string> TakeDataFolder();
+  void ClearUnfinishedFiles();
   bool LoadCalibrationMethod();
   void Calibrate();
   void FillAlgorithmLists();
@@ -103,6 +104,7 @@ private:
   void SaveSettings();
   void ApplySettings();
   void LoadMethods();
+  void SettlePendingProduct();
   review::Reprocessing Reprocess();
   void TurnBackTo(TabPage page);
   bool SupervisorMayEnter();

@@ -31,12 +31,9 @@ void IgnoringErrors(Step step) {
 
 void FrmVeritane::Form_Load() {
   state_.folderSet = state::ChooseFolderSet(machine_.registry);
-  const std::string common = machine_.folders.CommonApplicationData(false);
-  if (common.empty())
-    Screen().ShowMessage({.text = Text(TextId::kNoApplicationData), .title = Text(TextId::kProgramName)});
-  const std::string data_folder = state::DataFolderBelow(common);
-  if (!TakeDataFolder(data_folder)) return;
-  state::MakeTablesConcrete(machine_.files, state_.folderSet, data_folder);
+  const std::optional<std::string> data_folder = TakeDataFolder();
+  if (!data_folder) return;
+  state::MakeTablesConcrete(machine_.files, state_.folderSet, *data_folder);
   LoadScreenTexts(dialogs_, *this);
   PrepareGrid();
   Screen().AttachForms();
@@ -48,6 +45,7 @@ void FrmVeritane::Form_Load() {
   Screen().ProcessPendingEvents();
   CreateSpectrometerObject();
   state_.folders = state::SetUpFolders(machine_.folders, machine_.files, state_.folderSet);
+  ClearUnfinishedFiles();
   state_.formStartup = 1;
   LoadSettings();
   Log();
@@ -63,17 +61,34 @@ void FrmVeritane::Form_Load() {
   Screen().SetMousePointer(Pointer::kDefault);
 }
 
-// Two programs on the same files would write over what the other one filed. False when the program has ended
-// because of that.
-bool FrmVeritane::TakeDataFolder(const std::string& data_folder) {
-  if (!machine_.files.FolderExists(data_folder)) return true;
-  data_folder_lock_ = machine_.files.TakeFile(data_folder + "veritane.lock");
-  if (data_folder_lock_ != nullptr) return true;
+// The data folder, for this program alone. Two programs on the same files would write over what the other one
+// filed; nothing when the program has ended because of that.
+std::optional<std::string> FrmVeritane::TakeDataFolder() {
+  std::string data_folder;
+  try {
+    const std::string common = machine_.folders.CommonApplicationData(false);
+    if (common.empty())
+      Screen().ShowMessage({.text = Text(TextId::kNoApplicationData), .title = Text(TextId::kProgramName)});
+    data_folder = state::DataFolderBelow(common);
+    if (!machine_.files.FolderExists(data_folder)) return data_folder;
+    data_folder_lock_ = machine_.files.TakeFile(data_folder + "veritane.lock");
+  } catch (const platform::RunTimeError& error) {
+    throw platform::RunTimeError(error.Number(), Text(TextId::kDataFolderUnusable, {error.what()}));
+  }
+  if (data_folder_lock_ != nullptr) return data_folder;
   Screen().ShowMessage({.text = Text(TextId::kRunningAlready, {data_folder}),
                         .title = Text(TextId::kProgramName),
                         .icon = MessageIcon::kCritical});
   Screen().End(1);
-  return false;
+  return std::nullopt;
+}
+
+// What a program that was killed left of its writing.
+void FrmVeritane::ClearUnfinishedFiles() {
+  for (const std::string& folder :
+       {state_.folders.appDir, state_.folders.stdsDir, state_.folders.sampDir, PrintFolder()}) {
+    machine_.files.ClearUnfinished(folder);
+  }
 }
 
 // Placeholders until the product table is loaded.

@@ -37,6 +37,16 @@ namespace {
     case ENAMETOOLONG:
     case EINVAL:
       throw RunTimeError(ErrorNumber::kBadFileNumber, path);
+    // A network drive that is gone, which is another matter than a disk that fails.
+    case ESTALE:
+    case ENOTCONN:
+    case EHOSTDOWN:
+    case EHOSTUNREACH:
+    case ENETUNREACH:
+    case ETIMEDOUT:
+    case ENODEV:
+    case ENXIO:
+      throw RunTimeError(ErrorNumber::kDiskNotReady, path);
     default:
       throw RunTimeError(ErrorNumber::kDeviceError, path);
   }
@@ -87,10 +97,13 @@ std::optional<NativeFile> NativeFile::OpenAlone(const fs::path& native, const st
 }
 
 NativeFile NativeFile::CreateBeside(const fs::path& native, const std::string& path) {
-  std::string temporary = native.string() + ".XXXXXX";
-  const int descriptor = ::mkostemp(temporary.data(), O_CLOEXEC);
+  const std::string_view ending = kUnfinished;
+  std::string temporary = (native.string() + ".XXXXXX").append(ending);
+  const int descriptor = ::mkostemps(temporary.data(), static_cast<int>(ending.size()), O_CLOEXEC);
   if (descriptor < 0) RaiseWriteError(errno, native, path);
   NativeFile file(descriptor, temporary, path);
+  // The lock goes with the program, however it ends. Where there are no locks, nobody clears up either.
+  (void)::flock(descriptor, LOCK_EX | LOCK_NB);
   // The name came with rights for its owner alone; the file is to have those of any new file.
   const mode_t mask = ::umask(0);
   ::umask(mask);
@@ -140,6 +153,13 @@ std::int64_t NativeFile::Size() {
   return StatusOf(static_cast<int>(handle_), path_).st_size;
 }
 
+bool NativeFile::IsInPlace() const {
+  struct stat mine {};
+  struct stat there {};
+  return ::fstat(static_cast<int>(handle_), &mine) == 0 && ::stat(native_.c_str(), &there) == 0 &&
+         there.st_dev == mine.st_dev && there.st_ino == mine.st_ino;
+}
+
 void NativeFile::CutTo(std::int64_t size) {
   if (::ftruncate(static_cast<int>(handle_), size) != 0) RaiseSystemError(errno, path_);
 }
@@ -160,6 +180,17 @@ void NativeFile::Flush() {
 void NativeFile::Close() {
   const int descriptor = static_cast<int>(std::exchange(handle_, -1));
   if (::close(descriptor) != 0) RaiseSystemError(errno, path_);
+}
+
+void RaiseLookError(const std::error_code& error, const std::string& path) {
+  RaiseSystemError(error.value(), path);
+}
+
+void RemoveAbandoned(const fs::path& native) {
+  const int descriptor = ::open(native.c_str(), O_RDWR | O_NOFOLLOW | O_CLOEXEC);
+  if (descriptor < 0) return;
+  if (::flock(descriptor, LOCK_EX | LOCK_NB) == 0) (void)::unlink(native.c_str());
+  ::close(descriptor);
 }
 
 void CreateFolderAt(const fs::path& native, const std::string& path) {

@@ -20,11 +20,7 @@ std::unique_ptr<Registry> SystemRegistry(const PathMap& paths) {
 }
 
 std::string SystemShellFolders::CommonApplicationData(bool create) const {
-  const std::string folder = "C:\\ProgramData";
-  const fs::path native = paths_.ToNative(folder);
-  std::error_code error;
-  if (create) fs::create_directories(native, error);
-  return fs::is_directory(native, error) ? folder : "";
+  return ProgramDataBelowRoot(create);
 }
 
 std::optional<std::string> SystemUserAccount::LoggedOnUser() const {

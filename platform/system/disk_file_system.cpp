@@ -46,33 +46,43 @@ private:
 class DiskAppendingFile : public AppendingFile {
 public:
   DiskAppendingFile(const fs::path& native, const std::string& path, const Clock& clock)
-      : path_(path), clock_(clock), file_(NativeFile::OpenToAppend(native, path)) {}
+      : native_(native), path_(path), clock_(clock) {
+    Open();
+  }
 
   void Append(std::string_view bytes) override {
-    const std::int64_t before = file_.Size();
+    if (!file_ || !file_->IsInPlace()) Open();
+    const std::int64_t before = file_->Size();
     // What is appended begins a line, also where a program was stopped in the middle of the one before.
     const std::string lines = (IsTorn(before) ? std::string(kLineEnd) : "").append(bytes);
     try {
-      file_.Write(lines);
-      file_.Flush();
+      file_->Write(lines);
+      file_->Flush();
     } catch (const RunTimeError&) {
       // Half a line is worse than none: take back what a full disk let through.
-      file_.CutTo(before);
+      file_->CutTo(before);
       throw;
     }
-    file_.Stamp(clock_.Now());
-    if (before == 0) FlushFolder(file_.Native().parent_path(), path_);
+    file_->Stamp(clock_.Now());
+    if (before == 0) FlushFolder(native_.parent_path(), path_);
   }
 
 private:
-  // Whether the last line has no line end.
-  bool IsTorn(std::int64_t size) const {
-    return size > 0 && NativeFile::OpenToRead(file_.Native(), path_).ReadFrom(size - 1) != "\n";
+  // Closed first: Windows gives a deleted file's name away only then.
+  void Open() {
+    file_.reset();
+    file_.emplace(NativeFile::OpenToAppend(native_, path_));
   }
 
+  // Whether the last line has no line end.
+  bool IsTorn(std::int64_t size) const {
+    return size > 0 && NativeFile::OpenToRead(native_, path_).ReadFrom(size - 1) != "\n";
+  }
+
+  const fs::path native_;
   const std::string path_;
   const Clock& clock_;
-  NativeFile file_;
+  std::optional<NativeFile> file_;
 };
 
 class DiskTakenFile : public TakenFile {
@@ -92,11 +102,7 @@ fs::file_status KindOf(const fs::path& native, const std::string& path) {
   if (error == std::errc::filename_too_long || error == std::errc::invalid_argument) {
     return fs::file_status(fs::file_type::not_found);
   }
-  if (status.type() == fs::file_type::none) {
-    throw RunTimeError(
-        error == std::errc::permission_denied ? ErrorNumber::kPermissionDenied : ErrorNumber::kDeviceError,
-        path);
-  }
+  if (status.type() == fs::file_type::none) RaiseLookError(error, path);
   return status;
 }
 
@@ -135,6 +141,14 @@ std::unique_ptr<AppendingFile> DiskFileSystem::OpenForAppending(const std::strin
 std::unique_ptr<TakenFile> DiskFileSystem::TakeFile(const std::string& path) {
   std::optional<NativeFile> file = NativeFile::OpenAlone(paths_.ToNative(path), path);
   return file ? std::make_unique<DiskTakenFile>(std::move(*file)) : nullptr;
+}
+
+void DiskFileSystem::ClearUnfinished(const std::string& folder) {
+  std::error_code error;
+  for (fs::directory_iterator it(paths_.ToNative(folder), error), end; !error && it != end;
+       it.increment(error)) {
+    if (IsNameOfUnfinished(it->path().filename())) RemoveAbandoned(it->path());
+  }
 }
 
 void DiskFileSystem::DeleteFile(const std::string& path) {

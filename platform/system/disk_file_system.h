@@ -19,6 +19,7 @@ public:
   void WriteBytes(const std::string& path, std::string_view bytes) override;
   std::unique_ptr<AppendingFile> OpenForAppending(const std::string& path) override;
   std::unique_ptr<TakenFile> TakeFile(const std::string& path) override;
+  void ClearUnfinished(const std::string& folder) override;
   void DeleteFile(const std::string& path) override;
   void MoveFile(const std::string& from, const std::string& to) override;
   DateTime LastModified(const std::string& path) const override;

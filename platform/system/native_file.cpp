@@ -1,9 +1,26 @@
 // What an open file is made of, on every system.
 #include "platform/system/native_file.h"
 
+#include <algorithm>
 #include <utility>
 
+#include "platform/system/native_path.h"
+
 namespace veritane::platform {
+
+namespace {
+
+constexpr std::string_view kLettersAndDigits =
+    "-0123456789ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz";
+
+}  // namespace
+
+// "Meth.tbl.Xa81cK.unfinished"
+bool IsNameOfUnfinished(const std::filesystem::path& name) {
+  const std::string unique = Utf8Of(name.stem().extension());
+  return Utf8Of(name.extension()) == kUnfinished && unique.size() > 1 &&
+         unique.find_first_not_of(kLettersAndDigits, 1) == std::string::npos && !name.stem().stem().empty();
+}
 
 NativeFile::NativeFile(Handle handle, std::filesystem::path native, std::string path)
     : handle_(handle), native_(std::move(native)), path_(std::move(path)) {}

@@ -8,6 +8,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <system_error>
 
 namespace veritane::platform {
 
@@ -19,7 +20,8 @@ public:
   static NativeFile OpenToAppend(const std::filesystem::path& native, const std::string& path);
   // For this program alone, created where it is missing; nothing while another program has it.
   static std::optional<NativeFile> OpenAlone(const std::filesystem::path& native, const std::string& path);
-  // A new file beside `native`, under a name that nothing has.
+  // A new file beside `native`, under a name that nothing has and that IsNameOfUnfinished knows. While it is
+  // open RemoveAbandoned leaves it alone.
   static NativeFile CreateBeside(const std::filesystem::path& native, const std::string& path);
 
   NativeFile(NativeFile&& other) noexcept;
@@ -33,6 +35,8 @@ public:
   std::string ReadFrom(std::int64_t position);
   void Write(std::string_view bytes);
   std::int64_t Size();
+  // Whether the file's name still leads to it: it was neither deleted nor renamed, and can be looked at.
+  bool IsInPlace() const;
   // Cuts the file to a size that it had.
   void CutTo(std::int64_t size);
   // Sets the time of the last change. A file system that keeps no times still holds the data, so nothing is
@@ -52,6 +56,17 @@ private:
   std::filesystem::path native_;
   std::string path_;
 };
+
+// Raises what looking at a file or folder ended with.
+[[noreturn]] void RaiseLookError(const std::error_code& error, const std::string& path);
+
+// Ends the names of files that are still being written.
+inline constexpr const char* kUnfinished = ".unfinished";
+// Whether CreateBeside gives such names.
+bool IsNameOfUnfinished(const std::filesystem::path& name);
+// Removes what a writer that is gone left of CreateBeside. One that lives, or a file system that cannot tell,
+// keeps its file.
+void RemoveAbandoned(const std::filesystem::path& native);
 
 void CreateFolderAt(const std::filesystem::path& native, const std::string& path);
 void RemoveFileAt(const std::filesystem::path& native, const std::string& path);

@@ -3,12 +3,26 @@
 
 #include <fstream>
 
+#include "platform/system/native_file.h"
+
 namespace veritane::platform {
 
 std::string SystemShellFolders::ProgramFolder() const {
   std::ifstream stand_in(program_folder_ / "program_folder");
   if (std::string folder; std::getline(stand_in, folder)) return folder;
   return paths_.ToWindows(program_folder_);
+}
+
+// A folder that cannot be looked at is an error, and not missing.
+std::string SystemShellFolders::ProgramDataBelowRoot(bool create) const {
+  const std::string folder = "C:\\ProgramData";
+  const std::filesystem::path native = paths_.ToNative(folder);
+  std::error_code error;
+  if (create) std::filesystem::create_directories(native, error);
+  if (error) RaiseLookError(error, folder);
+  const std::filesystem::file_status status = std::filesystem::status(native, error);
+  if (status.type() == std::filesystem::file_type::none) RaiseLookError(error, folder);
+  return std::filesystem::is_directory(status) ? folder : "";
 }
 
 SystemMachine::SystemMachine(const std::filesystem::path& root, const std::string& locale_name)

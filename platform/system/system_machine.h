@@ -27,6 +27,8 @@ public:
   std::string ProgramFolder() const override;
 
 private:
+  std::string ProgramDataBelowRoot(bool create) const;
+
   const PathMap& paths_;
   const std::filesystem::path program_folder_;
 };

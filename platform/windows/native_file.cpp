@@ -27,8 +27,6 @@ HANDLE HandleOf(std::intptr_t number) {
     case ERROR_PATH_NOT_FOUND:
       throw RunTimeError(ErrorNumber::kFileNotFound, path);
     case ERROR_INVALID_DRIVE:
-    case ERROR_BAD_NETPATH:
-    case ERROR_BAD_NET_NAME:
       throw RunTimeError(ErrorNumber::kPathNotFound, path);
     case ERROR_DISK_FULL:
     case ERROR_HANDLE_DISK_FULL:
@@ -46,6 +44,15 @@ HANDLE HandleOf(std::intptr_t number) {
     case ERROR_FILENAME_EXCED_RANGE:
       throw RunTimeError(ErrorNumber::kBadFileNumber, path);
     case ERROR_NOT_READY:
+    // A network drive that is gone, which is another matter than a disk that fails.
+    case ERROR_BAD_NETPATH:
+    case ERROR_BAD_NET_NAME:
+    case ERROR_NETNAME_DELETED:
+    case ERROR_UNEXP_NET_ERR:
+    case ERROR_DEV_NOT_EXIST:
+    case ERROR_NETWORK_UNREACHABLE:
+    case ERROR_HOST_UNREACHABLE:
+    case ERROR_SEM_TIMEOUT:
       throw RunTimeError(ErrorNumber::kDiskNotReady, path);
     default:
       throw RunTimeError(ErrorNumber::kDeviceError, path);
@@ -131,7 +138,8 @@ NativeFile NativeFile::CreateBeside(const fs::path& native, const std::string& p
   static std::atomic<unsigned> count{0};
   for (;;) {
     fs::path temporary = native;
-    temporary += L"." + std::to_wstring(::GetCurrentProcessId()) + L"-" + std::to_wstring(count++) + L".tmp";
+    temporary += L"." + std::to_wstring(::GetCurrentProcessId()) + L"-" + std::to_wstring(count++);
+    temporary += kUnfinished;
     const HANDLE handle =
         ::CreateFileW(temporary.c_str(), GENERIC_WRITE | DELETE, FILE_SHARE_READ | FILE_SHARE_DELETE, nullptr,
                       CREATE_NEW, FILE_ATTRIBUTE_NORMAL, nullptr);
@@ -189,6 +197,19 @@ std::int64_t NativeFile::Size() {
   return size.QuadPart;
 }
 
+bool NativeFile::IsInPlace() const {
+  const HANDLE there =
+      ::CreateFileW(native_.c_str(), 0, kShareAll, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+  if (there == INVALID_HANDLE_VALUE) return false;
+  BY_HANDLE_FILE_INFORMATION found{};
+  BY_HANDLE_FILE_INFORMATION mine{};
+  const bool is_known = ::GetFileInformationByHandle(there, &found) != 0 &&
+                        ::GetFileInformationByHandle(HandleOf(handle_), &mine) != 0;
+  ::CloseHandle(there);
+  return is_known && found.dwVolumeSerialNumber == mine.dwVolumeSerialNumber &&
+         found.nFileIndexHigh == mine.nFileIndexHigh && found.nFileIndexLow == mine.nFileIndexLow;
+}
+
 void NativeFile::CutTo(std::int64_t size) {
   LARGE_INTEGER end;
   end.QuadPart = size;
@@ -210,6 +231,21 @@ void NativeFile::Flush() {
 void NativeFile::Close() {
   const HANDLE handle = HandleOf(std::exchange(handle_, -1));
   if (!::CloseHandle(handle)) RaiseSystemError(::GetLastError(), path_);
+}
+
+// The standard library gives codes of Windows, or those of its own where it asked the C library.
+void RaiseLookError(const std::error_code& error, const std::string& path) {
+  if (error.category() == std::system_category()) RaiseSystemError(static_cast<DWORD>(error.value()), path);
+  throw RunTimeError(
+      error == std::errc::permission_denied ? ErrorNumber::kPermissionDenied : ErrorNumber::kDeviceError,
+      path);
+}
+
+void RemoveAbandoned(const fs::path& native) {
+  // Only where nobody else has it open.
+  const HANDLE handle =
+      ::CreateFileW(native.c_str(), DELETE, 0, nullptr, OPEN_EXISTING, FILE_FLAG_DELETE_ON_CLOSE, nullptr);
+  if (handle != INVALID_HANDLE_VALUE) ::CloseHandle(handle);
 }
 
 void CreateFolderAt(const fs::path& native, const std::string& path) {

@@ -90,6 +90,7 @@ enum class TextId : int {
   kRunningAlready = 1121,
   kInitialMethodMissing = 1122,
   kSettingsNotSaved = 1123,
+  kDataFolderUnusable = 1124,
 
   // shell: supervisor mode.
   kIntervalRange = 1130,
@@ -118,6 +119,12 @@ enum class TextId : int {
   kNameOfBackground = 1217,
   kStandardNotInTable = 1218,
   kEarlierRow = 1219,
+  kStandardWithoutRow = 1220,
+  kStandardNotFiled = 1221,
+
+  // acquisition: backgrounds.
+  kBackgroundNotFiled = 1225,
+  kBackgroundUnreadable = 1226,
 
   // acquisition: methods and the product table.
   kNotACollectMethod = 1230,

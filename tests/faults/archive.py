@@ -9,6 +9,7 @@ KILLS = ("kill-before", "kill-after", "kill-halfway")
 # Files that are replaced whole: one of the versions that the scenario writes is there.
 TEXTS = ("Meth.tbl", "Meths.tbl", "settings.ini", ".pro", ".nul", ".clm", ".bpt", ".cal", "peaks.txt")
 NEXT_SAMPLE = "afterwards"
+PENDING = "Standards/Pending.tbl"
 LINES_OF_NEXT_SAMPLE = (
     records.HISTOGRAM_HEADER, f"{NEXT_SAMPLE},11/21/26 10:59:00,SURVEY,Euclidean,Pass, 100,Ann",
     f"Ann,{scenarios.DATA_FOLDER}Samples\\SURVEY.bsp,11/21/26,10:59:00",
@@ -77,11 +78,14 @@ class ArchiveCheck:
                 raise Finding(f"{name}: {damage}") from damage
 
     def check_names(self, archive):
-        known = self.before.files.keys() | self.after.files.keys()
-        litter = {name for name in archive.files if records.is_temporary(name, known)}
+        known = self.before.files.keys() | self.after.files.keys() | {PENDING}
+        litter = {name for name in archive.files if records.is_temporary(name)}
         # Who may change nothing any more cannot clear up either.
-        is_excused = self.fault.kind in KILLS or self.fault.lasts and self.fault.kind != "full"
-        require(not litter or is_excused or self.fault.operation.name == "delete", f"litter: {litter}")
+        is_excused = self.fault.lasts and self.fault.kind != "full" or self.fault.operation.name == "delete"
+        if self.fault.kind in KILLS:
+            is_excused = not self.has_next_sample
+        require(not litter or is_excused, f"litter: {litter}")
+        require(PENDING not in archive.files or not self.has_next_sample, f"{PENDING} is still there")
         strange = [name for name in archive.files.keys() - known - litter
                    if not name.startswith(("Prints/", "Samples/SURVEY"))]
         require(not strange, f"files from nowhere: {strange}")
@@ -101,6 +105,15 @@ class ArchiveCheck:
         for row in archive.lines("Meth.tbl")[0][1:]:
             standard = f"Standards/{row.split(',')[0]}.bsp"
             require(not row or standard in archive.files, f"the product table speaks of {standard}, which is not filed")
+        if self.has_next_sample:
+            self.check_every_standard_has_its_row(archive)
+
+    def check_every_standard_has_its_row(self, archive):
+        """Those that are there from the beginning are no products, some of them."""
+        products = {row.split(",")[0] for row in archive.lines("Meth.tbl")[0][1:]}
+        for name in archive.files.keys() - self.before.files.keys():
+            if name.startswith("Standards/") and name.endswith(".bsp") and not name.startswith("Standards/back"):
+                require(name[10:-4] in products, f"{name} is filed, but the product table does not name it")
 
     def kept_samples(self):
         """Those filed before, except of a product that the scenario deletes."""
@@ -118,6 +131,11 @@ class ArchiveCheck:
             is_next = self.has_next_sample and title == NEXT_SAMPLE
             require(is_next or (title, ordinates) in after, f"a spectrum from nowhere: {title}")
         require(not new or max(new.values()) == 1, f"filed twice: {[title for title, _ in new]}")
+        # A file that makes room is there twice for a moment, and no longer once the next sample is filed.
+        if self.has_next_sample:
+            doubled = (collections.Counter(map(identity_of, archive.samples())) - new
+                       - collections.Counter(map(identity_of, self.before.samples())))
+            require(not doubled, f"filed twice: {[title for title, _ in doubled]}")
 
     def check_records(self, archive):
         titles = collections.Counter(spectrum.title for spectrum in archive.samples())

@@ -6,8 +6,9 @@
 // those that
 //                     fit the operation; "fault number name path" where one was injected
 // FILE_FAULTS_AT      the number of the operation that fails, from 1
-// FILE_FAULTS_KIND    kill-before, kill-after, kill-halfway, full, denied or broken
-// FILE_FAULTS_WHILE   a file: as long as it is there, every later operation that the fault fits fails, too
+// FILE_FAULTS_KIND    kill-before, kill-after, kill-halfway, full, denied, broken, read-only, stale or
+// unplugged FILE_FAULTS_WHILE   a file: as long as it is there, every later operation that the fault fits
+// fails, too
 #include <dlfcn.h>
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -67,7 +68,18 @@ constexpr Operation kRead{.name = "read", .changes = false, .takesSpace = false,
 constexpr Operation kLook{.name = "look", .changes = false, .takesSpace = false, .needsPermission = true};
 constexpr Operation kList{.name = "list", .changes = false, .takesSpace = false, .needsPermission = true};
 
-enum class Fault { kNone, kKillBefore, kKillAfter, kKillHalfway, kFull, kDenied, kBroken };
+enum class Fault {
+  kNone,
+  kKillBefore,
+  kKillAfter,
+  kKillHalfway,
+  kFull,
+  kDenied,
+  kBroken,
+  kReadOnly,
+  kStale,
+  kUnplugged
+};
 
 Fault FaultOf(const std::string& kind) {
   if (kind == "kill-before") return Fault::kKillBefore;
@@ -76,6 +88,9 @@ Fault FaultOf(const std::string& kind) {
   if (kind == "full") return Fault::kFull;
   if (kind == "denied") return Fault::kDenied;
   if (kind == "broken") return Fault::kBroken;
+  if (kind == "read-only") return Fault::kReadOnly;
+  if (kind == "stale") return Fault::kStale;
+  if (kind == "unplugged") return Fault::kUnplugged;
   return Fault::kNone;
 }
 
@@ -83,6 +98,7 @@ bool Fits(Fault fault, const Operation& operation) {
   switch (fault) {
     case Fault::kKillBefore:
     case Fault::kKillAfter:
+    case Fault::kReadOnly:
       return operation.changes;
     case Fault::kKillHalfway:
       return operation.name == kWrite.name;
@@ -91,6 +107,8 @@ bool Fits(Fault fault, const Operation& operation) {
     case Fault::kDenied:
       return operation.needsPermission;
     case Fault::kBroken:
+    case Fault::kStale:
+    case Fault::kUnplugged:
       return true;
     case Fault::kNone:
       break;
@@ -136,7 +154,8 @@ private:
 
   static std::string FittingFaults(const Operation& operation) {
     std::string text;
-    for (const char* kind : {"kill-before", "kill-after", "kill-halfway", "full", "denied", "broken"}) {
+    for (const char* kind : {"kill-before", "kill-after", "kill-halfway", "full", "denied", "broken",
+                             "read-only", "stale", "unplugged"}) {
       if (Fits(FaultOf(kind), operation)) text += (text.empty() ? "" : ",") + std::string(kind);
     }
     return text;
@@ -191,11 +210,24 @@ std::string Absolute(int folder, const char* path) {
 }
 
 int ErrorOf(Fault fault) {
-  return fault == Fault::kFull ? ENOSPC : fault == Fault::kDenied ? EACCES : EIO;
+  switch (fault) {
+    case Fault::kFull:
+      return ENOSPC;
+    case Fault::kDenied:
+      return EACCES;
+    case Fault::kReadOnly:
+      return EROFS;
+    case Fault::kStale:
+      return ESTALE;
+    case Fault::kUnplugged:
+      return ENOTCONN;
+    default:
+      return EIO;
+  }
 }
 
 bool IsError(Fault fault) {
-  return fault == Fault::kFull || fault == Fault::kDenied || fault == Fault::kBroken;
+  return fault >= Fault::kFull;
 }
 
 // Lets the operation happen or fail as planned; `failed` is what the caller gets in place of a result.
@@ -241,7 +273,7 @@ int Flush(int descriptor, const char* function) {
                       [&] { return Real<int (*)(int)>(function)(descriptor); });
 }
 
-// The name that mkostemp found takes the place of the pattern.
+// The name that mkostemps found takes the place of the pattern.
 template <typename Call>
 int MakeTemporary(char* pattern, Call call) {
   const std::string path = Absolute(AT_FDCWD, pattern);
@@ -274,8 +306,9 @@ int openat(int folder, const char* path, int flags, ...) {
               [&] { return Real<int (*)(int, const char*, int, ...)>("openat")(folder, path, flags, mode); });
 }
 
-int mkostemp(char* pattern, int flags) {
-  return MakeTemporary(pattern, [&] { return Real<int (*)(char*, int)>("mkostemp")(pattern, flags); });
+int mkostemps(char* pattern, int ending, int flags) {
+  return MakeTemporary(pattern,
+                       [&] { return Real<int (*)(char*, int, int)>("mkostemps")(pattern, ending, flags); });
 }
 
 ssize_t write(int descriptor, const void* bytes, size_t size) {
@@ -288,8 +321,8 @@ ssize_t write(int descriptor, const void* bytes, size_t size) {
     return -1;
   }
   const Fault fault = ThePlan().Next(kWrite, file->path);
-  if (fault == Fault::kBroken) {
-    errno = EIO;
+  if (IsError(fault) && fault != Fault::kFull) {
+    errno = ErrorOf(fault);
     return -1;
   }
   if (fault != Fault::kFull && fault != Fault::kKillHalfway) {

@@ -7,16 +7,16 @@ import re
 Spectrum = collections.namedtuple("Spectrum", "title labels ordinates")
 HISTOGRAM_HEADER = "Sample Name,Date/Time,Product ID,Algorithm,Pass/Fail,Comparison,Operator Name"
 HISTOGRAM_FIELDS = 7
-TEMPORARY = re.compile(r"\.[A-Za-z0-9]{6}$")
+TEMPORARY = re.compile(r"\.[A-Za-z0-9]{6}\.unfinished$")
 
 
 class Damaged(Exception):
     """A file that is not whole; the text says which and why."""
 
 
-def is_temporary(name, known):
-    """Whether a name is one under which a replacement of a known file begins its life."""
-    return bool(TEMPORARY.search(name)) and TEMPORARY.sub("", name) in known
+def is_temporary(name):
+    """Whether a name is one under which a replacement of a file begins its life."""
+    return bool(TEMPORARY.search(name))
 
 
 @functools.lru_cache(maxsize=4096)

@@ -1,10 +1,12 @@
 // Files on disk by Windows path: case, atomic replacement, errors by their numbers.
 #include "platform/system/disk_file_system.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <fstream>
 
+#include "platform/system/native_file.h"
 #include "platform/system/registry_file.h"
 #include "platform/system/system_machine.h"
 #include "tests/support/errors.h"
@@ -85,6 +87,35 @@ TEST_F(DiskFileSystemTest, AppendingGoesOnWhereTheFileEnds) {
   files_.OpenForAppending("C:\\Data\\log.txt")->Append("one\r\n");
   files_.OpenForAppending("C:\\Data\\LOG.TXT")->Append("two\r\n");
   EXPECT_EQ(files_.ReadBytes("C:\\Data\\log.txt"), "one\r\ntwo\r\n");
+}
+
+TEST_F(DiskFileSystemTest, WhatIsAppendedToAFileThatWasDeletedOrRenamedLandsInANewOne) {
+  auto log = files_.OpenForAppending("C:\\Data\\log.txt");
+  log->Append("one\r\n");
+  files_.MoveFile("C:\\Data\\log.txt", "C:\\Data\\kept.txt");
+  log->Append("two\r\n");
+  files_.DeleteFile("C:\\Data\\log.txt");
+  log->Append("three\r\n");
+  log->Append("four\r\n");
+  EXPECT_EQ(files_.ReadBytes("C:\\Data\\kept.txt"), "one\r\n");
+  EXPECT_EQ(files_.ReadBytes("C:\\Data\\log.txt"), "three\r\nfour\r\n");
+}
+
+TEST_F(DiskFileSystemTest, OnlyWhatAWriterThatIsGoneLeftIsCleared) {
+  std::optional<NativeFile> writer =
+      NativeFile::CreateBeside(paths_.ToNative("C:\\Data\\Meth.tbl"), "C:\\Data\\Meth.tbl");
+  const std::vector<std::string> others{"Meth.tbl", "a.b c.unfinished", "a.unfinished", "a.x7Gh2K",
+                                        "b.12-3.unfinished.bsp"};
+  for (const std::string& name : others) files_.WriteBytes("C:\\Data\\" + name, "x");
+  for (const char* name : {"Meth.tbl.x7Gh2K.unfinished", "back A.bsp.12-3.unfinished"}) {
+    files_.WriteBytes("C:\\Data\\" + std::string(name), "x");
+  }
+  files_.ClearUnfinished("C:\\Data");
+  EXPECT_EQ(files_.ListFiles("C:\\Data").size(), others.size() + 1) << "and what is being written";
+  writer.reset();
+  files_.ClearUnfinished("C:\\Data");
+  EXPECT_THAT(files_.ListFiles("C:\\Data"), ::testing::UnorderedElementsAreArray(others));
+  files_.ClearUnfinished("C:\\None");
 }
 
 TEST_F(DiskFileSystemTest, TheRegistryGivesOnlyDwordsOfTheKeyAskedFor) {

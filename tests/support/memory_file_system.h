@@ -41,6 +41,7 @@ public:
   std::unique_ptr<platform::TakenFile> TakeFile(const std::string&) override {
     return std::make_unique<platform::TakenFile>();
   }
+  void ClearUnfinished(const std::string& folder) override { Unexpected(folder); }
   void DeleteFile(const std::string& path) override {
     if (files_.erase(Key(path)) == 0) {
       throw platform::RunTimeError(platform::ErrorNumber::kFileNotFound, path);
