@@ -2,6 +2,7 @@
 #include "acquisition/background.h"
 
 #include "acquisition/spectrum_drawing.h"
+#include "platform/run_time_error.h"
 #include "shell/state/messages.h"
 
 namespace veritane::acquisition {
@@ -38,14 +39,18 @@ CollectOutcome CollectBackground(Bench& bench) {
     session.Create(bench.state.BackGroundName);
   }
   PrepareMeasurement(bench, bench.state.clmFile, "");
-  const CollectOutcome outcome = CollectIntoDocument(bench);
+  const CollectOutcome outcome = CollectIntoDocument(bench, "");
   if (outcome != CollectOutcome::kCollected) return outcome;
 
   bench.state.Back = session.ReadSpectrum();
   const OrdinateRange range = DrawSpectrum(bench.panel.chart, bench.state.Back, "");
   bench.state.backminm = range.low;
   bench.state.backmaxm = range.high;
-  session.CurrentDocument->CloseDocument(true);
+  try {
+    session.CurrentDocument->CloseDocument(true);
+  } catch (const platform::RunTimeError& error) {
+    throw platform::RunTimeError(error.Number(), Text(TextId::kBackgroundNotFiled, {error.what()}));
+  }
   bench.panel.fraSpectrum.SetCaption(Text(TextId::kBackgroundCaption));
   state::Notice(bench.desktop, TextId::kBackgroundDone, MessageIcon::kExclamation);
   return outcome;

@@ -1,6 +1,7 @@
 // The collection that background, Standard and sample share.
 #include "acquisition/collection.h"
 
+#include "acquisition/opened_documents.h"
 #include "platform/run_time_error.h"
 #include "shell/state/messages.h"
 
@@ -41,7 +42,25 @@ void ShowInstrumentError(platform::Desktop& desktop, int error_number) {
                        .icon = MessageIcon::kCritical});
 }
 
-CollectOutcome CollectIntoDocument(Bench& bench) {
+namespace {
+
+// The instrument's number says nothing of files to who reads it.
+void ExplainBackground(Bench& bench, const std::string& path) {
+  try {
+    OpenedDocuments opened;
+    const auto background = bench.session.SpectrometerApp->OpenDocument(path);
+    opened.Add(background);
+    background->GetSpectrum()->SpectrumData();
+  } catch (const platform::RunTimeError& error) {
+    bench.desktop.ShowMessage({.text = Text(TextId::kBackgroundUnreadable, {error.what(), path}),
+                               .title = Text(TextId::kWarningTitle),
+                               .icon = MessageIcon::kCritical});
+  }
+}
+
+}  // namespace
+
+CollectOutcome CollectIntoDocument(Bench& bench, const std::string& background_path) {
   SpectrometerSession& session = bench.session;
   for (;;) {
     std::int16_t error_number = kNoInstrumentError;
@@ -54,6 +73,7 @@ CollectOutcome CollectIntoDocument(Bench& bench) {
     if (error_number == kNoInstrumentError) return CollectOutcome::kCollected;
     if (error_number != kWrongAccessory) {
       ShowInstrumentError(bench.desktop, error_number);
+      if (!background_path.empty()) ExplainBackground(bench, background_path);
       session.SpectrometerApp->Interactive(true);
       return CollectOutcome::kInstrumentError;
     }

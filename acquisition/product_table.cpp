@@ -74,6 +74,14 @@ std::string ProductTableText(const std::vector<Product>& products) {
   return text;
 }
 
+std::vector<Product> AppendProduct(platform::FileSystem& files, const std::string& path,
+                                   const Product& product) {
+  std::vector<Product> products = ReadProductTable(files.ReadBytes(path), path);
+  products.push_back(product);
+  files.WriteBytes(path, ProductTableText(products));
+  return products;
+}
+
 void LoadProductTable(const platform::FileSystem& files, const std::string& path, platform::Grid& grid) {
   std::vector<std::vector<std::string>> rows;
   for (Product& product : ReadProductTable(files.ReadBytes(path), path)) {

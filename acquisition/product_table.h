@@ -35,6 +35,10 @@ std::optional<Product> FindProduct(std::string_view bytes, const std::string& ke
 // around it, stands in double quotes, which keeps its row whole.
 std::string ProductTableText(const std::vector<Product>& products);
 
+// Writes the table with one more row and returns all rows.
+std::vector<Product> AppendProduct(platform::FileSystem& files, const std::string& path,
+                                   const Product& product);
+
 // Shows the table in the grid: header, one row a product, the first product current (its row-selection event
 // follows).
 void LoadProductTable(const platform::FileSystem& files, const std::string& path, platform::Grid& grid);

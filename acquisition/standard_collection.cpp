@@ -5,8 +5,8 @@
 
 #include "acquisition/additional_file.h"
 #include "acquisition/background.h"
+#include "acquisition/pending_product.h"
 #include "acquisition/product_key.h"
-#include "acquisition/product_table.h"
 #include "acquisition/prompts.h"
 #include "acquisition/spectrum_drawing.h"
 #include "platform/run_time_error.h"
@@ -69,7 +69,7 @@ bool StandardCollection::Run() {
       !CollectStandard(or_general(prompts.sample, TextId::kDefaultSamplePrompt))) {
     return false;
   }
-  AppendProduct();
+  EnterInTable();
   return true;
 }
 
@@ -101,15 +101,26 @@ bool StandardCollection::CollectStandard(const std::string& prompt) {
     session_.Create(StandardPath());
   }
   AnnounceSample(bench_.desktop, prompt);
-  if (CollectIntoDocument(bench_) != CollectOutcome::kCollected) return false;
+  if (CollectIntoDocument(bench_, state_.BackGroundName) != CollectOutcome::kCollected) return false;
   ShowStandard();
-  if (is_demonstration) session_.CurrentDocument->SaveDocumentAs(StandardPath());
-  session_.CurrentDocument->CloseDocument(!is_demonstration);
+  FileStandard();
   // The supervisor sees what was measured before the table comes back.
   state::ShowPanel(bench_.panel, bench_.panel.fraSpectrum);
   state::Notice(bench_.desktop, TextId::kStandardDone, MessageIcon::kExclamation);
   state::ShowPanel(bench_.panel, bench_.panel.fraSupervisorMode);
   return true;
+}
+
+void StandardCollection::FileStandard() {
+  const bool is_demonstration = state_.options.demoMode != 0;
+  try {
+    NotePendingProduct(bench_.machine.files, state_.folders, NewProduct());
+    if (is_demonstration) session_.CurrentDocument->SaveDocumentAs(StandardPath());
+    session_.CurrentDocument->CloseDocument(!is_demonstration);
+  } catch (const platform::RunTimeError& error) {
+    throw platform::RunTimeError(error.Number(),
+                                 Text(TextId::kStandardNotFiled, {error.what(), StandardPath()}));
+  }
 }
 
 void StandardCollection::ShowStandard() {
@@ -124,18 +135,21 @@ void StandardCollection::ShowStandard() {
   bench_.panel.fraSpectrum.SetCaption(Text(TextId::kStandardCaption) + state_.prod);
 }
 
-void StandardCollection::AppendProduct() {
+Product StandardCollection::NewProduct() const {
+  return {state_.prod, state_.clmName, state_.algorithm, state_.calfilename};
+}
+
+void StandardCollection::EnterInTable() {
   platform::FileSystem& files = bench_.machine.files;
-  const std::string path = ProductTablePath(state_);
   std::vector<Product> products;
   try {
-    products = ReadProductTable(files.ReadBytes(path), path);
-    products.push_back({state_.prod, state_.clmName, state_.algorithm, state_.calfilename});
-    files.WriteBytes(path, ProductTableText(products));
+    products = AppendProduct(files, ProductTablePath(state_), NewProduct());
   } catch (const platform::RunTimeError& error) {
     throw platform::RunTimeError(error.Number(),
                                  Text(TextId::kStandardNotInTable, {error.what(), StandardPath()}));
   }
+  // The product is complete, whatever becomes of the note.
+  bench_.desktop.Perform([&] { ForgetPendingProduct(files, state_.folders); });
   const auto same = [&](const Product& product) {
     return platform::UpperCase(product.productId) == platform::UpperCase(state_.prod);
   };

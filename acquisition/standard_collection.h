@@ -7,6 +7,7 @@
 #include "acquisition/bench.h"
 #include "acquisition/collection.h"
 #include "acquisition/frm_collect_std.h"
+#include "acquisition/product_table.h"
 
 namespace veritane::acquisition {
 
@@ -29,7 +30,9 @@ private:
   bool CollectNewBackground(const std::string& prompt);
   bool CollectStandard(const std::string& prompt);
   void ShowStandard();
-  void AppendProduct();
+  void FileStandard();
+  Product NewProduct() const;
+  void EnterInTable();
 
   Bench& bench_;
   state::ProgramState& state_;

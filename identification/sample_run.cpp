@@ -3,12 +3,12 @@
 
 #include <cmath>
 #include <optional>
-#include <set>
 
 #include "acquisition/collection.h"
 #include "acquisition/product_key.h"
 #include "acquisition/product_table.h"
 #include "acquisition/prompts.h"
+#include "identification/full_files.h"
 #include "identification/judgement.h"
 #include "identification/mark_peaks.h"
 #include "identification/pls_prediction.h"
@@ -155,7 +155,7 @@ bool SampleRun::OpenSampleDocument() {
   if (state_.options.demoMode != 0) {
     // The stored spectrum is filed in place of the sample file, so what was filed before has to make room for
     // it.
-    return !exists || FindRollOverName();
+    return !exists || MayRollOverTo(FirstFreeNumberedFile(bench_.machine.files, state_));
   }
   if (!exists) {
     session_.Create(state_.tmpSampName);
@@ -166,20 +166,9 @@ bool SampleRun::OpenSampleDocument() {
   return session_.CurrentDocument->GetSpectrumCount() < kSpectraPerFile || RollOver();
 }
 
-bool SampleRun::FindRollOverName() {
-  const std::string table = acquisition::ProductTablePath(state_);
-  std::set<std::string> products;
-  for (const acquisition::Product& product :
-       acquisition::ReadProductTable(bench_.machine.files.ReadBytes(table), table)) {
-    products.insert(platform::UpperCase(product.productId));
-  }
-  for (int number = 1; number <= kMostFullFiles; ++number) {
-    const std::string name = state_.prod + "-" + std::to_string(number);
-    // A product may be called what a numbered file of another is called; its spectra stay its own.
-    if (products.contains(platform::UpperCase(name))) continue;
-    roll_over_name_ = state_.folders.InSamples(name + ".bsp");
-    if (!bench_.machine.files.FileExists(roll_over_name_)) return true;
-  }
+bool SampleRun::MayRollOverTo(const std::string& path) {
+  roll_over_name_ = path;
+  if (!path.empty()) return true;
   bench_.desktop.ShowMessage({.text = Text(TextId::kSpectraLimit),
                               .title = Text(TextId::kWarningTitle),
                               .icon = MessageIcon::kCritical});
@@ -187,15 +176,23 @@ bool SampleRun::FindRollOverName() {
 }
 
 // The full file's copy under its number is on disk before the file itself goes: whatever happens in between,
-// no spectrum is lost.
+// no spectrum is lost, and the next run knows the copy by the note and goes on from there.
 bool SampleRun::RollOver() {
-  if (!FindRollOverName()) {
-    session_.CurrentDocument->CloseDocument(false);
-    return false;
+  platform::FileSystem& files = bench_.machine.files;
+  acquisition::Document& full = *session_.CurrentDocument;
+  const std::string note = MoveNotePath(state_);
+  const std::string copy = MoveUnderWay(files, state_);
+  if (copy.empty() || !IsCopyOf(full, *session_.SpectrometerApp, copy)) {
+    if (!MayRollOverTo(FirstFreeNumberedFile(files, state_))) {
+      full.CloseDocument(false);
+      return false;
+    }
+    files.WriteBytes(note, platform::LeafName(roll_over_name_));
+    full.SaveDocumentAs(roll_over_name_);
   }
-  session_.CurrentDocument->SaveDocumentAs(roll_over_name_);
-  session_.CurrentDocument->CloseDocument(false);
-  bench_.machine.files.DeleteFile(state_.tmpSampName);
+  full.CloseDocument(false);
+  files.DeleteFile(state_.tmpSampName);
+  files.DeleteFile(note);
   session_.Create(state_.tmpSampName);
   return true;
 }
@@ -208,7 +205,8 @@ bool SampleRun::CollectSample() {
   } else {
     acquisition::PrepareScan(bench_, state_.clmFile, state_.BackGroundName);
   }
-  if (acquisition::CollectIntoDocument(bench_) != CollectOutcome::kCollected) return false;
+  if (acquisition::CollectIntoDocument(bench_, state_.BackGroundName) != CollectOutcome::kCollected)
+    return false;
   state_.Samp = session_.ReadSpectrum();
   if (state_.algorithm == state::kPls) {
     state_.SpectrumIndex = platform::ToInt16(session_.CurrentDocument->GetSpectrumCount());

@@ -14,8 +14,6 @@ namespace veritane::identification {
 
 // A product's sample file is full with this many spectra; the next sample starts a new one.
 inline constexpr int kSpectraPerFile = 50;
-// Full files are numbered up to here.
-inline constexpr int kMostFullFiles = 1000;
 
 // One run; the application is the user's again, with nothing of the run left open, when the object goes.
 class SampleRun {
@@ -34,7 +32,7 @@ private:
   bool CollectBackgroundIfDue(const acquisition::BackgroundSchedule& schedule, const std::string& prompt);
   bool OpenSampleDocument();
   bool RollOver();
-  bool FindRollOverName();
+  bool MayRollOverTo(const std::string& path);
   bool CollectSample();
   bool IsConsistent();
   void FileSample();

@@ -1,5 +1,6 @@
 // The tabs on which a supervisor sets up collect methods and products.
 #include "acquisition/additional_file.h"
+#include "acquisition/pending_product.h"
 #include "acquisition/product_key.h"
 #include "acquisition/standard_collection.h"
 #include "shell/frm_veritane.h"
@@ -70,9 +71,14 @@ void FrmVeritane::cmdDel_Click() {
 // read anew afterwards.
 void FrmVeritane::cmdCollectStdNow_Click() {
   if (!products_.SaveChanges()) return;
+  SettlePendingProduct();
   LoadMethods();
   acquisition::StandardCollection collection(bench_, dialogs_.frmCollectStd);
   if (collection.Run()) products_.Load();
+}
+
+void FrmVeritane::SettlePendingProduct() {
+  if (acquisition::SettlePendingProduct(bench_)) products_.Load();
 }
 
 void FrmVeritane::cmdParse_Click() {

@@ -66,6 +66,8 @@ void FrmVeritane::cmdSupervisor_Click() {
   SSTab1.SetTab(kSecurityTab);
   Screen().SetMousePointer(Pointer::kDefault);
   state::ShowPanel(bench_.panel, fraSupervisorMode);
+  // What fails here keeps nobody out.
+  Screen().Perform([this] { SettlePendingProduct(); });
 }
 
 void FrmVeritane::optNoPassword_Click() {

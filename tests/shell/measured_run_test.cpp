@@ -11,6 +11,7 @@ namespace {
 
 using ::testing::Contains;
 using ::testing::ElementsAre;
+using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 using ::testing::Not;
 using ::testing::StartsWith;
@@ -148,6 +149,17 @@ TEST_F(MeasuredRunTest, AFailedBackgroundLeavesTheOldOneAsItWas) {
   EXPECT_NE(Read(Standard("backDisc.bsp")), old) << "before every sample";
 }
 
+TEST_F(MeasuredRunTest, ABackgroundThatCannotBeReadIsNamed) {
+  Measure();
+  Write(Standard("backDisc.bsp"), "##TITLE= half a back");
+  Play({"click frmVeritane.cmdBacktoMainMenu"});
+  EXPECT_THAT(MeasureAsItIs(3).Messages(),
+              ElementsAre(StartsWith(" Ready for Sample."), " Spectrometer reported an error. Error #11081",
+                          HasSubstr("The background " + Standard("backDisc.bsp") +
+                                    " cannot be used. Please collect")));
+  EXPECT_EQ(CountIn(Sample("PS.bsp")), 1U);
+}
+
 TEST_F(MeasuredRunTest, TheFiftiethSpectrumGoesIntoTheSameFileAndTheNextStartsANewOne) {
   WriteSpectra(Sample("PS.bsp"), 49, Bands(301));
   Measure();
@@ -184,12 +196,25 @@ TEST_F(MeasuredRunTest, WithEveryNumberTakenNothingIsFiledAndTheOperatorIsTold) 
 TEST_F(MeasuredRunTest, AStopBetweenTheStepsOfARollOverLosesNothingAndTheNextRunGoesOn) {
   WriteSpectra(Sample("PS.bsp"), 50, Bands(301));
   const std::string full = Read(Sample("PS.bsp"));
-  // Stopped after the copy was written and before the full file went.
+  // Stopped after the copy was written and before the full file went; PS-1 is somebody's own copy.
   Write(Sample("PS-1.bsp"), full);
+  Write(Sample("PS-2.bsp"), full);
+  Write(Sample("PS.moving"), "PS-2.bsp");
   Measure();
-  EXPECT_EQ(Read(Sample("PS-1.bsp")), full);
-  EXPECT_EQ(Read(Sample("PS-2.bsp")), full) << "twice is better than never";
+  EXPECT_THAT(machine_.files.ListFiles(Data("Samples")),
+              ElementsAre("PS-1.bsp", "PS-2.bsp", "PS.bsp", "PS.his"));
+  EXPECT_EQ(Read(Sample("PS-2.bsp")), full);
   EXPECT_EQ(CountIn(Sample("PS.bsp")), 1U);
+  // What a note leads to is no copy: other spectra, nothing that can be read, the full file itself.
+  for (const char* noted : {"PS-1.bsp", "PS.his", "PS.bsp"}) {
+    WriteSpectra(Sample("PS.bsp"), 50, Bands(301, 1));
+    const std::string other = Read(Sample("PS.bsp"));
+    Write(Sample("PS.moving"), noted);
+    Measure();
+    EXPECT_EQ(Read(Sample("PS-1.bsp")), full);
+    EXPECT_EQ(Read(Sample("PS-3.bsp")), other) << noted;
+    machine_.files.DeleteFile(Sample("PS-3.bsp"));
+  }
   // Stopped after the full file went and before the new one was written.
   machine_.files.DeleteFile(Sample("PS.bsp"));
   Measure();

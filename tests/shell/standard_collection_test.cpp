@@ -132,6 +132,36 @@ TEST_F(StandardTest, AnExistingStandardIsNeverMeasuredAgain) {
   EXPECT_THAT(Calls(), IsEmpty());
 }
 
+// The program ended, or the table could not be written, behind the filing of the Standard.
+TEST_F(StandardTest, AStandardWithoutItsRowIsAskedAbout) {
+  const std::string before = Table();
+  WriteSpectrum(Standard("PS.bsp"), 100, 4, Bands(301));
+  const std::string filed = Read(Standard("PS.bsp"));
+  const std::string note = " 1 \r\nPS,Disc,Fourier,\r\n";
+  Write(Standard("Pending.tbl"), note);
+  Play({"start"});
+  EXPECT_THAT(
+      Play({"click frmVeritane.cmdSupervisor", "answer Yes"}).Messages(),
+      ElementsAre(HasSubstr(Standard("PS.bsp") + " is filed, but the product table does not name it")));
+  EXPECT_EQ(Table(), " 2 \r\nASPIRIN-1,Disc,Euclidean,\r\nPS,Disc,Fourier,\r\n");
+  EXPECT_EQ(run_.Get("frmVeritane.grid")["rows"].size(), 3U);
+  EXPECT_FALSE(Exists(Standard("Pending.tbl")));
+  // Stopped behind the table: there is nothing to ask.
+  Write(Standard("Pending.tbl"), note);
+  Play({"click frmVeritane.cmdMainMenu"});
+  EXPECT_THAT(Play({"click frmVeritane.cmdSupervisor"}).Messages(), IsEmpty());
+  // The supervisor would rather collect it anew, and the one that is filed stays.
+  Play({"click frmVeritane.cmdMainMenu"});
+  Write(Data("Meth.tbl"), before);
+  Write(Standard("Pending.tbl"), note);
+  Play({"click frmVeritane.cmdSupervisor", "answer No", "tab frmVeritane.SSTab1 3"});
+  EXPECT_EQ(Read(Standard("PS (abandoned 1).bsp")), filed);
+  EXPECT_EQ(Table(), before);
+  Play(Measured(Describe("PS")));
+  EXPECT_EQ(Table(), " 2 \r\nASPIRIN-1,Disc,Euclidean,\r\nPS,Disc,Euclidean,\r\n");
+  EXPECT_FALSE(Exists(Standard("Pending.tbl")));
+}
+
 TEST_F(StandardTest, AnAbandonedCollectionLeavesNoStandardAndNoRow) {
   EnterStandardsTab();
   for (const int fault : {11079, 5}) {
