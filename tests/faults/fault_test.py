@@ -3,11 +3,12 @@
 
 The scenario is played once with everything well, which tells its file operations, its events and what it leaves on
 disk. Then it is played again and again, each time with another operation failing: the program is killed there, the disk
-is full, access is denied, the device reports an error. After that:
+is full, access is denied, the device reports an error, the network drive is read-only or gone. After that:
 
  - nothing that was filed before is lost or changed, and no file is half written;
  - a spectrum whose result came on screen is on disk, and no record speaks of a spectrum that is not;
- - the program was killed: it starts again and takes a sample;
+ - the program was killed: it starts again and takes a sample; a Standard that it had filed gets its row, a file that
+   was moving aside is there once, and nothing that it was writing lies about;
  - anything else: the user was told by number and text, is back on the screen that the action began on, takes a sample
    once the fault is gone, and leaves in the ordinary way.
 """
@@ -15,19 +16,23 @@ is full, access is denied, the device reports an error. After that:
 import argparse
 import collections
 import shutil
+import signal
 import sys
 import tempfile
 from pathlib import Path
 
 import scenarios
-from archive import KILLS, NEXT_SAMPLE, TEXTS, Archive, ArchiveCheck, Finding, require
+from archive import KILLS, NEXT_SAMPLE, PENDING, TEXTS, Archive, ArchiveCheck, Finding, require
 from console import PANELS, Console
 
-# Boxes of the program's own that tell of a fault: of the application, of the table behind the supervisor's grid, of the
-# settings at the end, and of the folder above all others.
-OWN_BOXES = ("Spectrometer reported an error", "The product table cannot be read. ", "The settings cannot be saved. ",
-             "Couldn't find AppData directory")
-ERROR_NUMBERS = {"full": {61}, "denied": {70, 75}, "broken": {57}}
+# Boxes of the program's own that tell of a fault: of the application, of the table behind the supervisor's grid, and of
+# the settings at the end.
+OWN_BOXES = ("Spectrometer reported an error", "The product table cannot be read. ", "The settings cannot be saved. ")
+# What befalls a network drive, until somebody has seen to it.
+GONE = ("read-only", "stale", "unplugged")
+GONE_EVERY = 9
+ERROR_NUMBERS = {"full": {61}, "denied": {70, 75}, "broken": {57}, "read-only": {70}, "stale": {71}, "unplugged": {71}}
+TRIAL_SECONDS = 30
 MOST_EVENTS_TOLD = 6
 
 Operation = collections.namedtuple("Operation", "number name faults path")
@@ -112,7 +117,11 @@ class Scenario:
         """Every fault that is to be tried. A full or vanished disk stays so until somebody has seen to it."""
         for operation in self.tried:
             changes = "kill-before" in operation.faults
+            if self.options.thorough or operation.number % GONE_EVERY == 0:
+                yield from (Fault(operation, kind, True) for kind in GONE if kind in operation.faults)
             for kind in operation.faults:
+                if kind in GONE:
+                    continue
                 if kind == "kill-after" and not self.options.thorough:
                     continue  # The disk is as it is when the next operation is killed before it begins.
                 if not changes and operation.name in ("look", "list") and not self.options.thorough:
@@ -178,15 +187,15 @@ class Trial:
 
     def check_what_was_told(self, console, began_on):
         self.check_message(console)
+        while console.box is not None:
+            buttons = console.box.get("buttons")
+            self.told += console.play("answer No" if buttons == ["Yes", "No"] else "answer OK")
         if console.exit_event:
             # Without its data folder the program does not start. It says why and goes with status 1.
             require(console.end() == 1, "the program ended without being told to")
             self.lift()
             self.go_on_anew()
             return
-        while console.box is not None:
-            buttons = console.box.get("buttons")
-            self.told += console.play("answer No" if buttons == ["Yes", "No"] else "answer OK")
         self.check_filing_was_told()
         for name in list(console.modal):
             console.play(f"close {name}")
@@ -246,6 +255,14 @@ class Trial:
         require(not wrong, f"once the fault is gone, \"{line}\" gives {wrong}")
         return events
 
+    def settle_standard(self, console):
+        """The supervisor lets a Standard that was filed without its row enter the table."""
+        self.play_undisturbed(console, scenarios.SUPERVISOR[0])
+        if console.box is not None:
+            require("does not name it" in console.box["text"], f"not told of as filed: {console.box}")
+            self.play_undisturbed(console, "answer Yes")
+        self.play_undisturbed(console, "click frmVeritane.cmdMainMenu")
+
     def go_on(self, console):
         """A sample of the same product and the ordinary end, with nothing disturbed any more."""
         self.check.has_next_sample = True
@@ -254,6 +271,8 @@ class Trial:
             self.play_undisturbed(console, f"click frmVeritane.{back}")
         if console.panel == "fraSupervisorMode":
             self.play_undisturbed(console, "click frmVeritane.cmdMainMenu")
+        if PENDING in Archive(self.root).files:
+            self.settle_standard(console)
         lines = scenarios.sample(NEXT_SAMPLE)
         for line in lines[:lines.index("answer OK") - 1]:
             self.play_undisturbed(console, line)
@@ -271,8 +290,13 @@ class Trial:
         self.announced = self.announced + console.announced
 
 
+def hang(*_):
+    raise Finding(f"the program is silent for {TRIAL_SECONDS} seconds")
+
+
 def main():
     options = parse_arguments()
+    signal.signal(signal.SIGALRM, hang)
     with tempfile.TemporaryDirectory(prefix="veritane-faults-") as folder:
         scenario = Scenario(options.scenario, options, Path(folder).resolve())
         tried, findings = collections.Counter(), 0
@@ -281,11 +305,13 @@ def main():
                 continue
             trial = Trial(scenario, fault)
             tried[fault.kind] += 1
+            signal.alarm(TRIAL_SECONDS)
             try:
                 trial.run()
             except Finding as finding:
                 findings += 1
                 report(scenario, trial, finding)
+            signal.alarm(0)
         kinds = ", ".join(f"{count} {kind}" for kind, count in sorted(tried.items()))
         print(f"{scenario.name}: {tried.total()} faults at {len(scenario.operations)} operations ({kinds}), "
               f"{findings} findings")
