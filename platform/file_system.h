@@ -12,7 +12,8 @@
 namespace veritane::platform {
 
 // A file that stays open for appending. Each call is one write, so a failure leaves no half line. One that
-// was deleted or renamed meanwhile is made anew, so that nothing goes where nobody finds it.
+// was deleted or renamed meanwhile, where the system allows that, is made anew, so that nothing goes where
+// nobody finds it.
 class AppendingFile {
 public:
   virtual ~AppendingFile() = default;

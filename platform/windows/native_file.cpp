@@ -119,8 +119,9 @@ NativeFile NativeFile::OpenToRead(const fs::path& native, const std::string& pat
 
 NativeFile NativeFile::OpenToAppend(const fs::path& native, const std::string& path) {
   if (IsFolder(native)) throw RunTimeError(ErrorNumber::kPathFileAccess, path);
-  const HANDLE handle = ::CreateFileW(native.c_str(), GENERIC_WRITE, kShareAll, nullptr, OPEN_ALWAYS,
-                                      FILE_ATTRIBUTE_NORMAL, nullptr);
+  // Nobody deletes or renames it meanwhile: the name of a deleted file would take lines that nobody finds.
+  const HANDLE handle = ::CreateFileW(native.c_str(), GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE,
+                                      nullptr, OPEN_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
   if (handle == INVALID_HANDLE_VALUE) RaiseWriteError(::GetLastError(), path);
   return {reinterpret_cast<Handle>(handle), native, path};
 }

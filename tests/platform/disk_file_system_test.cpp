@@ -89,18 +89,6 @@ TEST_F(DiskFileSystemTest, AppendingGoesOnWhereTheFileEnds) {
   EXPECT_EQ(files_.ReadBytes("C:\\Data\\log.txt"), "one\r\ntwo\r\n");
 }
 
-TEST_F(DiskFileSystemTest, WhatIsAppendedToAFileThatWasDeletedOrRenamedLandsInANewOne) {
-  auto log = files_.OpenForAppending("C:\\Data\\log.txt");
-  log->Append("one\r\n");
-  files_.MoveFile("C:\\Data\\log.txt", "C:\\Data\\kept.txt");
-  log->Append("two\r\n");
-  files_.DeleteFile("C:\\Data\\log.txt");
-  log->Append("three\r\n");
-  log->Append("four\r\n");
-  EXPECT_EQ(files_.ReadBytes("C:\\Data\\kept.txt"), "one\r\n");
-  EXPECT_EQ(files_.ReadBytes("C:\\Data\\log.txt"), "three\r\nfour\r\n");
-}
-
 TEST_F(DiskFileSystemTest, OnlyWhatAWriterThatIsGoneLeftIsCleared) {
   std::optional<NativeFile> writer =
       NativeFile::CreateBeside(paths_.ToNative("C:\\Data\\Meth.tbl"), "C:\\Data\\Meth.tbl");

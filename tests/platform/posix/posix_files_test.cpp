@@ -35,6 +35,18 @@ TEST_F(PosixFilesTest, WhatCannotBeLookedAtIsNotTakenForMissing) {
   EXPECT_EQ(ErrorOf([&] { files_.MoveFile("C:\\Data\\loop", "C:\\Data\\other"); }), 57);
 }
 
+TEST_F(PosixFilesTest, WhatIsAppendedToAFileThatWasDeletedOrRenamedLandsInANewOne) {
+  auto log = files_.OpenForAppending("C:\\Data\\log.txt");
+  log->Append("one\r\n");
+  files_.MoveFile("C:\\Data\\log.txt", "C:\\Data\\kept.txt");
+  log->Append("two\r\n");
+  files_.DeleteFile("C:\\Data\\log.txt");
+  log->Append("three\r\n");
+  log->Append("four\r\n");
+  EXPECT_EQ(files_.ReadBytes("C:\\Data\\kept.txt"), "one\r\n");
+  EXPECT_EQ(files_.ReadBytes("C:\\Data\\log.txt"), "three\r\nfour\r\n");
+}
+
 TEST_F(PosixFilesTest, PathsOutsideOfDriveCAreBelowDriveZ) {
   EXPECT_EQ(paths_.ToWindows("/usr/share"), "Z:\\usr\\share");
   EXPECT_EQ(paths_.ToNative("Z:\\usr\\share"), fs::path("/usr/share"));

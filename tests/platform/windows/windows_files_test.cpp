@@ -154,5 +154,15 @@ TEST_F(WindowsFilesTest, WithoutADataRootPathsAreTheSystemsOwn) {
   EXPECT_EQ(own.folders.CommonApplicationData(false), data);
 }
 
+TEST_F(WindowsFilesTest, AFileThatIsOpenForAppendingIsNeitherDeletedNorRenamed) {
+  auto log = machine_.files.OpenForAppending("C:\\Data\\log.txt");
+  log->Append("one\r\n");
+  const fs::path native = machine_.paths.ToNative("C:\\Data\\log.txt");
+  EXPECT_FALSE(::DeleteFileW(native.c_str()));
+  EXPECT_FALSE(::MoveFileW(native.c_str(), (native.parent_path() / "kept.txt").c_str()));
+  log->Append("two\r\n");
+  EXPECT_EQ(machine_.files.ReadBytes("C:\\Data\\log.txt"), "one\r\ntwo\r\n");
+}
+
 }  // namespace
 }  // namespace veritane::platform
