@@ -2,6 +2,7 @@
 #include "acquisition/collection.h"
 
 #include "acquisition/opened_documents.h"
+#include "platform/automation.h"
 #include "platform/run_time_error.h"
 #include "shell/state/messages.h"
 
@@ -52,6 +53,8 @@ void ExplainBackground(Bench& bench, const std::string& path) {
     opened.Add(background);
     background->GetSpectrum()->SpectrumData();
   } catch (const platform::RunTimeError& error) {
+    // An application that is gone says nothing of the background.
+    if (error.Number() == platform::kServerGone || error.Number() == platform::kAutomationError) return;
     bench.desktop.ShowMessage({.text = Text(TextId::kBackgroundUnreadable, {error.what(), path}),
                                .title = Text(TextId::kWarningTitle),
                                .icon = MessageIcon::kCritical});

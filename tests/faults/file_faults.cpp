@@ -2,13 +2,13 @@
 // program is killed there, the disk is full, access is denied, or the device reports an error. Linux only.
 //
 // FILE_FAULTS_BELOW   the folder, absolute; without it nothing happens at all
-// FILE_FAULTS_REPORT  a file outside of it: a line per operation, "number name faults path", where faults are
-// those that
-//                     fit the operation; "fault number name path" where one was injected
+// FILE_FAULTS_REPORT  a file outside of it: a line per operation, "number name faults path", with the
+//                     faults that fit the operation; "fault number name path" where one was injected
 // FILE_FAULTS_AT      the number of the operation that fails, from 1
 // FILE_FAULTS_KIND    kill-before, kill-after, kill-halfway, full, denied, broken, read-only, stale or
-// unplugged FILE_FAULTS_WHILE   a file: as long as it is there, every later operation that the fault fits
-// fails, too
+//                     unplugged
+// FILE_FAULTS_WHILE   a file: as long as it is there, every later operation that the fault fits
+//                     fails, too
 #include <dlfcn.h>
 #include <fcntl.h>
 #include <sys/stat.h>
