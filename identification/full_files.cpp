@@ -5,7 +5,6 @@
 
 #include "acquisition/opened_documents.h"
 #include "acquisition/product_table.h"
-#include "platform/number_text.h"
 #include "platform/run_time_error.h"
 #include "platform/windows_path.h"
 

@@ -2,6 +2,8 @@
 #pragma once
 
 #include <memory>
+#include <optional>
+#include <string>
 
 #include "acquisition/bench.h"
 #include "acquisition/method_editor.h"

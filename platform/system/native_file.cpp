@@ -1,7 +1,6 @@
 // What an open file is made of, on every system.
 #include "platform/system/native_file.h"
 
-#include <algorithm>
 #include <utility>
 
 #include "platform/system/native_path.h"
