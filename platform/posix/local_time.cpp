@@ -1,4 +1,4 @@
-// The time zone of a POSIX system.
+// The clock and the time zone of a POSIX system.
 #include <algorithm>
 #include <ctime>
 
@@ -7,6 +7,10 @@
 #include "platform/texts.h"
 
 namespace veritane::platform {
+
+std::chrono::system_clock::time_point PresentMoment() {
+  return std::chrono::system_clock::now();
+}
 
 DateTime LocalTimeOf(std::chrono::system_clock::time_point moment) {
   const std::time_t seconds = std::chrono::system_clock::to_time_t(moment);

@@ -4,7 +4,7 @@
 namespace veritane::platform {
 
 std::chrono::system_clock::time_point SystemClock::Now() const {
-  return fixed_ ? *fixed_ : std::chrono::system_clock::now();
+  return fixed_ ? *fixed_ : PresentMoment();
 }
 
 DateTime SystemClock::ToLocal(std::chrono::system_clock::time_point moment) const {

@@ -21,6 +21,8 @@ private:
   std::optional<std::chrono::system_clock::time_point> fixed_;
 };
 
+std::chrono::system_clock::time_point PresentMoment();
+
 // The moment in the system's time zone, and back. Error 6 for a date that the system cannot tell.
 DateTime LocalTimeOf(std::chrono::system_clock::time_point moment);
 std::chrono::system_clock::time_point MomentOf(const DateTime& local);

@@ -1,9 +1,10 @@
-// The time zone of Windows, with the rules of each year.
+// The clock of Windows, and its time zone with the rules of each year.
 #include <windows.h>
 
 #include "platform/run_time_error.h"
 #include "platform/system/system_clock.h"
 #include "platform/texts.h"
+#include "platform/windows/file_time.h"
 
 namespace veritane::platform {
 
@@ -43,6 +44,13 @@ TIME_ZONE_INFORMATION RulesOf(WORD year) {
 }
 
 }  // namespace
+
+// Not the standard library's: in 32-bit programs that one ends in January 2038.
+std::chrono::system_clock::time_point PresentMoment() {
+  FILETIME time;
+  ::GetSystemTimePreciseAsFileTime(&time);
+  return MomentOf(time);
+}
 
 DateTime LocalTimeOf(std::chrono::system_clock::time_point moment) {
   const auto seconds = std::chrono::floor<std::chrono::seconds>(moment.time_since_epoch()).count();

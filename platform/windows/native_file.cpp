@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "platform/run_time_error.h"
+#include "platform/windows/file_time.h"
 
 namespace veritane::platform {
 
@@ -68,22 +69,6 @@ HANDLE HandleOf(std::intptr_t number) {
 bool IsFolder(const fs::path& native) {
   const DWORD attributes = ::GetFileAttributesW(native.c_str());
   return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
-}
-
-// A file's time counts tenths of microseconds from the year 1601.
-constexpr std::int64_t kTicksToUnixEpoch = 116'444'736'000'000'000;
-using Ticks = std::chrono::duration<std::int64_t, std::ratio<1, 10'000'000>>;
-
-FILETIME FileTimeOf(std::chrono::system_clock::time_point moment) {
-  const std::int64_t ticks =
-      std::chrono::duration_cast<Ticks>(moment.time_since_epoch()).count() + kTicksToUnixEpoch;
-  return {static_cast<DWORD>(ticks & 0xffffffff), static_cast<DWORD>(ticks >> 32)};
-}
-
-std::chrono::system_clock::time_point MomentOf(FILETIME time) {
-  const std::int64_t ticks = (std::int64_t{time.dwHighDateTime} << 32) | time.dwLowDateTime;
-  return std::chrono::system_clock::time_point(
-      std::chrono::duration_cast<std::chrono::system_clock::duration>(Ticks(ticks - kTicksToUnixEpoch)));
 }
 
 // The name that the file has on disk, which a replacement keeps: only its case can differ from what was asked

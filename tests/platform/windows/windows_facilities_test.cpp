@@ -9,6 +9,8 @@
 // Behind the program's own headers, whose names its macros would change.
 #include <windows.h>
 
+#include "platform/windows/file_time.h"
+
 namespace veritane::platform {
 namespace {
 
@@ -92,6 +94,18 @@ TEST(WindowsClock, GoesByTheTimeZoneAndStandsWhenItIsSet) {
   const DateTime summer{.year = 2026, .month = 7, .day = 1, .hour = 0, .minute = 30, .second = 5};
   clock.Set(summer);
   EXPECT_EQ(clock.LocalNow(), summer);
+}
+
+TEST(WindowsClock, CountsBeyond2038InEveryWidth) {
+  SYSTEMTIME told{};
+  told.wYear = 2040;
+  told.wMonth = 6;
+  told.wDay = 1;
+  told.wHour = 12;
+  FILETIME time;
+  ASSERT_TRUE(::SystemTimeToFileTime(&told, &time));
+  const auto seconds = std::chrono::floor<std::chrono::seconds>(MomentOf(time).time_since_epoch()).count();
+  EXPECT_EQ(FromWallClockSeconds(seconds), (DateTime{.year = 2040, .month = 6, .day = 1, .hour = 12}));
 }
 
 }  // namespace

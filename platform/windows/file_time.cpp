@@ -1,0 +1,27 @@
+// Tenths of microseconds from the year 1601.
+#include "platform/windows/file_time.h"
+
+#include <cstdint>
+
+namespace veritane::platform {
+
+namespace {
+
+constexpr std::int64_t kTicksToUnixEpoch = 116'444'736'000'000'000;
+using Ticks = std::chrono::duration<std::int64_t, std::ratio<1, 10'000'000>>;
+
+}  // namespace
+
+FILETIME FileTimeOf(std::chrono::system_clock::time_point moment) {
+  const std::int64_t ticks =
+      std::chrono::duration_cast<Ticks>(moment.time_since_epoch()).count() + kTicksToUnixEpoch;
+  return {static_cast<DWORD>(ticks & 0xffffffff), static_cast<DWORD>(ticks >> 32)};
+}
+
+std::chrono::system_clock::time_point MomentOf(FILETIME time) {
+  const std::int64_t ticks = (std::int64_t{time.dwHighDateTime} << 32) | time.dwLowDateTime;
+  return std::chrono::system_clock::time_point(
+      std::chrono::duration_cast<std::chrono::system_clock::duration>(Ticks(ticks - kTicksToUnixEpoch)));
+}
+
+}  // namespace veritane::platform

@@ -1,0 +1,13 @@
+// Windows' own count of time, in which its clock and its files tell moments.
+#pragma once
+
+#include <windows.h>
+
+#include <chrono>
+
+namespace veritane::platform {
+
+FILETIME FileTimeOf(std::chrono::system_clock::time_point moment);
+std::chrono::system_clock::time_point MomentOf(FILETIME time);
+
+}  // namespace veritane::platform
