@@ -35,6 +35,8 @@ set(pkgcfg_lib_cairo_z /usr/${veritane_host}/lib/libz.a CACHE FILEPATH "zlib, li
 file(GLOB wxWidgets_CONFIG_EXECUTABLE
      ${CMAKE_CURRENT_LIST_DIR}/../../build/windows/libraries-${veritane_architecture}/wxwidgets/bin/wx-config)
 
+# Debian's own, which the tests find wherever they are run.
+set(Python3_EXECUTABLE /usr/bin/python3)
 find_program(veritane_wine wine)
 if(veritane_wine)
   set(CMAKE_CROSSCOMPILING_EMULATOR ${CMAKE_CURRENT_LIST_DIR}/run_under_wine)

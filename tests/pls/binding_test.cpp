@@ -92,6 +92,10 @@ TEST_F(Binding, ALibraryThatIsNoneOrLacksAFunctionSaysSo) {
 }
 
 TEST_F(Binding, WhatTheLibraryThrowsBecomesARunTimeError) {
+#if defined(_WIN32) && !defined(_WIN64)
+  GTEST_SKIP()
+      << "A 32-bit DLL with a runtime of its own ends the program itself when an exception leaves it.";
+#endif
   Install(VERITANE_FOREIGN_LIBRARY);
   EXPECT_EQ(ErrorOf([&] { library_.PlsIqPredic(31, 2); }), 5);
   EXPECT_THAT(TextOf([&] { library_.PlsIqPredic(31, 2); }), HasSubstr("PlsIqPredic"));
