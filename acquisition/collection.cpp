@@ -1,8 +1,6 @@
 // The collection that background, Standard and sample share.
 #include "acquisition/collection.h"
 
-#include "acquisition/opened_documents.h"
-#include "platform/automation.h"
 #include "platform/run_time_error.h"
 #include "shell/state/messages.h"
 
@@ -45,16 +43,12 @@ void ShowInstrumentError(platform::Desktop& desktop, int error_number) {
 
 namespace {
 
-// The instrument's number says nothing of files to who reads it.
+// The instrument's number says nothing of files to who reads it. The program looks for itself: the
+// application, which has just failed, is asked for nothing.
 void ExplainBackground(Bench& bench, const std::string& path) {
   try {
-    OpenedDocuments opened;
-    const auto background = bench.session.SpectrometerApp->OpenDocument(path);
-    opened.Add(background);
-    background->GetSpectrum()->SpectrumData();
+    bench.machine.files.ReadBytes(path);
   } catch (const platform::RunTimeError& error) {
-    // An application that is gone says nothing of the background.
-    if (error.Number() == platform::kServerGone || error.Number() == platform::kAutomationError) return;
     bench.desktop.ShowMessage({.text = Text(TextId::kBackgroundUnreadable, {error.what(), path}),
                                .title = Text(TextId::kWarningTitle),
                                .icon = MessageIcon::kCritical});

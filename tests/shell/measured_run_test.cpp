@@ -149,11 +149,13 @@ TEST_F(MeasuredRunTest, AFailedBackgroundLeavesTheOldOneAsItWas) {
   EXPECT_NE(Read(Standard("backDisc.bsp")), old) << "before every sample";
 }
 
-TEST_F(MeasuredRunTest, ABackgroundThatCannotBeReadIsNamed) {
+TEST_F(MeasuredRunTest, ABackgroundThatIsGoneWhenTheSampleLiesReadyIsNamed) {
   Measure();
-  Write(Standard("backDisc.bsp"), "##TITLE= half a back");
   Play({"click frmVeritane.cmdBacktoMainMenu"});
-  EXPECT_THAT(MeasureAsItIs(3).Messages(),
+  Steps steps = EnterSample("PS");
+  steps.insert(steps.end(), {[this] { machine_.files.DeleteFile(Standard("backDisc.bsp")); }, "answer OK",
+                             "answer OK", "answer OK"});
+  EXPECT_THAT(Play(steps).Messages(),
               ElementsAre(StartsWith(" Ready for Sample."), " Spectrometer reported an error. Error #11081",
                           HasSubstr("The background " + Standard("backDisc.bsp") +
                                     " cannot be used. Please collect")));
