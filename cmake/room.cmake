@@ -18,6 +18,10 @@ function(veritane_room)
     set(sources ${CMAKE_CURRENT_BINARY_DIR}/${ROOM_NAME}_empty.cpp)
   endif()
   add_library(${ROOM_NAME} STATIC ${sources} ${headers})
+  # CI compiles several sources as one, which takes a third of the time. windows.h would bring its names to the others.
+  set(sources_by_themselves ${sources})
+  list(FILTER sources_by_themselves INCLUDE REGEX "/platform/windows/[^/]*(/printing/[^/]*)?$")
+  set_source_files_properties(${sources_by_themselves} PROPERTIES SKIP_UNITY_BUILD_INCLUSION ON)
   set_target_properties(${ROOM_NAME} PROPERTIES LINKER_LANGUAGE CXX)
   target_include_directories(${ROOM_NAME} PUBLIC ${CMAKE_SOURCE_DIR})
 
