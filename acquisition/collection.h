@@ -23,10 +23,10 @@ std::string DemonstrationFile(const std::string& algorithm);
 // Asks for the sample, with the method's prompt.
 void AnnounceSample(platform::Desktop& desktop, const std::string& prompt);
 
-// Collects into the current document, against the background of that path unless it is empty, while "
-// Scanning..." shows; in demonstration mode nothing is measured. A wrong accessory is asked about until it is
-// right or the user cancels (the document is then closed without saving). Any other error is shown, followed
-// by what is the matter where the background cannot be read, and the application is handed back to the user.
+// Collects into the current document while " Scanning..." shows; in demonstration mode nothing is measured. A
+// wrong accessory is asked about until it is right or the user cancels (the document is then closed without
+// saving). Any other error is shown, and the application is handed back to the user. Where a background is
+// measured against, `background_path` names its file, which is named, too, when it cannot be read.
 CollectOutcome CollectIntoDocument(Bench& bench, const std::string& background_path);
 
 // The message for an error number of the instrument.

@@ -9,6 +9,7 @@ nothing for a while. Prints one JSON object; wall times in milliseconds, memory 
 import argparse
 import json
 import os
+import re
 import statistics
 import subprocess
 import sys
@@ -27,11 +28,15 @@ def work_of(process):
     return int(Path(f"/proc/{process.pid}/schedstat").read_text().split()[0])
 
 
+def output_of_xwininfo(*words):
+    return subprocess.run(["xwininfo", *words], capture_output=True, text=True, check=True).stdout
+
+
 def is_shown(process):
-    found = subprocess.run(["xwininfo", "-name", "Veritane - Version 1.0.0"], capture_output=True, text=True, check=False)
+    found = re.search(r'(0x\w+) "Veritane - Version ', output_of_xwininfo("-root", "-tree"))
     if process.poll() is not None:
         sys.exit(f"the program ended with {process.returncode} instead of starting")
-    return "IsViewable" in found.stdout
+    return found is not None and "IsViewable" in output_of_xwininfo("-id", found[1])
 
 
 def most_memory(process):

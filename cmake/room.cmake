@@ -18,7 +18,7 @@ function(veritane_room)
     set(sources ${CMAKE_CURRENT_BINARY_DIR}/${ROOM_NAME}_empty.cpp)
   endif()
   add_library(${ROOM_NAME} STATIC ${sources} ${headers})
-  # CI compiles several sources as one, which takes a third of the time. windows.h would bring its names to the others.
+  # Some presets compile several sources as one, to save time. windows.h would bring its names to the others.
   set(sources_by_themselves ${sources})
   list(FILTER sources_by_themselves INCLUDE REGEX "/platform/windows/[^/]*(/printing/[^/]*)?$")
   set_source_files_properties(${sources_by_themselves} PROPERTIES SKIP_UNITY_BUILD_INCLUSION ON)
