@@ -1,13 +1,20 @@
 // The choosers for calibration and peak files.
 #include "acquisition/additional_file.h"
 
+#include "shell/state/messages.h"
 #include "shell/state/program_state.h"
-#include "shell/state/string_table.h"
 
 namespace veritane::acquisition {
 
 using state::Text;
 using state::TextId;
+
+namespace {
+
+constexpr const char* kCalibrationFilter = "(*.cal)|*.cal";
+constexpr const char* kPeakFilter = "(*.txt)|*.txt";
+
+}  // namespace
 
 bool NeedsAdditionalFile(const std::string& algorithm) {
   return algorithm == state::kPls || algorithm == state::kMarkPeaks;
@@ -15,16 +22,17 @@ bool NeedsAdditionalFile(const std::string& algorithm) {
 
 std::optional<std::string> ChooseAdditionalFile(platform::Desktop& desktop, const state::DataFolders& folders,
                                                 const std::string& algorithm) {
-  if (algorithm == state::kPls) {
-    return desktop.ChooseFile({.title = Text(TextId::kSelectCalibrationFile),
-                               .filter = "(*.cal)|*.cal",
-                               .folder = folders.stdsDir});
+  if (!NeedsAdditionalFile(algorithm)) return std::nullopt;
+  const bool is_calibration = algorithm == state::kPls;
+  const auto path = desktop.ChooseFile(
+      {.title = Text(is_calibration ? TextId::kSelectCalibrationFile : TextId::kSelectPeakFile),
+       .filter = is_calibration ? kCalibrationFilter : kPeakFilter,
+       .folder = folders.stdsDir});
+  if (path && path->find_first_of("\"\r\n") != std::string::npos) {
+    state::PlainNotice(desktop, Text(TextId::kCannotStandInTable, {*path}));
+    return std::nullopt;
   }
-  if (algorithm == state::kMarkPeaks) {
-    return desktop.ChooseFile(
-        {.title = Text(TextId::kSelectPeakFile), .filter = "(*.txt)|*.txt", .folder = folders.stdsDir});
-  }
-  return std::nullopt;
+  return path;
 }
 
 }  // namespace veritane::acquisition

@@ -68,15 +68,24 @@ platform::AutomationValue Argument(const Contract& object) {
   return client->Server().AsArgument();
 }
 
+// The number that the instrument answers. No answer is no success, which would be 0.
+std::int32_t CodeOf(const platform::AutomationValue& answer) {
+  if (std::holds_alternative<std::monostate>(answer)) {
+    throw platform::RunTimeError(platform::ErrorNumber::kTypeMismatch,
+                                 state::Text(state::TextId::kNoInstrumentAnswer));
+  }
+  return Int32Of(answer);
+}
+
 class AutomationDocument : public Document {
 public:
   explicit AutomationDocument(ServerObject document) : document_(std::move(document)) {}
 
   std::int32_t AutoAlign(CollectMethod& method) override {
-    return Int32Of(document_.Use(Member::kAutoAlign, {Argument<AutomationCollectMethod>(method)}));
+    return CodeOf(document_.Use(Member::kAutoAlign, {Argument<AutomationCollectMethod>(method)}));
   }
   std::int32_t CollectInto(CollectMethod& method) override {
-    return Int32Of(document_.Use(Member::kCollectInto, {Argument<AutomationCollectMethod>(method)}));
+    return CodeOf(document_.Use(Member::kCollectInto, {Argument<AutomationCollectMethod>(method)}));
   }
   void CloseDocument(bool save) override { document_.Use(Member::kCloseDocument, {save}); }
   void CloseDocument() override { document_.Use(Member::kCloseDocument); }

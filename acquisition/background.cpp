@@ -1,6 +1,7 @@
 // The background's schedule and its collection.
 #include "acquisition/background.h"
 
+#include "acquisition/opened_documents.h"
 #include "acquisition/spectrum_drawing.h"
 #include "platform/run_time_error.h"
 #include "shell/state/messages.h"
@@ -33,21 +34,25 @@ void AnnounceBackground(platform::Desktop& desktop, const std::string& prompt) {
 CollectOutcome CollectBackground(Bench& bench) {
   SpectrometerSession& session = bench.session;
   const bool is_demonstration = bench.state.options.demoMode != 0;
+  OpenedDocuments opened;
   if (is_demonstration) {
-    session.Open(bench.state.folders.InStandards("back.bsp"));
+    opened.Open(session, bench.state.folders.InStandards("back.bsp"));
   } else {
-    session.Create(bench.state.BackGroundName);
+    opened.Create(session, bench.state.BackGroundName);
   }
   PrepareMeasurement(bench, bench.state.clmFile, "");
   const CollectOutcome outcome = CollectIntoDocument(bench, "");
-  if (outcome != CollectOutcome::kCollected) return outcome;
+  if (outcome != CollectOutcome::kCollected) {
+    opened.ReleaseLast();
+    return outcome;
+  }
 
   bench.state.Back = session.ReadSpectrum();
   const OrdinateRange range = DrawSpectrum(bench.panel.chart, bench.state.Back, "");
   bench.state.backminm = range.low;
   bench.state.backmaxm = range.high;
   try {
-    session.CurrentDocument->CloseDocument(true);
+    opened.ReleaseLast()->CloseDocument(true);
   } catch (const platform::RunTimeError& error) {
     throw platform::RunTimeError(error.Number(), Text(TextId::kBackgroundNotFiled, {error.what()}));
   }

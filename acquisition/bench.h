@@ -42,7 +42,7 @@ private:
   Bench& bench_;
 };
 
-// Shows a text in the status window, with the hourglass pointer, for as long as it lives or until Hide.
+// Shows a text in the status window, with the hourglass pointer, for as long as it lives.
 class StatusShown {
 public:
   StatusShown(Bench& bench, const std::string& text);

@@ -1,6 +1,7 @@
 // Editing the list of null regions.
 #include "acquisition/frm_null_region.h"
 
+#include "platform/number_text.h"
 #include "shell/state/messages.h"
 
 namespace veritane::acquisition {
@@ -39,6 +40,12 @@ bool FrmNullRegion::txtNullEnd_KeyPress(int key) {
 
 void FrmNullRegion::cmdAddNullRegion_Click() {
   if (txtNullStart.Text().empty() || txtNullEnd.Text().empty()) return;
+  // Pasted text is not filtered key by key.
+  if (!platform::ParseNumber(txtNullStart.Text()) || !platform::ParseNumber(txtNullEnd.Text())) {
+    state::PlainNotice(Screen(), state::Text(state::TextId::kNullRegionNeedsWavenumbers));
+    txtNullStart.SetFocus();
+    return;
+  }
   lstNulls.Add(txtNullStart.Text() + " - " + txtNullEnd.Text());
   txtNullStart.SetText("");
   txtNullEnd.SetText("");

@@ -1,10 +1,11 @@
 // Adding and deleting collect methods, and editing what belongs to one.
 #include "acquisition/method_editor.h"
 
+#include "acquisition/background.h"
 #include "acquisition/method_list.h"
 #include "acquisition/null_regions.h"
+#include "acquisition/product_table.h"
 #include "acquisition/prompts.h"
-#include "platform/run_time_error.h"
 #include "platform/text_file.h"
 #include "platform/windows_path.h"
 #include "shell/state/messages.h"
@@ -30,20 +31,28 @@ void MethodEditor::AddMethod() {
   if (!path) return;
   const std::string previous = state_.methodShortNames.empty() ? "" : state_.methodShortNames.back();
   const std::string short_name = MethodShortName(*path, previous);
-  if (const std::string why = platform::WhyNotAFileName(short_name); !why.empty()) {
-    desktop_.ShowMessage({.text = Text(TextId::kNotACollectMethod, {*path, why}),
-                          .title = Text(TextId::kPlainNotice),
-                          .icon = MessageIcon::kExclamation});
+  if (const std::string why = WhyNotAMethod(short_name); !why.empty()) {
+    state::PlainNotice(desktop_, Text(TextId::kNotACollectMethod, {*path, why}));
     return;
   }
   std::vector<std::string> paths = state_.methodPaths;
   paths.push_back(*path);
   // The list in memory follows only what is on disk.
-  files_.WriteBytes(MethodListPath(state_), platform::CountedLines(paths));
+  SaveMethodList(files_, state_, paths);
   state_.methodPaths = std::move(paths);
   state_.methodShortNames.push_back(short_name);
   controls_.lstMeths.Add(*path);
   AskForPrompts(short_name);
+}
+
+std::string MethodEditor::WhyNotAMethod(const std::string& short_name) const {
+  if (const std::string why = platform::WhyNotAFileName(short_name); !why.empty()) return why;
+  // Its background would be written over the Standard of that product.
+  const std::string table = ProductTablePath(state_);
+  const std::string background = platform::LeafWithoutExtension(BackgroundPath(state_.folders, short_name));
+  return FindProduct(files_.ReadBytes(table), background, table)
+             ? Text(TextId::kBackgroundIsStandard, {background})
+             : "";
 }
 
 void MethodEditor::AskForPrompts(const std::string& short_name) {
@@ -66,7 +75,7 @@ void MethodEditor::DeleteMethod() {
   }
   std::vector<std::string> paths = state_.methodPaths;
   paths.erase(paths.begin() + selected);
-  files_.WriteBytes(MethodListPath(state_), platform::CountedLines(paths));
+  SaveMethodList(files_, state_, paths);
   load_methods_();
 }
 
@@ -90,7 +99,8 @@ void MethodEditor::EditNullRegions() {
   dialog.txtNullStart.SetText("");
   dialog.txtNullEnd.SetText("");
   dialog.lstNulls.Clear();
-  dialog.lstNulls.AddAll(controls_.lstNullRegions.Items());
+  // From the file, since the list on the panel is empty when it cannot be read; then nothing is written over.
+  dialog.lstNulls.AddAll(ReadNullRegionLines(files_, NullRegionPath(state_.folders, SelectedShortName())));
   dialog.ShowModal();
   const std::vector<std::string> regions = dialog.lstNulls.Items();
   files_.WriteBytes(NullRegionPath(state_.folders, SelectedShortName()), platform::CountedLines(regions));

@@ -37,6 +37,8 @@ public:
 
 private:
   std::string SelectedShortName() const;
+  // As the end of a sentence that names the method's file, or "".
+  std::string WhyNotAMethod(const std::string& short_name) const;
   void AskForPrompts(const std::string& short_name);
 
   platform::Desktop& desktop_;

@@ -37,8 +37,9 @@ void LoadMethodList(const platform::FileSystem& files, state::ProgramState& stat
   }
 }
 
-void SaveMethodList(platform::FileSystem& files, const state::ProgramState& state) {
-  files.WriteBytes(MethodListPath(state), platform::CountedLines(state.methodPaths));
+void SaveMethodList(platform::FileSystem& files, const state::ProgramState& state,
+                    const std::vector<std::string>& paths) {
+  files.WriteBytes(MethodListPath(state), platform::CountedLines(paths));
 }
 
 }  // namespace veritane::acquisition

@@ -28,7 +28,8 @@ struct MethodListControls {
 void LoadMethodList(const platform::FileSystem& files, state::ProgramState& state,
                     const MethodListControls& controls);
 
-// Writes the list from the state's array.
-void SaveMethodList(platform::FileSystem& files, const state::ProgramState& state);
+// Writes these paths as the list.
+void SaveMethodList(platform::FileSystem& files, const state::ProgramState& state,
+                    const std::vector<std::string>& paths);
 
 }  // namespace veritane::acquisition

@@ -22,6 +22,11 @@ void OpenedDocuments::Open(SpectrometerSession& session, const std::string& path
   Add(session.CurrentDocument);
 }
 
+void OpenedDocuments::Create(SpectrometerSession& session, const std::string& path) {
+  session.Create(path);
+  Add(session.CurrentDocument);
+}
+
 void OpenedDocuments::Add(std::shared_ptr<Document> document) {
   documents_.push_back(std::move(document));
 }

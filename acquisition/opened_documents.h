@@ -19,8 +19,9 @@ public:
   OpenedDocuments(const OpenedDocuments&) = delete;
   OpenedDocuments& operator=(const OpenedDocuments&) = delete;
 
-  // Opens a file as the session's current document.
+  // Opens or creates a file as the session's current document.
   void Open(SpectrometerSession& session, const std::string& path);
+  void Create(SpectrometerSession& session, const std::string& path);
   // Takes a document that is open already.
   void Add(std::shared_ptr<Document> document);
   // The application may hand out another object for the document opened last.

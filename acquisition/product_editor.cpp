@@ -29,9 +29,8 @@ void ProductEditor::Load() {
   } catch (const platform::RunTimeError& error) {
     controls_.grid.Resize(1, controls_.grid.ColumnCount());
     desktop_.SetMousePointer(platform::Pointer::kDefault);
-    desktop_.ShowMessage({.text = Text(TextId::kProductTableUnreadable, {error.what()}),
-                          .title = Text(TextId::kPlainNotice),
-                          .icon = MessageIcon::kCritical});
+    state::PlainNotice(desktop_, Text(TextId::kProductTableUnreadable, {error.what()}),
+                       MessageIcon::kCritical);
   }
   ShowCurrentRow();
 }
@@ -108,14 +107,22 @@ bool ProductEditor::CompleteRow(int row) {
   return true;
 }
 
-bool ProductEditor::Save() {
-  if (!is_loaded_) return true;
+bool ProductEditor::CompleteRows(std::optional<int> but_for) {
   for (int row = controls_.grid.FixedRows(); row < controls_.grid.RowCount(); ++row) {
-    if (!CompleteRow(row)) return false;
+    if (row != but_for && !CompleteRow(row)) return false;
   }
-  std::vector<Product> products = Products();
+  return true;
+}
+
+void ProductEditor::Write(std::vector<Product> products) {
   files_.WriteBytes(ProductTablePath(state_), ProductTableText(products));
   saved_ = std::move(products);
+}
+
+bool ProductEditor::Save() {
+  if (!is_loaded_) return true;
+  if (!CompleteRows()) return false;
+  Write(Products());
   return true;
 }
 
@@ -127,10 +134,18 @@ bool ProductEditor::MayDelete() const {
   const auto& cells = controls_.grid.Rows().at(static_cast<std::size_t>(controls_.grid.Row()));
   const bool is_empty =
       std::all_of(cells.begin(), cells.end(), [](const auto& cell) { return cell.empty(); });
-  return is_empty || desktop_.ShowMessage({.text = Text(TextId::kDeleteProduct, {cells[kProductId]}),
+  const TextId question = HasOtherRow(cells[kProductId]) ? TextId::kDeleteRow : TextId::kDeleteProduct;
+  return is_empty || desktop_.ShowMessage({.text = Text(question, {cells[kProductId]}),
                                            .title = Text(TextId::kDeleteProductTitle),
                                            .icon = MessageIcon::kQuestion,
                                            .buttons = MessageButtons::kYesNo}) == MessageAnswer::kYes;
+}
+
+bool ProductEditor::HasOtherRow(const std::string& product_id) const {
+  const std::vector<Product> products = Products();
+  return std::count_if(products.begin(), products.end(), [&](const Product& product) {
+           return platform::UpperCase(product.productId) == platform::UpperCase(product_id);
+         }) > 1;
 }
 
 void ProductEditor::DeleteFiles(const std::string& product_id) {
@@ -146,11 +161,17 @@ void ProductEditor::DeleteProduct() {
   constexpr int kHeaderAndLastProduct = 2;
   platform::Grid& grid = controls_.grid;
   if (grid.RowCount() <= kHeaderAndLastProduct || !HasCurrentRow() || !MayDelete()) return;
-  const std::string product_id = grid.Cell(grid.Row(), kProductId);
-  if (!product_id.empty()) DeleteFiles(product_id);
-  grid.RemoveRow(grid.Row());
+  const int row = grid.Row();
+  if (!CompleteRows(row)) return;
+  const std::string product_id = grid.Cell(row, kProductId);
+  // The files go last: while the table cannot be written, the product keeps them.
+  const bool goes_with_files = !product_id.empty() && !HasOtherRow(product_id);
+  std::vector<Product> products = Products();
+  products.erase(products.begin() + (row - grid.FixedRows()));
+  Write(std::move(products));
+  grid.RemoveRow(row);
   ShowCurrentRow();
-  Save();
+  if (goes_with_files) DeleteFiles(product_id);
 }
 
 }  // namespace veritane::acquisition

@@ -2,6 +2,7 @@
 // was changed.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -42,7 +43,8 @@ public:
   void ChangeCollectMethod();
   void ChangeAlgorithm();
   void ChooseFile();
-  // Deletes the current product with its files, after a question. The last product stays.
+  // Deletes the current product with its files, after a question; where another row has its Product ID, the
+  // row alone. The last product stays.
   void DeleteProduct();
 
 private:
@@ -51,7 +53,12 @@ private:
   bool HasCurrentRow() const;
   std::vector<Product> Products() const;
   bool CompleteRow(int row);
+  // False when the user broke off.
+  bool CompleteRows(std::optional<int> but_for = std::nullopt);
+  void Write(std::vector<Product> products);
   bool MayDelete() const;
+  // Whether more than one row has this Product ID; files belong to all of them.
+  bool HasOtherRow(const std::string& product_id) const;
   void DeleteFiles(const std::string& product_id);
 
   platform::Desktop& desktop_;

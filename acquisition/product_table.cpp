@@ -93,9 +93,7 @@ void LoadProductTable(const platform::FileSystem& files, const std::string& path
                  Text(TextId::kAlgorithmHeader) + " |<" + Text(TextId::kFileNameHeader));
   grid.SetBody(std::move(rows));
   if (grid.RowCount() < 2) return;
-  const bool is_there_already = grid.Row() == 1 && grid.Column() == 0;
   grid.SetCurrentCell(1, 0);
-  if (is_there_already && grid.OnRowColChange) grid.OnRowColChange();
 }
 
 }  // namespace veritane::acquisition

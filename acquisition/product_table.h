@@ -39,8 +39,7 @@ std::string ProductTableText(const std::vector<Product>& products);
 std::vector<Product> AppendProduct(platform::FileSystem& files, const std::string& path,
                                    const Product& product);
 
-// Shows the table in the grid: header, one row a product, the first product current (its row-selection event
-// follows).
+// Shows the table in the grid: header, one row a product, the first product current.
 void LoadProductTable(const platform::FileSystem& files, const std::string& path, platform::Grid& grid);
 
 }  // namespace veritane::acquisition

@@ -1,6 +1,11 @@
 // Opening documents and reading spectra through the Spectrometer application.
 #include "acquisition/spectrometer_session.h"
 
+#include <cmath>
+
+#include "platform/run_time_error.h"
+#include "shell/state/string_table.h"
+
 namespace veritane::acquisition {
 
 void SpectrometerSession::Open(const std::string& path) {
@@ -16,8 +21,13 @@ void SpectrometerSession::Create(const std::string& path) {
 state::SpectrumBuffer SpectrometerSession::ReadSpectrum() {
   spect = CurrentDocument->GetSpectrum();
   Data = spect->SpectrumData();
-  return {
+  state::SpectrumBuffer spectrum{
       .Data = Data->Values(), .Res = Data->Spacing(), .NumPts = static_cast<double>(Data->NumberOfPoints())};
+  // Without it every two spectra would seem to have the same wavenumbers.
+  if (!std::isfinite(spectrum.Res) || spectrum.Res <= 0) {
+    throw platform::RunTimeError(platform::ErrorNumber::kInvalidCall, state::Text(state::TextId::kNoSpacing));
+  }
+  return spectrum;
 }
 
 state::Ordinates SpectrometerSession::ReadTransform() {

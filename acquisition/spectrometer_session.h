@@ -21,12 +21,12 @@ struct SpectrometerSession {
   void Open(const std::string& path);
   void Create(const std::string& path);
 
-  // Reads the current document's current spectrum.
+  // Reads the current document's current spectrum. Error 5 for one whose spacing is not above 0.
   state::SpectrumBuffer ReadSpectrum();
   // Replaces the current document's current spectrum by its transform and reads that.
   state::Ordinates ReadTransform();
 
-  // Lets go of every object, in the order that the program always kept.
+  // Lets go of every object, the application first.
   void Release();
 };
 

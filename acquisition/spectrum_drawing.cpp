@@ -9,6 +9,15 @@
 
 namespace veritane::acquisition {
 
+platform::ChartSeries Trace(const std::string& title, const state::Ordinates& ordinates, double spacing) {
+  platform::ChartSeries series{.title = title, .x = {}, .y = ordinates.values};
+  series.x.reserve(ordinates.Size());
+  for (std::size_t k = 0; k < ordinates.Size(); ++k) {
+    series.x.push_back((ordinates.lower + static_cast<double>(k)) * spacing);
+  }
+  return series;
+}
+
 OrdinateRange DrawSpectrum(platform::Chart& chart, const state::SpectrumBuffer& spectrum,
                            const std::string& title) {
   if (spectrum.Data.Empty()) {
@@ -17,12 +26,7 @@ OrdinateRange DrawSpectrum(platform::Chart& chart, const state::SpectrumBuffer& 
   }
   const platform::ChartBatch batch(chart);
   state::ClearChart(chart);
-  platform::ChartSeries series;
-  series.title = title;
-  series.y = spectrum.Data.values;
-  for (std::int32_t i = spectrum.Data.lower; i <= spectrum.Data.Upper(); ++i) {
-    series.x.push_back(i * spectrum.Res);
-  }
+  platform::ChartSeries series = Trace(title, spectrum.Data, spectrum.Res);
   const auto [low, high] = std::minmax_element(series.y.begin(), series.y.end());
   const OrdinateRange range{.low = *low, .high = *high};
   chart.SetX({series.x.front(), series.x.back()});

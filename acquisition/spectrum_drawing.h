@@ -1,4 +1,4 @@
-// Showing one measured spectrum by itself.
+// Spectra as traces of the chart, and one measured spectrum shown by itself.
 #pragma once
 
 #include <string>
@@ -7,6 +7,9 @@
 #include "shell/state/spectrum_buffer.h"
 
 namespace veritane::acquisition {
+
+// The ordinates against their wavenumbers (`spacing` in cm⁻¹), for the chart.
+platform::ChartSeries Trace(const std::string& title, const state::Ordinates& ordinates, double spacing);
 
 struct OrdinateRange {
   double low = 0;

@@ -21,23 +21,29 @@ using state::TextId;
 
 namespace {
 
-// A Product ID that holds no key by the parser is its own key.
-std::string KeyOf(const platform::FileSystem& files, const state::DataFolders& folders,
-                  const std::string& product_id) {
-  const std::string key = ProductKey(files, folders, product_id);
-  return key.empty() ? product_id : key;
+// The numbered file of another product: deleting a product of that name would delete its spectra.
+bool IsNumberedFile(const platform::FileSystem& files, const state::ProgramState& state,
+                    const std::string& key) {
+  const std::size_t dash = key.rfind('-');
+  if (dash == std::string::npos || !files.FileExists(state.folders.InSamples(key + ".bsp"))) return false;
+  const std::string number = key.substr(dash + 1);
+  const std::string table = ProductTablePath(state);
+  const std::string bytes = files.ReadBytes(table);
+  return !number.empty() && number.find_first_not_of("0123456789") == std::string::npos &&
+         FindProduct(bytes, key.substr(0, dash), table) && !FindProduct(bytes, key, table);
 }
 
 }  // namespace
 
 std::string WhyNotAProduct(const platform::FileSystem& files, const state::ProgramState& state,
                            const std::string& product_id) {
-  const std::string key = KeyOf(files, state.folders, product_id);
+  const std::string key = ProductKey(files, state.folders, product_id);
   if (const std::string why = platform::WhyNotAFileName(key); !why.empty()) {
     return Text(TextId::kCannotNameAProduct, {key, why});
   }
   if (key.find(',') != std::string::npos) return Text(TextId::kProductIdHoldsComma);
   if (key.front() == ' ') return Text(TextId::kProductIdBeginsWithBlank);
+  if (IsNumberedFile(files, state, key)) return Text(TextId::kNameOfNumberedFile, {key});
   // The Standard would be written over the background of that method.
   const bool is_background =
       std::any_of(state.methodShortNames.begin(), state.methodShortNames.end(), [&](const std::string& name) {
@@ -78,7 +84,7 @@ std::string StandardCollection::StandardPath() const {
 }
 
 void StandardCollection::NoteProduct() {
-  state_.prod = KeyOf(bench_.machine.files, state_.folders, frm_collect_std_.txtProductID.Text());
+  state_.prod = ProductKey(bench_.machine.files, state_.folders, frm_collect_std_.txtProductID.Text());
   state_.algorithm = frm_collect_std_.cmbAlg.Text();
   state_.calfilename =
       NeedsAdditionalFile(state_.algorithm) ? frm_collect_std_.txtCalFileName.Text() : std::string();
@@ -95,15 +101,19 @@ bool StandardCollection::CollectNewBackground(const std::string& prompt) {
 bool StandardCollection::CollectStandard(const std::string& prompt) {
   const bool is_demonstration = bench_.state.options.demoMode != 0;
   PrepareMeasurement(bench_, state_.clmFile, state_.BackGroundName);
+  OpenedDocuments opened;
   if (is_demonstration) {
-    session_.Open(state_.folders.InStandards(DemonstrationFile(state_.algorithm)));
+    opened.Open(session_, state_.folders.InStandards(DemonstrationFile(state_.algorithm)));
   } else {
-    session_.Create(StandardPath());
+    opened.Create(session_, StandardPath());
   }
   AnnounceSample(bench_.desktop, prompt);
-  if (CollectIntoDocument(bench_, state_.BackGroundName) != CollectOutcome::kCollected) return false;
+  if (CollectIntoDocument(bench_, state_.BackGroundName) != CollectOutcome::kCollected) {
+    opened.ReleaseLast();
+    return false;
+  }
   ShowStandard();
-  FileStandard();
+  FileStandard(opened);
   // The supervisor sees what was measured before the table comes back.
   state::ShowPanel(bench_.panel, bench_.panel.fraSpectrum);
   state::Notice(bench_.desktop, TextId::kStandardDone, MessageIcon::kExclamation);
@@ -111,12 +121,12 @@ bool StandardCollection::CollectStandard(const std::string& prompt) {
   return true;
 }
 
-void StandardCollection::FileStandard() {
+void StandardCollection::FileStandard(OpenedDocuments& opened) {
   const bool is_demonstration = state_.options.demoMode != 0;
   try {
     NotePendingProduct(bench_.machine.files, state_.folders, NewProduct());
     if (is_demonstration) session_.CurrentDocument->SaveDocumentAs(StandardPath());
-    session_.CurrentDocument->CloseDocument(!is_demonstration);
+    opened.ReleaseLast()->CloseDocument(!is_demonstration);
   } catch (const platform::RunTimeError& error) {
     throw platform::RunTimeError(error.Number(),
                                  Text(TextId::kStandardNotFiled, {error.what(), StandardPath()}));
@@ -131,6 +141,7 @@ void StandardCollection::ShowStandard() {
   }
   // The Standard is good even where its peaks or predicted values cannot be shown.
   bench_.desktop.Perform([this] { bench_.MarkStandard(); });
+  bench_.panel.txtResults.SetText("");
   bench_.panel.lblResult.SetCaption("");
   bench_.panel.fraSpectrum.SetCaption(Text(TextId::kStandardCaption) + state_.prod);
 }
@@ -154,9 +165,7 @@ void StandardCollection::EnterInTable() {
     return platform::UpperCase(product.productId) == platform::UpperCase(state_.prod);
   };
   if (std::count_if(products.begin(), products.end(), same) > 1) {
-    bench_.desktop.ShowMessage({.text = Text(TextId::kEarlierRow, {state_.prod}),
-                                .title = Text(TextId::kPlainNotice),
-                                .icon = MessageIcon::kExclamation});
+    state::PlainNotice(bench_.desktop, Text(TextId::kEarlierRow, {state_.prod}));
   }
 }
 

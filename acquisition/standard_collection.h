@@ -7,6 +7,7 @@
 #include "acquisition/bench.h"
 #include "acquisition/collection.h"
 #include "acquisition/frm_collect_std.h"
+#include "acquisition/opened_documents.h"
 #include "acquisition/product_table.h"
 
 namespace veritane::acquisition {
@@ -20,7 +21,8 @@ public:
   StandardCollection(Bench& bench, FrmCollectStd& frm_collect_std);
 
   // Runs once, to the end or to an early end that the supervisor has been told of; then neither a Standard
-  // nor a row was written. Returns whether the table has a new row. The supervisor panel shows afterwards.
+  // nor a row was written. Returns whether the table has a new row. The supervisor panel shows afterwards. An
+  // error with the table leaves a Standard without a row, and a note of it (see pending_product.h).
   bool Run();
 
 private:
@@ -30,7 +32,7 @@ private:
   bool CollectNewBackground(const std::string& prompt);
   bool CollectStandard(const std::string& prompt);
   void ShowStandard();
-  void FileStandard();
+  void FileStandard(OpenedDocuments& opened);
   Product NewProduct() const;
   void EnterInTable();
 

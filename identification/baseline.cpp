@@ -8,8 +8,8 @@
 #include <cstdint>
 #include <span>
 
-#include "identification/correlation_bounds.h"
-#include "identification/correlation_sums.h"
+#include "identification/point_numbers.h"
+#include "identification/point_sums.h"
 #include "platform/run_time_error.h"
 #include "shell/state/string_table.h"
 

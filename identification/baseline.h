@@ -13,7 +13,6 @@ struct BaselineFit {
   double slope = 0;   // per point
 
   double At(double point_number) const { return level + slope * (point_number - centre); }
-  double Intercept() const { return At(0); }
 };
 
 // The least-squares line through the first `point_count` ordinates, each at its point number (the lower bound

@@ -9,9 +9,9 @@
 #include <utility>
 
 #include "identification/baseline.h"
-#include "identification/correlation_bounds.h"
-#include "identification/correlation_sums.h"
 #include "identification/normalisation.h"
+#include "identification/point_numbers.h"
+#include "identification/point_sums.h"
 #include "platform/number_text.h"
 #include "platform/run_time_error.h"
 #include "shell/state/string_table.h"

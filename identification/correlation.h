@@ -29,8 +29,8 @@ double EuclideanComparison(const state::Ordinates& standard, const state::Ordina
 // Compares 101 coefficients of two transforms, from 55 to 155 places above each one's lower bound (error 9
 // where there are fewer). A 0 is put before them and the 102 elements are normalised to the range 0 to 1, so
 // a factor between the transforms does not count, but an offset does. A result below 0 is kept. Both
-// transforms are replaced by their 102 normalised elements with a lower bound of 0, or left as they were by
-// an error 6 or 9.
+// transforms are replaced by their 102 normalised elements with a lower bound of 0; an error 9, and an error
+// 6 of an ordinate, leave them as they were.
 double FourierComparison(state::Ordinates& standard, state::Ordinates& sample);
 
 }  // namespace veritane::identification

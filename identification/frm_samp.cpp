@@ -10,7 +10,6 @@
 
 namespace veritane::identification {
 
-using platform::MessageIcon;
 using state::Text;
 using state::TextId;
 
@@ -67,16 +66,12 @@ bool FrmSamp::txtOperatorName_KeyPress(int key) {
 
 void FrmSamp::cmdProductIDOkay_Click() {
   if (txtSampName.Text().empty()) {
-    Screen().ShowMessage({.text = Text(TextId::kEnterSampleName),
-                          .title = Text(TextId::kPlainNotice),
-                          .icon = MessageIcon::kExclamation});
+    state::PlainNotice(Screen(), Text(TextId::kEnterSampleName));
     txtSampName.SetFocus();
     return;
   }
   if (txtOperatorName.Text().empty()) {
-    Screen().ShowMessage({.text = Text(TextId::kEnterOperatorName),
-                          .title = Text(TextId::kPlainNotice),
-                          .icon = MessageIcon::kExclamation});
+    state::PlainNotice(Screen(), Text(TextId::kEnterOperatorName));
     txtOperatorName.SetFocus();
     return;
   }

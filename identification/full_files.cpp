@@ -32,6 +32,7 @@ std::string FirstFreeNumberedFile(const platform::FileSystem& files, const state
   for (const acquisition::Product& product : acquisition::ReadProductTable(files.ReadBytes(table), table)) {
     products.insert(platform::UpperCase(product.productId));
   }
+  constexpr int kMostFullFiles = 1000;
   for (int number = 1; number <= kMostFullFiles; ++number) {
     const std::string name = state.prod + "-" + std::to_string(number);
     // A product may be called what a numbered file of another is called; its spectra stay its own.

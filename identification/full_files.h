@@ -9,10 +9,7 @@
 
 namespace veritane::identification {
 
-// Full files are numbered up to here.
-inline constexpr int kMostFullFiles = 1000;
-
-// The path of the first number that is free, "" where none is.
+// The path of the first number from 1 to 1000 that is free, "" where none is.
 std::string FirstFreeNumberedFile(const platform::FileSystem& files, const state::ProgramState& state);
 
 // Where the name of the numbered file is noted for as long as a full sample file moves there.

@@ -7,8 +7,8 @@
 #include <cstddef>
 #include <cstdint>
 
-#include "identification/correlation_bounds.h"
-#include "identification/correlation_sums.h"
+#include "identification/point_numbers.h"
+#include "identification/point_sums.h"
 #include "platform/number_text.h"
 #include "platform/run_time_error.h"
 #include "shell/state/string_table.h"

@@ -1,7 +1,7 @@
 // The Lumivar comparison: how far a sample departs from its Standard, band by band.
 //
 // Both spectra are cut into bands 100 cm⁻¹ wide, from the first whole hundred above the first wavenumber on;
-// the band that holds the last whole hundred is the last one. A band's measure is its largest difference
+// the last band ends at the last whole hundred. A band's measure is its largest difference
 // between the two, divided by the larger of the two sums of ordinates. The measures are folded into one match
 // quality, in which later bands weigh more.
 //

@@ -5,7 +5,7 @@
 #include <cmath>
 #include <cstdint>
 
-#include "identification/correlation_bounds.h"
+#include "identification/point_numbers.h"
 #include "platform/run_time_error.h"
 #include "shell/state/string_table.h"
 

@@ -29,7 +29,7 @@ std::vector<PredictedValue> PredictedValues(const state::ProgramState& state) {
   if (!state.predictionSucceeded) return values;
   // Element 0 of both arrays is not used.
   for (std::size_t k = 1; k < state.PLSConcentrations.size(); ++k) {
-    const bool has_name = k < state.PLSConstituentNames.size();
+    const bool has_name = k < state.PLSConstituentNames.size() && !state.PLSConstituentNames[k].empty();
     values.push_back({.name = has_name ? state.PLSConstituentNames[k] : std::to_string(k),
                       .value = state.PLSConcentrations[k]});
   }

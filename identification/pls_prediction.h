@@ -10,7 +10,8 @@
 namespace veritane::identification {
 
 struct PredictedValue {
-  // As the calibration names it. A unit stands behind the name in square brackets: "Polystyrene [%]".
+  // As the calibration names it, or its number. A unit stands behind the name in square brackets:
+  // "Polystyrene [%]".
   std::string name;
   double value = 0;
 };

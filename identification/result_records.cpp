@@ -11,6 +11,11 @@ namespace {
 constexpr std::string_view kHeader =
     "Sample Name,Date/Time,Product ID,Algorithm,Pass/Fail,Comparison,Operator Name";
 
+std::string HistogramPath(const std::string& sample_file) {
+  constexpr std::size_t kExtension = 3;
+  return sample_file.substr(0, sample_file.size() - kExtension) + "his";
+}
+
 }  // namespace
 
 bool HasMatchQuality(const std::string& algorithm) {
@@ -21,11 +26,6 @@ std::string RunLogLine(const std::string& operator_name, const std::string& samp
                        const platform::RegionalFormat& regional, const platform::DateTime& now) {
   return (operator_name + "," + sample_file + "," + regional.ShortDate(now) + "," + regional.ShortTime(now))
       .append(platform::kLineEnd);
-}
-
-std::string HistogramPath(const std::string& sample_file) {
-  constexpr std::size_t kExtension = 3;
-  return sample_file.substr(0, sample_file.size() - kExtension) + "his";
 }
 
 void AppendHistogramLine(platform::FileSystem& files, const std::string& sample_file,

@@ -31,11 +31,8 @@ struct SampleResult {
   std::string operatorName;
 };
 
-// The product's histogram file: the sample file's path with its last three characters replaced.
-std::string HistogramPath(const std::string& sample_file);
-
-// Appends the sample's line to the histogram file, which begins with a header line. Each line goes out in one
-// write.
+// Appends the sample's line to the histogram file, the sample file's path with its last three characters
+// replaced by "his", which begins with a header line. Each line goes out in one write.
 void AppendHistogramLine(platform::FileSystem& files, const std::string& sample_file,
                          const SampleResult& result, const platform::RegionalFormat& regional,
                          const platform::DateTime& now);

@@ -45,8 +45,7 @@ void SampleRun::Run(const acquisition::BackgroundSchedule& schedule) {
 
 bool SampleRun::Refuse(const std::string& text) {
   bench_.desktop.SetMousePointer(platform::Pointer::kDefault);
-  bench_.desktop.ShowMessage(
-      {.text = text, .title = Text(TextId::kPlainNotice), .icon = MessageIcon::kCritical});
+  state::PlainNotice(bench_.desktop, text, MessageIcon::kCritical);
   return false;
 }
 
@@ -88,7 +87,7 @@ void SampleRun::RunForProduct(const acquisition::BackgroundSchedule& schedule) {
   FileSample();
   BehindFiling(TextId::kFiledNotCompared, [this] {
     const StatusShown status(bench_, Text(TextId::kCalculating));
-    Prepare(state_.Samp, state_.ChartSampData, state_.SampFFTData);
+    PrepareSpectrum(bench_, opened_, state_.Samp, state_.ChartSampData, state_.SampFFTData);
     Judge(bench_);
   });
   ShowResult();
@@ -124,17 +123,11 @@ void SampleRun::RecordResult() {
 
 void SampleRun::LoadStandard() {
   const StatusShown status(bench_, Text(TextId::kLoadingStandard));
-  session_.Open(state_.tmpRefName + ".bsp");
+  opened_.Open(session_, state_.tmpRefName + ".bsp");
   session_.CurrentDocument->SetDocumentShown(0);
   session_.CurrentDocument->SelectSpectrum(1);
   state_.Ref = session_.ReadSpectrum();
-  Prepare(state_.Ref, state_.ChartRefData, state_.RefFFTData);
-}
-
-void SampleRun::Prepare(state::SpectrumBuffer& spectrum, state::Ordinates& chart,
-                        state::Ordinates& transform) {
-  PrepareSpectrum(bench_, spectrum, chart, transform);
-  if (LeavesDocumentOpen(state_.algorithm)) opened_.Add(session_.CurrentDocument);
+  PrepareSpectrum(bench_, opened_, state_.Ref, state_.ChartRefData, state_.RefFFTData);
 }
 
 bool SampleRun::CollectBackgroundIfDue(const acquisition::BackgroundSchedule& schedule,
@@ -158,10 +151,11 @@ bool SampleRun::OpenSampleDocument() {
     return !exists || MayRollOverTo(FirstFreeNumberedFile(bench_.machine.files, state_));
   }
   if (!exists) {
-    session_.Create(state_.tmpSampName);
+    opened_.Create(session_, state_.tmpSampName);
     return true;
   }
-  session_.Open(state_.tmpSampName);
+  constexpr int kSpectraPerFile = 50;
+  opened_.Open(session_, state_.tmpSampName);
   session_.CurrentDocument->SetDocumentShown(0);
   return session_.CurrentDocument->GetSpectrumCount() < kSpectraPerFile || RollOver();
 }
@@ -183,30 +177,30 @@ bool SampleRun::RollOver() {
   const std::string note = MoveNotePath(state_);
   const std::string copy = MoveUnderWay(files, state_);
   if (copy.empty() || !IsCopyOf(full, *session_.SpectrometerApp, copy)) {
-    if (!MayRollOverTo(FirstFreeNumberedFile(files, state_))) {
-      full.CloseDocument(false);
-      return false;
-    }
+    if (!MayRollOverTo(FirstFreeNumberedFile(files, state_))) return false;
     files.WriteBytes(note, platform::LeafName(roll_over_name_));
     full.SaveDocumentAs(roll_over_name_);
   }
-  full.CloseDocument(false);
+  opened_.ReleaseLast()->CloseDocument(false);
   files.DeleteFile(state_.tmpSampName);
   files.DeleteFile(note);
-  session_.Create(state_.tmpSampName);
+  opened_.Create(session_, state_.tmpSampName);
   return true;
 }
 
 bool SampleRun::CollectSample() {
   if (state_.options.demoMode != 0) {
-    session_.Open(state_.folders.InStandards(acquisition::DemonstrationFile(state_.algorithm)));
+    opened_.Open(session_, state_.folders.InStandards(acquisition::DemonstrationFile(state_.algorithm)));
     session_.CurrentDocument->SetDocumentShown(0);
     session_.CurrentDocument->SelectSpectrum(1);
   } else {
     acquisition::PrepareScan(bench_, state_.clmFile, state_.BackGroundName);
   }
-  if (acquisition::CollectIntoDocument(bench_, state_.BackGroundName) != CollectOutcome::kCollected)
+  if (acquisition::CollectIntoDocument(bench_, state_.BackGroundName) != CollectOutcome::kCollected) {
+    // Closed already, or left to the user with the application that reported the error.
+    opened_.ReleaseLast();
     return false;
+  }
   state_.Samp = session_.ReadSpectrum();
   if (state_.algorithm == state::kPls) {
     state_.SpectrumIndex = platform::ToInt16(session_.CurrentDocument->GetSpectrumCount());
@@ -221,11 +215,11 @@ bool SampleRun::IsConsistent() {
   std::string reason;
   if (standard.Res != sample.Res) {
     reason = Text(TextId::kCollectedOtherwise);
-  } else if (standard.Data.lower * standard.Res != sample.Data.lower * sample.Res) {
+  } else if (standard.FirstWavenumber() != sample.FirstWavenumber()) {
     reason = Text(TextId::kStartsElsewhere);
   }
   if (reason.empty()) return true;
-  session_.CurrentDocument->CloseDocument(false);
+  opened_.ReleaseLast()->CloseDocument(false);
   return Refuse(reason);
 }
 
@@ -264,10 +258,8 @@ void SampleRun::ShowResult() {
 // A print template shows these; the sample is the last spectrum of its file.
 void SampleRun::NameResultInSampleFile() {
   // The application need not open again what it has open.
-  if (LeavesDocumentOpen(state_.algorithm)) {
-    opened_.ReleaseLast()->CloseDocument(false);
-  }
-  session_.Open(state_.tmpSampName);
+  if (LeavesDocumentOpen(state_.algorithm)) opened_.ReleaseLast()->CloseDocument(false);
+  opened_.Open(session_, state_.tmpSampName);
   session_.CurrentDocument->SelectSpectrum(platform::ToInt16(session_.CurrentDocument->GetSpectrumCount()));
   session_.spect = session_.CurrentDocument->GetSpectrum();
   const auto parameters = session_.spect->GetParameterList();
@@ -282,7 +274,7 @@ void SampleRun::NameResultInSampleFile() {
       session_.spect->GetParameter(predicted.name)->SetValue(predicted.value);
     }
   }
-  session_.CurrentDocument->CloseDocument(true);
+  opened_.ReleaseLast()->CloseDocument(true);
 }
 
 }  // namespace veritane::identification

@@ -12,17 +12,15 @@
 
 namespace veritane::identification {
 
-// A product's sample file is full with this many spectra; the next sample starts a new one.
-inline constexpr int kSpectraPerFile = 50;
-
 // One run; the application is the user's again, with nothing of the run left open, when the object goes.
 class SampleRun {
 public:
   // `log` is the run log that stays open for the whole run of the program.
   SampleRun(acquisition::Bench& bench, FrmSamp& frm_samp, platform::AppendingFile& log);
 
-  // To the end or to an early end that the operator has been told of. An early end files and
-  // records nothing and leaves the spectrum panel hidden.
+  // To the end or to an early end that the operator has been told of. An early end before the sample was
+  // filed records nothing; whatever fails behind that is told with what was filed. Either leaves the spectrum
+  // panel hidden until there is a verdict to show.
   void Run(const acquisition::BackgroundSchedule& schedule);
 
 private:
@@ -40,7 +38,6 @@ private:
   void ShowResult();
   void RecordResult();
   void NameResultInSampleFile();
-  void Prepare(state::SpectrumBuffer& spectrum, state::Ordinates& chart, state::Ordinates& transform);
   bool Refuse(const std::string& text);
 
   acquisition::Bench& bench_;

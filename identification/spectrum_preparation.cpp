@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "acquisition/null_regions.h"
+#include "acquisition/spectrum_drawing.h"
 #include "identification/correlation.h"
 #include "identification/normalisation.h"
 #include "shell/state/string_table.h"
@@ -13,24 +14,13 @@ namespace veritane::identification {
 using state::Text;
 using state::TextId;
 
-namespace {
-
-platform::ChartSeries Trace(const std::string& title, const state::Ordinates& ordinates, double spacing) {
-  platform::ChartSeries series{.title = title, .x = {}, .y = ordinates.values};
-  series.x.reserve(ordinates.Size());
-  for (std::int32_t i = ordinates.lower; i <= ordinates.Upper(); ++i) series.x.push_back(i * spacing);
-  return series;
-}
-
-}  // namespace
-
-void PrepareSpectrum(acquisition::Bench& bench, state::SpectrumBuffer& spectrum, state::Ordinates& chart,
-                     state::Ordinates& transform) {
+void PrepareSpectrum(acquisition::Bench& bench, acquisition::OpenedDocuments& opened,
+                     state::SpectrumBuffer& spectrum, state::Ordinates& chart, state::Ordinates& transform) {
   const std::string& algorithm = bench.state.algorithm;
   chart = spectrum.Data;
   NormaliseToUnitRange(chart);
   if (algorithm == state::kFourier) transform = bench.session.ReadTransform();
-  if (!LeavesDocumentOpen(algorithm)) bench.session.CurrentDocument->CloseDocument(false);
+  if (!LeavesDocumentOpen(algorithm)) opened.ReleaseLast()->CloseDocument(false);
   if (algorithm == state::kEuclidean) {
     acquisition::LoadNullRegions(bench.machine.files, bench.state);
     PrepareForEuclidean(spectrum, bench.state.nullRegions);
@@ -58,9 +48,9 @@ void PlotTraces(state::ProgramState& state, platform::Chart& chart) {
   chart.SetSeries(state::kStandardSeries,
                   state.ChartRefData.Empty()
                       ? platform::ChartSeries()
-                      : Trace(Text(TextId::kStandardTrace), state.ChartRefData, state.Ref.Res));
+                      : acquisition::Trace(Text(TextId::kStandardTrace), state.ChartRefData, state.Ref.Res));
   chart.SetSeries(state::kSampleSeries,
-                  Trace(Text(TextId::kSampleTrace), state.ChartSampData, state.Samp.Res));
+                  acquisition::Trace(Text(TextId::kSampleTrace), state.ChartSampData, state.Samp.Res));
   chart.RemoveSeriesFrom(state::kSampleSeries + 1);
   ResetChartLimits(state, chart);
 }

@@ -4,16 +4,17 @@
 #include <string>
 
 #include "acquisition/bench.h"
+#include "acquisition/opened_documents.h"
 
 namespace veritane::identification {
 
-// Prepares the spectrum of the current document, which `spectrum` was read from, for the state's algorithm:
-// `chart` becomes its trace on a scale from 0 to 1, `transform` its transform for "Fourier"; for "Euclidean"
-// the spectrum itself loses its baseline, is normalised and goes through the null regions of the state's
-// collect method. The document is then closed without saving, but for the algorithms of
-// LeavesDocumentOpen.
-void PrepareSpectrum(acquisition::Bench& bench, state::SpectrumBuffer& spectrum, state::Ordinates& chart,
-                     state::Ordinates& transform);
+// Prepares the spectrum of the current document, the last one of `opened`, which `spectrum` was read from,
+// for the state's algorithm: `chart` becomes its trace on a scale from 0 to 1, `transform` its transform for
+// "Fourier"; for "Euclidean" the spectrum itself loses its baseline, is normalised and goes through the null
+// regions of the state's collect method. The document is then closed without saving, but for the algorithms
+// of LeavesDocumentOpen.
+void PrepareSpectrum(acquisition::Bench& bench, acquisition::OpenedDocuments& opened,
+                     state::SpectrumBuffer& spectrum, state::Ordinates& chart, state::Ordinates& transform);
 
 // "PLS" and "Mark Peaks" do not read the spectrum's points: their documents stay open until the run is over.
 bool LeavesDocumentOpen(const std::string& algorithm);

@@ -37,7 +37,6 @@ void Redimension(std::vector<double>& values, std::int32_t size) {
 double& ElementOf(std::vector<double>& values, std::int32_t index) {
   if (index < 1 || static_cast<std::size_t>(index) > values.size()) {
     throw RunTimeError(ErrorNumber::kSubscript,
-
                        Text(TextId::kElementOfArray, {std::to_string(index), std::to_string(values.size())}));
   }
   return values[static_cast<std::size_t>(index) - 1];

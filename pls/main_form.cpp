@@ -58,7 +58,7 @@ MainForm::MainForm(platform::Desktop& desktop, PredictionSurroundings surroundin
 void MainForm::Form_Activate() {
   succeeded_ = false;
   TakeCalibrationFile(surroundings_.state.calfilename);
-  sampleName_ = surroundings_.sampleName();
+  sample_name_ = surroundings_.sampleName();
   if (surroundings_.files.FileExists(kExportedSpectrum)) surroundings_.files.DeleteFile(kExportedSpectrum);
   surroundings_.exportSpectrum(kExportedSpectrum);
   cmdPredict_Click();
@@ -74,7 +74,7 @@ void MainForm::cmdNewCalFile_Click() {
 }
 
 void MainForm::TakeCalibrationFile(const std::string& path) {
-  calibrationPath_ = path;
+  calibration_path_ = path;
   lblCalFileName.SetCaption(path);
   cmdPredict.SetEnabled(!path.empty());
 }
@@ -110,7 +110,7 @@ void MainForm::cmdPredict_Click() {
 }
 
 void MainForm::LoadCalibration() {
-  pls_->LoadCalFile(calibrationPath_);
+  pls_->LoadCalFile(calibration_path_);
   std::int16_t total = 0;
   CheckError(pls_->GetCalTotal(total));
   Combo1.Clear();
@@ -126,10 +126,10 @@ void MainForm::LoadCalibration() {
 // as they need.
 void MainForm::ReadNames() {
   state::ProgramState& state = surroundings_.state;
-  const std::size_t size = static_cast<std::size_t>(concentrationCount_) + 1;
+  const std::size_t size = static_cast<std::size_t>(concentration_count_) + 1;
   state.PLSConstituentNames.assign(size, "");
   state.PLSConcentrations.assign(size, 0);
-  state.PLSConstituentCount = platform::ToInt16(concentrationCount_);
+  state.PLSConstituentCount = platform::ToInt16(concentration_count_);
   std::size_t k = 1;
   for (const char c : text_) {
     if (c == '\t') {
@@ -145,7 +145,7 @@ void MainForm::ReadConcentrations() {
   Array concentrations;
   std::int32_t size = 0;
   const std::int32_t code = pls_->GetConcentration(concentrations, size);
-  concentrationCount_ = size;
+  concentration_count_ = size;
   if (code != kNoError) {
     CheckError(code);
     return;
@@ -157,7 +157,7 @@ void MainForm::ReadConcentrations() {
 
 void MainForm::ListResults() {
   const state::ProgramState& state = surroundings_.state;
-  if (!sampleName_.empty()) iqoutput.Add(Text(TextId::kPredictedSample, {sampleName_}));
+  if (!sample_name_.empty()) iqoutput.Add(Text(TextId::kPredictedSample, {sample_name_}));
   for (std::size_t k = 1; k < state.PLSConcentrations.size(); ++k) {
     const std::string name = k < state.PLSConstituentNames.size() ? state.PLSConstituentNames[k] : "";
     iqoutput.Add(name + " = " + ResultText(state.PLSConcentrations[k]));

@@ -68,12 +68,12 @@ private:
   void Unload();
 
   PredictionSurroundings surroundings_;
-  std::string calibrationPath_;
-  std::string sampleName_;
+  std::string calibration_path_;
+  std::string sample_name_;
   // Memos and constituent names as they come.
   std::string text_;
   std::unique_ptr<PLSPred> pls_;
-  std::int32_t concentrationCount_ = 0;
+  std::int32_t concentration_count_ = 0;
   bool faulted_ = false;
   bool succeeded_ = false;
 };

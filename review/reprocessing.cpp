@@ -35,23 +35,13 @@ std::string TextOf(acquisition::Spectrum& spectrum, const char* parameter) {
   return platform::PlainNumberText(std::get<double>(value));
 }
 
-// Once the spectrum is prepared as a sample run does it, the document is closed where that has not done so.
-void CloseAfterPreparation(const acquisition::Bench& bench, acquisition::OpenedDocuments& opened) {
-  const auto prepared = opened.ReleaseLast();
-  if (identification::LeavesDocumentOpen(bench.state.algorithm)) prepared->CloseDocument(false);
-}
-
-double FirstWavenumber(const state::SpectrumBuffer& spectrum) {
-  return spectrum.Data.lower * spectrum.Res;
-}
-
 // Why the two cannot be compared point by point; "" when they can. The last reason found is the one told.
 std::string WhyNotComparable(const state::SpectrumBuffer& standard, const state::SpectrumBuffer& sample) {
   std::string reason;
   if (standard.Res != sample.Res) reason = Text(TextId::kResolutionsDiffer);
   if (standard.NumPts != sample.NumPts) reason = Text(TextId::kPointsDiffer);
   // As many points as far apart may still lie elsewhere, and would then be compared at other wavenumbers.
-  if (reason.empty() && FirstWavenumber(standard) != FirstWavenumber(sample)) {
+  if (reason.empty() && standard.FirstWavenumber() != sample.FirstWavenumber()) {
     reason = Text(TextId::kFirstWavenumbersDiffer);
   }
   return reason;
@@ -137,11 +127,10 @@ void Reprocessing::Run(const std::string& algorithm) {
   }
   acquisition::OpenedDocuments opened;
   opened.Open(session_, state_.reprocesssampname);
-  LoadSample();
-  if (algorithm != state::kPls) CloseAfterPreparation(bench_, opened);
+  LoadSample(opened);
   if (algorithm != state::kPls && !IsComparable()) return;
   ShowResult();
-  if (algorithm == state::kPls) opened.ReleaseLast()->CloseDocument(false);
+  if (identification::LeavesDocumentOpen(algorithm)) opened.ReleaseLast()->CloseDocument(false);
 }
 
 void Reprocessing::ForgetStandard() {
@@ -181,8 +170,7 @@ bool Reprocessing::LoadStandard() {
     opened.ReleaseLast()->CloseDocument(false);
     return false;
   }
-  identification::PrepareSpectrum(bench_, state_.Ref, state_.ChartRefData, state_.RefFFTData);
-  CloseAfterPreparation(bench_, opened);
+  identification::PrepareSpectrum(bench_, opened, state_.Ref, state_.ChartRefData, state_.RefFFTData);
   return true;
 }
 
@@ -193,7 +181,7 @@ bool Reprocessing::FindCollectMethod() {
   return product.has_value();
 }
 
-void Reprocessing::LoadSample() {
+void Reprocessing::LoadSample(acquisition::OpenedDocuments& opened) {
   const StatusShown status(bench_, Text(TextId::kCalculating));
   acquisition::Document& document = *session_.CurrentDocument;
   document.SetDocumentShown(0);
@@ -202,7 +190,7 @@ void Reprocessing::LoadSample() {
   sample_name_ = TextOf(*document.GetSpectrum(), "SpectName");
   state_.Samp = session_.ReadSpectrum();
   state_.SpectrumIndex = state_.reprocesssampindex;
-  identification::PrepareSpectrum(bench_, state_.Samp, state_.ChartSampData, state_.SampFFTData);
+  identification::PrepareSpectrum(bench_, opened, state_.Samp, state_.ChartSampData, state_.SampFFTData);
 }
 
 bool Reprocessing::IsComparable() {

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "acquisition/bench.h"
+#include "acquisition/opened_documents.h"
 #include "review/frm_select_spectrum.h"
 
 namespace veritane::review {
@@ -41,7 +42,7 @@ private:
   // A prediction alone has none.
   void ForgetStandard();
   bool FindCollectMethod();
-  void LoadSample();
+  void LoadSample(acquisition::OpenedDocuments& opened);
   bool IsComparable();
   void ShowResult();
   std::vector<std::string> HeaderLines() const;

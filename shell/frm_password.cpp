@@ -1,4 +1,4 @@
-// The password dialog: Enter confirms, closing enters nothing.
+// The password dialog: Enter confirms, closing it gives none.
 #include "shell/frm_password.h"
 
 namespace veritane::shell {
@@ -21,10 +21,12 @@ void FrmPassword::cmdPasswordOK_Click() {
 }
 
 void FrmPassword::Form_Activate() {
+  cancelled = false;
   txtPassword.SetFocus();
 }
 
 void FrmPassword::Form_QueryUnload() {
+  cancelled = true;
   txtPassword.SetText("");
   Hide();
 }

@@ -14,12 +14,14 @@ public:
   platform::TextBox txtPassword{*this, "txtPassword"};
   platform::Button cmdPasswordOK{*this, "cmdPasswordOK"};
 
+  // Whether the dialog was closed without an answer since it showed last.
+  bool cancelled = false;
+
   bool txtPassword_KeyPress(int key);
   void cmdPasswordOK_Click();
 
 protected:
   void Form_Activate() override;
-  // Closing the dialog by its system menu enters nothing.
   void Form_QueryUnload() override;
 };
 

@@ -17,17 +17,8 @@ FrmVeritane::FrmVeritane(platform::Desktop& desktop, const platform::Machine& ma
       create_spectrometer_app_(std::move(create_spectrometer_app)),
       prediction_library_(machine.libraries, [&desktop] { return desktop.ClipboardText(); }),
       dialogs_(
-          desktop,
-          [this] {
-            std::vector<std::string> ids;
-            const std::string table = acquisition::ProductTablePath(state_);
-            for (const acquisition::Product& product :
-                 acquisition::ReadProductTable(machine_.files.ReadBytes(table), table)) {
-              ids.push_back(product.productId);
-            }
-            return ids;
-          },
-          [this] { return state::CurrentUserName(machine_.user); }, PredictionAround()),
+          desktop, [this] { return ProductIds(); }, [this] { return state::CurrentUserName(machine_.user); },
+          PredictionAround()),
       bench_{.desktop = desktop,
              .machine = machine,
              .state = state_,
@@ -58,8 +49,22 @@ FrmVeritane::FrmVeritane(platform::Desktop& desktop, const platform::Machine& ma
   ConnectSupervisorHandlers();
   ConnectSetUpHandlers();
   ConnectSpectrumHandlers();
-  // After a fault in a handler the panel that it came from is there again.
-  desktop.OnError([this] {
+  ConnectRecovery();
+}
+
+std::vector<std::string> FrmVeritane::ProductIds() const {
+  std::vector<std::string> ids;
+  const std::string table = acquisition::ProductTablePath(state_);
+  for (const acquisition::Product& product :
+       acquisition::ReadProductTable(machine_.files.ReadBytes(table), table)) {
+    ids.push_back(product.productId);
+  }
+  return ids;
+}
+
+// After a fault in a handler the panel that it came from is there again.
+void FrmVeritane::ConnectRecovery() {
+  Screen().OnError([this] {
     const bool menu = fraMainMenu.Visible();
     const bool supervisor = fraSupervisorMode.Visible();
     const bool spectrum = fraSpectrum.Visible();

@@ -4,6 +4,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "acquisition/bench.h"
 #include "acquisition/method_editor.h"
@@ -83,6 +84,9 @@ private:
   void ConnectSupervisorHandlers();
   void ConnectSetUpHandlers();
   void ConnectSpectrumHandlers();
+  void ConnectRecovery();
+
+  std::vector<std::string> ProductIds() const;
 
   pls::PredictionSurroundings PredictionAround();
   bool Predict();
@@ -110,11 +114,16 @@ private:
   review::Reprocessing Reprocess();
   void TurnBackTo(TabPage page);
   bool SupervisorMayEnter();
-  std::string AskPassword(state::TextId prompt);
+  // In upper case; nothing when the dialog was closed.
+  std::optional<std::string> AskPassword(state::TextId prompt);
+  std::optional<std::string> NewPassword();
   bool PrintOptionsAreComplete();
   bool ThresholdIsRight();
   bool IntervalIsRight();
   bool SaveSettingsOrAsk();
+  // Hands the application back to the user, has it quit unless the expert goes on with it, and ends.
+  void EndProgram();
+  void QuitApplicationAndEnd();
 
   platform::Machine machine_;
   acquisition::CreateSpectrometerApp create_spectrometer_app_;

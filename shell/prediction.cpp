@@ -1,4 +1,5 @@
-// What the prediction form needs of the main form: the spectrum at hand, and the program's exit.
+// Predictions and peaks as the main form runs them, and what the prediction form needs of it: the spectrum at
+// hand, and the program's exit.
 #include "identification/mark_peaks.h"
 #include "identification/pls_prediction.h"
 #include "platform/run_time_error.h"

@@ -34,7 +34,8 @@ struct Dialogs {
   pls::MainForm mainForm;
 };
 
-// Sets every caption, window by window in the order of the table.
+// Sets the captions with the numbers 16 to 96, window by window in the order of the table; what was added
+// since sets its own.
 void LoadScreenTexts(Dialogs& dialogs, MainControls& main);
 
 }  // namespace veritane::shell

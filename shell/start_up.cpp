@@ -103,7 +103,10 @@ void FrmVeritane::PrepareGrid() {
 
 void FrmVeritane::DeleteStalePrintView() {
   const std::string path = machine_.folders.ProgramFolder() + "\\current.pv";
-  if (machine_.files.FileExists(path)) machine_.files.DeleteFile(path);
+  // Nothing reads it, so one that cannot be deleted keeps nobody from working.
+  IgnoringErrors([&] {
+    if (machine_.files.FileExists(path)) machine_.files.DeleteFile(path);
+  });
 }
 
 void FrmVeritane::ShowVersionTitle() {
@@ -133,10 +136,11 @@ bool FrmVeritane::LoadCalibrationMethod() {
       session_.SpectrometerApp->OpenDocument(state_.folders.InStandards("Autoalign.bsp"));
   const std::string method = state_.folders.InStandards("Initial.clm");
   if (!machine_.files.FileExists(method)) {
-    Screen().ShowMessage({.text = Text(TextId::kInitialMethodMissing),
-                          .title = Text(TextId::kPlainNotice),
-                          .icon = MessageIcon::kCritical});
-    cmdExit_Click();
+    state::PlainNotice(Screen(), Text(TextId::kInitialMethodMissing), MessageIcon::kCritical);
+    log_.reset();
+    // They are as they were read a moment ago, and the program must end.
+    IgnoringErrors([this] { SaveSettings(); });
+    EndProgram();
     return false;
   }
   session_.scan = session_.SpectrometerApp->LoadCollectMethod(method);
@@ -202,8 +206,15 @@ bool FrmVeritane::SaveSettingsOrAsk() {
 
 void FrmVeritane::cmdExit_Click() {
   log_.reset();
-  if (!SaveSettingsOrAsk()) return;
+  if (SaveSettingsOrAsk()) EndProgram();
+}
+
+void FrmVeritane::EndProgram() {
   IgnoringErrors([this] { session_.SpectrometerApp->Interactive(true); });
+  QuitApplicationAndEnd();
+}
+
+void FrmVeritane::QuitApplicationAndEnd() {
   if (state_.going_to_expert == state::kFalse)
     IgnoringErrors([this] { session_.SpectrometerApp->QuitApplication(); });
   session_.Release();
@@ -218,10 +229,7 @@ void FrmVeritane::Form_QueryUnload() {
   if (!SaveSettingsOrAsk()) return;
   session_.SpectrometerApp->QuitApplication();
   log_.reset();
-  if (state_.going_to_expert == state::kFalse)
-    IgnoringErrors([this] { session_.SpectrometerApp->QuitApplication(); });
-  session_.Release();
-  Screen().End(0);
+  QuitApplicationAndEnd();
 }
 
 }  // namespace veritane::shell

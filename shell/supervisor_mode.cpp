@@ -1,4 +1,6 @@
 // Supervisor mode: its password, its options, and the way back to the operator.
+#include <limits>
+
 #include "acquisition/background.h"
 #include "acquisition/method_list.h"
 #include "platform/desktop.h"
@@ -8,8 +10,7 @@
 #include "platform/windows_path.h"
 #include "shell/frm_veritane.h"
 #include "shell/state/messages.h"
-
-#include <limits>
+#include "shell/state/settings_file.h"
 
 namespace veritane::shell {
 
@@ -39,18 +40,18 @@ void FrmVeritane::ConnectSupervisorHandlers() {
   cmdExpertMode.OnClick = [this] { cmdExpertMode_Click(); };
 }
 
-std::string FrmVeritane::AskPassword(TextId prompt) {
+std::optional<std::string> FrmVeritane::AskPassword(TextId prompt) {
   FrmPassword& dialog = dialogs_.frmPassword;
   dialog.lblPassword.SetCaption(Text(prompt));
   dialog.txtPassword.SetText("");
   dialog.ShowModal();
-  return dialog.txtPassword.Text();
+  if (dialog.cancelled) return std::nullopt;
+  return platform::UpperCase(dialog.txtPassword.Text());
 }
 
 bool FrmVeritane::SupervisorMayEnter() {
   if (state_.options.PasswordRequired != 1) return true;
-  const std::string typed = AskPassword(TextId::kEnterPassword);
-  if (platform::UpperCase(typed) == platform::UpperCase(state_.options.Password)) return true;
+  if (AskPassword(TextId::kEnterPassword) == platform::UpperCase(state_.options.Password)) return true;
   state::Notice(Screen(), TextId::kAccessDenied, MessageIcon::kCritical);
   return false;
 }
@@ -76,16 +77,27 @@ void FrmVeritane::optNoPassword_Click() {
 
 void FrmVeritane::optPassword_Click() {
   if (state_.formStartup == 1) return;
-  const std::string first = platform::UpperCase(AskPassword(TextId::kEnterPassword));
-  const std::string second = platform::UpperCase(AskPassword(TextId::kVerifyPassword));
-  if (first == second) {
-    state_.options.Password = first;
-    state_.options.PasswordRequired = 1;
+  const std::optional<std::string> password = NewPassword();
+  dialogs_.frmPassword.txtPassword.SetText("");
+  if (!password) {
+    optNoPassword.Check();
     return;
   }
-  state::Notice(Screen(), TextId::kIncorrectPassword, MessageIcon::kCritical);
-  dialogs_.frmPassword.txtPassword.SetText("");
-  optNoPassword.Check();
+  state_.options.Password = *password;
+  state_.options.PasswordRequired = 1;
+}
+
+// Nothing when there is to be none: a dialog was closed, or the user has been told what is wrong.
+std::optional<std::string> FrmVeritane::NewPassword() {
+  const std::optional<std::string> first = AskPassword(TextId::kEnterPassword);
+  if (!first) return std::nullopt;
+  if (!state::SettingsKeep(*first)) {
+    state::Notice(Screen(), TextId::kPasswordCannotBeKept, MessageIcon::kCritical);
+    return std::nullopt;
+  }
+  const std::optional<std::string> second = AskPassword(TextId::kVerifyPassword);
+  if (second && first != second) state::Notice(Screen(), TextId::kIncorrectPassword, MessageIcon::kCritical);
+  return first == second ? second : std::nullopt;
 }
 
 void FrmVeritane::optManualBackground_Click() {
@@ -145,9 +157,7 @@ bool FrmVeritane::IntervalIsRight() {
   constexpr double kMostHours = std::numeric_limits<std::int16_t>::max();
   const std::optional<double> hours = platform::ParseNumber(txtbackInterval.Text());
   if (hours && *hours >= 0 && *hours <= kMostHours) return true;
-  Screen().ShowMessage({.text = Text(TextId::kIntervalRange),
-                        .title = Text(TextId::kPlainNotice),
-                        .icon = MessageIcon::kExclamation});
+  state::PlainNotice(Screen(), Text(TextId::kIntervalRange));
   txtbackInterval.SetFocus();
   return false;
 }
@@ -166,6 +176,10 @@ void FrmVeritane::cmdSelTemplate_Click() {
                                          .filter = "(*.bpt)|*.bpt",
                                          .folder = state_.folders.appDir});
   if (!path) return;
+  if (!state::SettingsKeep(*path)) {
+    state::PlainNotice(Screen(), Text(TextId::kTemplateCannotBeKept, {*path}));
+    return;
+  }
   state_.options.printTemplate = *path;
   lblPrintTemplate.SetCaption(*path);
   optPrintTemplate.Check();
@@ -205,8 +219,7 @@ bool FrmVeritane::PrintOptionsAreComplete() {
     problem = Text(TextId::kPrintTemplateMissing);
   }
   if (problem.empty()) return true;
-  Screen().ShowMessage(
-      {.text = problem, .title = Text(TextId::kPlainNotice), .icon = MessageIcon::kExclamation});
+  state::PlainNotice(Screen(), problem);
   return false;
 }
 
@@ -227,7 +240,7 @@ void FrmVeritane::cmdMainMenu_Click() {
     return;
   }
   Screen().SetMousePointer(Pointer::kHourglass);
-  acquisition::SaveMethodList(machine_.files, state_);
+  acquisition::SaveMethodList(machine_.files, state_, state_.methodPaths);
   state::ShowPanel(bench_.panel, fraMainMenu);
   Screen().SetMousePointer(Pointer::kDefault);
 }

@@ -33,17 +33,17 @@ inline bool IsThreshold(double percent) {
   return percent >= 0 && percent <= 100;
 }
 
-// What the supervisor sets and settings.ini keeps.
+// What settings.ini keeps; the supervisor sets all but demoMode.
 struct Options {
-  std::int16_t demoMode = 0;
-  std::int16_t PasswordRequired = 0;
-  std::string Password;
+  std::int16_t demoMode = 0;          // 0 measures, all else demonstrates
+  std::int16_t PasswordRequired = 0;  // 1 asks for the password
+  std::string Password;               // in upper case
   std::int16_t backOption = kManualBackground;
   std::int16_t backInterval = 0;  // hours
   double passThreshold = 90;      // percent
-  std::int16_t printOption = 0;
-  std::string printTemplate;
-  std::int16_t addPassFail = 1;
+  std::int16_t printOption = 0;   // 0 prints the chart, all else through printTemplate
+  std::string printTemplate;      // a whole path
+  std::int16_t addPassFail = 1;   // 0 keeps the verdict off the chart
 };
 
 struct ProgramState {
@@ -58,10 +58,10 @@ struct ProgramState {
   // The product of the current run.
   std::string prod;
   std::string algorithm;
-  std::string clmName;
-  std::string clmFile;
+  std::string clmName;  // short name of the collect method
+  std::string clmFile;  // the rest are whole paths
   std::string calfilename;
-  std::string tmpRefName;
+  std::string tmpRefName;  // without ".bsp" after a sample run, with it after reprocessing
   std::string tmpSampName;
   std::string BackGroundName;
 
@@ -92,6 +92,7 @@ struct ProgramState {
   Ordinates RefFFTData;
   Ordinates SampFFTData;
 
+  // Ordinates that the chart's y axis reaches from and to: of the traces, and of the last background.
   double minm = 0;
   double maxm = 1;
   double backminm = 0;

@@ -33,4 +33,14 @@ Options ReadSettings(std::string_view bytes) {
   return options;
 }
 
+bool SettingsKeep(const std::string& text) {
+  if (text.empty()) return true;
+  try {
+    platform::TextReader reader(text);
+    return reader.ReadField() == text && reader.AtEnd();
+  } catch (const platform::RunTimeError&) {
+    return false;
+  }
+}
+
 }  // namespace veritane::state

@@ -22,4 +22,8 @@ std::string SettingsText(const Options& options, const ShownOptions& shown);
 // threshold that is none): the whole file is then worth nothing.
 Options ReadSettings(std::string_view bytes);
 
+// Whether a text is read back as it stands: one that is cut by a comma, begins with a quotation mark or has
+// blanks around it would cost the whole file.
+bool SettingsKeep(const std::string& text);
+
 }  // namespace veritane::state

@@ -23,6 +23,9 @@ struct SpectrumBuffer {
   Ordinates Data;
   double Res = 0;
   double NumPts = 0;
+
+  // In cm⁻¹.
+  double FirstWavenumber() const { return Data.lower * Res; }
 };
 
 }  // namespace veritane::state

@@ -99,6 +99,8 @@ enum class TextId : int {
   kPrintTemplateRequired = 1133,
   kPrintTemplateMissing = 1134,
   kNoSpectrumToPredict = 1135,
+  kPasswordCannotBeKept = 1136,
+  kTemplateCannotBeKept = 1137,
 
   // acquisition: captions.
   kProductIdTip = 1200,
@@ -121,6 +123,7 @@ enum class TextId : int {
   kEarlierRow = 1219,
   kStandardWithoutRow = 1220,
   kStandardNotFiled = 1221,
+  kNameOfNumberedFile = 1222,
 
   // acquisition: backgrounds.
   kBackgroundNotFiled = 1225,
@@ -134,6 +137,9 @@ enum class TextId : int {
   kDeleteProduct = 1234,
   kNoNullRegion = 1235,
   kMeasuredNothing = 1236,
+  kBackgroundIsStandard = 1237,
+  kDeleteRow = 1238,
+  kCannotStandInTable = 1239,
 
   // acquisition: the application's member names.
   kForeignObject = 1240,
@@ -141,6 +147,10 @@ enum class TextId : int {
   kNotInContract = 1242,
   kMemberTwice = 1243,
   kMemberNameExpected = 1244,
+  kNoInstrumentAnswer = 1245,
+
+  // acquisition: null regions.
+  kNullRegionNeedsWavenumbers = 1250,
 
   // identification: a sample run.
   kSampleName = 1300,

@@ -71,7 +71,7 @@ TEST(Baseline, IsTheLeastSquaresLineOverPointNumbers) {
   const Ordinates spectrum{11, {5, 7, 8}};
   const BaselineFit fit = FitBaseline(spectrum, 3);
   EXPECT_DOUBLE_EQ(fit.slope, 1.5);
-  EXPECT_NEAR(fit.Intercept(), -34.0 / 3, 1e-14);
+  EXPECT_NEAR(fit.At(0), -34.0 / 3, 1e-14);
 }
 
 TEST(Baseline, IsFittedToTheFirstPointsAndTakenFromAll) {

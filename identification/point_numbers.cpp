@@ -1,5 +1,5 @@
 // What every step of a comparison asks of the ordinates before it touches them.
-#include "identification/correlation_bounds.h"
+#include "identification/point_numbers.h"
 
 #include <cstdint>
 #include <limits>
@@ -17,6 +17,7 @@ using state::TextId;
 void RequireSixteenBitPointNumbers(const state::Ordinates& ordinates) {
   if (ordinates.Empty()) throw RunTimeError(ErrorNumber::kSubscript, Text(TextId::kNoPoints));
   // The size comes first: only then is the upper bound sure to fit its own type.
+  constexpr std::size_t kMostPoints = 32'767;
   if (ordinates.Size() > kMostPoints) {
     throw RunTimeError(ErrorNumber::kOverflow, Text(TextId::kTooManyPoints));
   }
