@@ -43,25 +43,43 @@ std::vector<KeyValueLine> ReadKeyValueLines(std::string_view bytes) {
   return lines;
 }
 
+double NumberFrom(const std::string& text) {
+  if (const auto number = platform::ParseNumber(text)) return *number;
+  throw RefusedValue(ErrorNumber::kTypeMismatch, "is no number: \"" + text + "\"");
+}
+
+long long WholeNumberFrom(const std::string& text, long long least, long long most) {
+  const double number = NumberFrom(text);
+  if (!(number >= static_cast<double>(least) && number <= static_cast<double>(most))) {
+    throw RefusedValue(ErrorNumber::kInvalidCall,
+                       "lies from " + std::to_string(least) + " to " + std::to_string(most));
+  }
+  if (number != std::floor(number)) throw RefusedValue(ErrorNumber::kTypeMismatch, "is a whole number");
+  return static_cast<long long>(number);
+}
+
 double NumberOf(const KeyValueLine& line) {
-  if (const auto number = platform::ParseNumber(line.value)) return *number;
-  throw RunTimeError(ErrorNumber::kTypeMismatch,
-                     Place(line) + line.key + " is no number: \"" + line.value + "\"");
+  try {
+    return NumberFrom(line.value);
+  } catch (const RefusedValue& refused) {
+    RefuseLine(line, refused);
+  }
 }
 
 long long WholeNumberOf(const KeyValueLine& line, long long least, long long most) {
-  const double number = NumberOf(line);
-  if (!(number >= static_cast<double>(least) && number <= static_cast<double>(most))) {
-    RefuseLine(line, line.key + " lies from " + std::to_string(least) + " to " + std::to_string(most));
+  try {
+    return WholeNumberFrom(line.value, least, most);
+  } catch (const RefusedValue& refused) {
+    RefuseLine(line, refused);
   }
-  if (number != std::floor(number)) {
-    throw RunTimeError(ErrorNumber::kTypeMismatch, Place(line) + line.key + " is a whole number");
-  }
-  return static_cast<long long>(number);
 }
 
 void RefuseLine(const KeyValueLine& line, const std::string& why) {
   throw RunTimeError(ErrorNumber::kInvalidCall, Place(line) + why);
+}
+
+void RefuseLine(const KeyValueLine& line, const RefusedValue& refused) {
+  throw RunTimeError(refused.Number(), Place(line) + line.key + " " + refused.what());
 }
 
 }  // namespace veritane::simulator

@@ -1,9 +1,12 @@
 // "Key = value" lines, as collect methods and the compartment's file are written.
 #pragma once
 
+#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include "platform/run_time_error.h"
 
 namespace veritane::simulator {
 
@@ -16,6 +19,23 @@ struct KeyValueLine {
 // All lines but comments ("#") and empty ones. Error 5 naming the line for one without "=" or without a key.
 std::vector<KeyValueLine> ReadKeyValueLines(std::string_view bytes);
 
+// Why a text is no value, in words that follow the value's name: "lies from 0 to 1000".
+class RefusedValue : public std::runtime_error {
+public:
+  RefusedValue(platform::ErrorNumber number, const std::string& reason)
+      : std::runtime_error(reason), number_(number) {}
+
+  platform::ErrorNumber Number() const { return number_; }
+
+private:
+  platform::ErrorNumber number_;
+};
+
+// The text as a number, RefusedValue 13 when it is none.
+double NumberFrom(const std::string& text);
+// The same as a whole number from `least` to `most`; RefusedValue 5 outside, 13 for a fraction.
+long long WholeNumberFrom(const std::string& text, long long least, long long most);
+
 // The value as a number, error 13 naming the line and the key when it is none.
 double NumberOf(const KeyValueLine& line);
 // The same as a whole number from `least` to `most`; error 5 outside, 13 for a fraction.
@@ -23,5 +43,7 @@ long long WholeNumberOf(const KeyValueLine& line, long long least, long long mos
 
 // Raises error 5 with "line 3: " before the text.
 [[noreturn]] void RefuseLine(const KeyValueLine& line, const std::string& why);
+// Raises the error of a value that was refused, naming the line and the key.
+[[noreturn]] void RefuseLine(const KeyValueLine& line, const RefusedValue& refused);
 
 }  // namespace veritane::simulator

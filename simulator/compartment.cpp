@@ -8,7 +8,6 @@
 #include "platform/run_time_error.h"
 #include "platform/text_file.h"
 #include "platform/windows_path.h"
-#include "simulator/collect_method_lines.h"
 
 namespace veritane::simulator {
 
@@ -18,17 +17,6 @@ namespace {
 
 constexpr int kMostFaults = 32767;
 constexpr int kLongestDuration = 3600000;
-
-double NoiseFrom(const KeyValueLine& line) {
-  const double noise = NumberOf(line);
-  if (!(noise >= 0 && noise <= 1000)) RefuseLine(line, "NOISE lies from 0 to 1000");
-  return noise;
-}
-
-std::optional<std::uint32_t> SeedFrom(const KeyValueLine& line) {
-  if (platform::UpperCase(line.value) == "RANDOM") return std::nullopt;
-  return static_cast<std::uint32_t>(WholeNumberOf(line, 0, std::numeric_limits<std::uint32_t>::max()));
-}
 
 std::string OneLine(const std::string& name) {
   if (std::any_of(name.begin(), name.end(), [](char c) { return static_cast<unsigned char>(c) < 0x20; })) {
@@ -44,25 +32,53 @@ void Apply(const KeyValueLine& line, CompartmentState& state) {
   } else if (line.key == "ACCESSORY") {
     state.accessory = line.value;
   } else if (line.key == "FAULT") {
-    state.fault = static_cast<std::int32_t>(WholeNumberOf(line, std::numeric_limits<std::int32_t>::min(),
-                                                          std::numeric_limits<std::int32_t>::max()));
+    state.fault = FaultFrom(line.value);
   } else if (line.key == "FAULTCOUNT") {
-    state.faultCount = static_cast<int>(WholeNumberOf(line, 0, kMostFaults));
+    state.faultCount = FaultCountFrom(line.value);
   } else if (line.key == "NOISE") {
-    state.noise = NoiseFrom(line);
+    state.noise = NoiseFrom(line.value);
   } else if (line.key == "DURATION") {
-    state.duration = static_cast<int>(WholeNumberOf(line, 0, kLongestDuration));
+    state.duration = DurationFrom(line.value);
   } else if (line.key == "SEED") {
-    state.seed = SeedFrom(line);
+    state.seed = SeedFrom(line.value);
   }
 }
 
 }  // namespace
 
+std::int32_t FaultFrom(const std::string& text) {
+  return static_cast<std::int32_t>(WholeNumberFrom(text, std::numeric_limits<std::int32_t>::min(),
+                                                   std::numeric_limits<std::int32_t>::max()));
+}
+
+int FaultCountFrom(const std::string& text) {
+  return static_cast<int>(WholeNumberFrom(text, 0, kMostFaults));
+}
+
+double NoiseFrom(const std::string& text) {
+  const double noise = NumberFrom(text);
+  if (noise >= 0 && noise <= 1000) return noise;
+  throw RefusedValue(platform::ErrorNumber::kInvalidCall, "lies from 0 to 1000");
+}
+
+int DurationFrom(const std::string& text) {
+  return static_cast<int>(WholeNumberFrom(text, 0, kLongestDuration));
+}
+
+std::optional<std::uint32_t> SeedFrom(const std::string& text) {
+  if (platform::UpperCase(text) == "RANDOM") return std::nullopt;
+  return static_cast<std::uint32_t>(WholeNumberFrom(text, 0, std::numeric_limits<std::uint32_t>::max()));
+}
+
 CompartmentState ParseCompartment(std::string_view bytes) {
   CompartmentState state;
   for (const KeyValueLine& line : ReadKeyValueLines(bytes)) {
-    if (!line.value.empty()) Apply(line, state);
+    if (line.value.empty()) continue;
+    try {
+      Apply(line, state);
+    } catch (const RefusedValue& refused) {
+      RefuseLine(line, refused);
+    }
   }
   return state;
 }

@@ -13,6 +13,7 @@
 
 #include "platform/file_system.h"
 #include "simulator/collect_method.h"
+#include "simulator/collect_method_lines.h"
 
 namespace veritane::simulator {
 
@@ -27,6 +28,13 @@ struct CompartmentState {
 
   bool operator==(const CompartmentState&) const = default;
 };
+
+// Single values, from the texts that stand for them in the file. RefusedValue says why a text does not.
+std::int32_t FaultFrom(const std::string& text);
+int FaultCountFrom(const std::string& text);
+double NoiseFrom(const std::string& text);
+int DurationFrom(const std::string& text);
+std::optional<std::uint32_t> SeedFrom(const std::string& text);
 
 // Error 13 or 5 naming the line for a value that makes no sense.
 CompartmentState ParseCompartment(std::string_view bytes);

@@ -42,7 +42,7 @@ bool IsSpectrumPath(std::string_view name) {
 
 const Material& KnownMaterial(std::string_view name) {
   if (const Material* material = FindMaterial(name)) return *material;
-  throw RunTimeError(ErrorNumber::kInvalidCall, "no material is named \"" + std::string(name) + "\"");
+  throw UnknownMaterial(std::string(name));
 }
 
 // "polystyrene 0.6" is 0.6 of polystyrene; a name alone has the share 1.

@@ -8,8 +8,10 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
+#include "platform/run_time_error.h"
 #include "shell/state/spectrum_buffer.h"
 #include "simulator/instrument_grid.h"
 
@@ -50,9 +52,22 @@ struct SamplePart {
   double share = 1;
 };
 
+// Error 5 for a name that is no material's.
+class UnknownMaterial : public platform::RunTimeError {
+public:
+  explicit UnknownMaterial(std::string name)
+      : RunTimeError(platform::ErrorNumber::kInvalidCall, "no material is named \"" + name + "\""),
+        name_(std::move(name)) {}
+
+  const std::string& Name() const { return name_; }
+
+private:
+  std::string name_;
+};
+
 // What lies in the compartment, from its name: a material ("aspirin"), the Windows path of a spectrum file (a
 // name with "\" or ending .jdx, .dx, .jcm or .bsp), or a mixture of materials with their shares: "polystyrene
-// 0.6 + PMMA 0.4". Error 5 names a material that is not known; errors of `load` pass through.
+// 0.6 + PMMA 0.4". UnknownMaterial; errors of `load` pass through.
 std::vector<SamplePart> SampleOf(const std::string& name, const LoadSpectrum& load);
 
 // The sample's absorbance as an instrument of unlimited resolution would see it: by Beer's law the sum over

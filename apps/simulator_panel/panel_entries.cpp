@@ -2,10 +2,8 @@
 #include "apps/simulator_panel/panel_entries.h"
 
 #include <algorithm>
-#include <string_view>
 
 #include "platform/run_time_error.h"
-#include "platform/windows_path.h"
 #include "simulator/compartment.h"
 #include "simulator/instrument.h"
 #include "simulator/materials.h"
@@ -14,8 +12,6 @@
 namespace veritane::simulator_panel {
 
 namespace {
-
-using simulator::CompartmentState;
 
 std::string Trimmed(const std::string& text) {
   const std::size_t first = text.find_first_not_of(" \t");
@@ -33,27 +29,15 @@ std::string Name(const std::string& text, const std::string& what) {
   return name;
 }
 
-// Reads the entry as the compartment's file would be read. The reader's complaint begins with the line and
-// the key, which a user of the panel does not see; `what` stands in their place.
-CompartmentState AsLine(const std::string& key, const std::string& text, const std::string& what) {
-  const std::string value = Name(text, what);
+// Reads the entry as the compartment's file would be read.
+template <typename Value>
+Value Setting(Value (*from)(const std::string&), const std::string& text, const std::string& what) {
+  const std::string entered = Name(text, "the " + what);
   try {
-    return simulator::ParseCompartment(key + " = " + value);
-  } catch (const platform::RunTimeError& error) {
-    std::string_view reason = error.what();
-    const std::size_t named = reason.find(platform::UpperCase(key));
-    if (named != std::string_view::npos) reason.remove_prefix(named + key.size());
-    throw RefusedEntry("T" + what.substr(1) + std::string(reason) + ".");
+    return from(entered);
+  } catch (const simulator::RefusedValue& refused) {
+    throw RefusedEntry("The " + what + " " + refused.what() + ".");
   }
-}
-
-// What the error says of this case, without the text that all errors of its number begin with.
-std::string WithoutNumberText(const platform::RunTimeError& error) {
-  std::string text = error.what();
-  const std::string common = platform::ErrorText(platform::ErrorNumber::kInvalidCall) + ": ";
-  if (text.starts_with(common)) text.erase(0, common.size());
-  if (text.starts_with("no ")) text.front() = 'N';
-  return text;
 }
 
 bool IsWholePath(const std::string& name) {
@@ -73,12 +57,14 @@ std::string SampleEntry(const std::string& text, const platform::FileSystem& fil
       if (file.spectra.empty()) throw RefusedEntry(path + " holds no spectrum.");
       return simulator::AsAbsorbance(file.spectra.front());
     });
+  } catch (const simulator::UnknownMaterial& unknown) {
+    throw RefusedEntry("No material is named \"" + unknown.Name() + "\".");
   } catch (const platform::RunTimeError& error) {
     if (error.Number() == static_cast<int>(platform::ErrorNumber::kFileNotFound) ||
         error.Number() == static_cast<int>(platform::ErrorNumber::kPathNotFound)) {
       throw RefusedEntry("There is no file " + name + ".");
     }
-    throw RefusedEntry(WithoutNumberText(error) + ".");
+    throw RefusedEntry(std::string(error.what()) + ".");
   }
   return name;
 }
@@ -88,27 +74,27 @@ std::string AccessoryEntry(const std::string& text) {
 }
 
 std::int32_t FaultEntry(const std::string& text) {
-  const std::int32_t fault = AsLine("Fault", text, "the error number").fault;
+  const std::int32_t fault = Setting(simulator::FaultFrom, text, "error number");
   if (fault == 0) throw RefusedEntry("The error number 0 would be no fault.");
   return fault;
 }
 
 int FaultCountEntry(const std::string& text) {
-  const int count = AsLine("FaultCount", text, "the number of times").faultCount;
+  const int count = Setting(simulator::FaultCountFrom, text, "number of times");
   if (count == 0) throw RefusedEntry("The number of times is at least 1.");
   return count;
 }
 
 double NoiseEntry(const std::string& text) {
-  return AsLine("Noise", text, "the noise").noise;
+  return Setting(simulator::NoiseFrom, text, "noise");
 }
 
 int DurationEntry(const std::string& text) {
-  return AsLine("Duration", text, "the duration").duration;
+  return Setting(simulator::DurationFrom, text, "duration");
 }
 
 std::uint32_t SeedEntry(const std::string& text) {
-  const auto seed = AsLine("Seed", text, "the seed").seed;
+  const auto seed = Setting(simulator::SeedFrom, text, "seed");
   if (!seed) throw RefusedEntry("The seed is a number.");
   return *seed;
 }

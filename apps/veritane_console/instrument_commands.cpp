@@ -1,12 +1,9 @@
 // Setting the simulated instrument from a script.
 #include "apps/veritane_console/instrument_commands.h"
 
-#include <cmath>
-#include <limits>
-
-#include "platform/number_text.h"
 #include "platform/run_time_error.h"
 #include "platform/scripted/script_line.h"
+#include "simulator/compartment.h"
 
 namespace veritane::console {
 
@@ -14,18 +11,47 @@ using platform::RefusedLine;
 
 namespace {
 
-double Number(const std::string& text) {
-  const auto number = platform::ParseNumber(text);
-  if (!number) throw RefusedLine("\"" + text + "\" is not a number");
-  return *number;
+// What the compartment's file says. A damaged one says nothing, and the line replaces it.
+simulator::CompartmentState InForce(const simulator::Compartment& compartment) {
+  try {
+    return compartment.Read();
+  } catch (const platform::RunTimeError& error) {
+    const auto number = static_cast<platform::ErrorNumber>(error.Number());
+    if (number != platform::ErrorNumber::kInvalidCall && number != platform::ErrorNumber::kTypeMismatch)
+      throw;
+    return {};
+  }
 }
 
-int WholeNumber(const std::string& text) {
-  const double number = Number(text);
-  if (number != std::floor(number) || std::abs(number) > std::numeric_limits<int>::max()) {
-    throw RefusedLine("\"" + text + "\" is not a whole number");
+template <typename Value>
+Value Setting(Value (*from)(const std::string&), const std::string& word, const std::string& what) {
+  try {
+    return from(word);
+  } catch (const simulator::RefusedValue& refused) {
+    throw RefusedLine("The " + what + " " + refused.what() + ".");
   }
-  return static_cast<int>(number);
+}
+
+void Apply(const std::vector<std::string>& words, simulator::CompartmentState& state) {
+  const std::string& name = words[0];
+  const std::string& value = words[1];
+  if (name == "sample") {
+    state.sample = value;
+  } else if (name == "accessory") {
+    state.accessory = value;
+  } else if (name == "fault") {
+    state.fault = Setting(simulator::FaultFrom, value, "error number");
+    state.faultCount =
+        words.size() == 3 ? Setting(simulator::FaultCountFrom, words[2], "number of times") : 1;
+  } else if (name == "noise") {
+    state.noise = Setting(simulator::NoiseFrom, value, "noise");
+  } else if (name == "duration") {
+    state.duration = Setting(simulator::DurationFrom, value, "duration");
+  } else if (name == "seed") {
+    state.seed = Setting(simulator::SeedFrom, value, "seed");
+  } else {
+    throw RefusedLine("The instrument has no \"" + name + "\".");
+  }
 }
 
 }  // namespace
@@ -39,26 +65,9 @@ std::vector<nlohmann::ordered_json> SetInstrument(apps::SimulatedBench& bench,
   if (words.size() < 2 || words.size() > (name == "fault" ? 3U : 2U)) {
     throw RefusedLine("app takes: sample, accessory, fault, noise, duration, seed with a value; or calls");
   }
-  simulator::CompartmentState state = bench.SampleCompartment().Read();
-  const std::string& value = words[1];
-  if (name == "sample") {
-    state.sample = value;
-  } else if (name == "accessory") {
-    state.accessory = value;
-  } else if (name == "fault") {
-    state.fault = WholeNumber(value);
-    state.faultCount = words.size() == 3 ? WholeNumber(words[2]) : 1;
-  } else if (name == "noise") {
-    state.noise = Number(value);
-  } else if (name == "duration") {
-    state.duration = WholeNumber(value);
-  } else if (name == "seed") {
-    state.seed =
-        value == "random" ? std::nullopt : std::optional(static_cast<std::uint32_t>(WholeNumber(value)));
-  } else {
-    throw RefusedLine("the instrument has no \"" + name + "\"");
-  }
   try {
+    simulator::CompartmentState state = InForce(bench.SampleCompartment());
+    Apply(words, state);
     bench.SampleCompartment().Write(state);
   } catch (const platform::RunTimeError& error) {
     throw RefusedLine(error.what());
