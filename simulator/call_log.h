@@ -18,6 +18,7 @@ public:
   // are.
   template <typename... Arguments>
   void Note(std::string_view operation, const Arguments&... arguments) {
+    if (!keeps_) return;
     std::string call(operation);
     if constexpr (sizeof...(arguments) > 0) {
       std::string_view separator = "(";
@@ -29,6 +30,12 @@ public:
 
   // The calls since the last taking.
   std::vector<std::string> Take() { return std::exchange(calls_, {}); }
+
+  // Lets go of the calls from now on: where nobody takes them, they would grow as long as the program runs.
+  void KeepNothing() {
+    keeps_ = false;
+    calls_.clear();
+  }
 
 private:
   template <typename Argument>
@@ -45,6 +52,7 @@ private:
   }
 
   std::vector<std::string> calls_;
+  bool keeps_ = true;
 };
 
 }  // namespace veritane::simulator

@@ -55,20 +55,28 @@ int WholeNumber(const apps::CommandLine& line, const std::string& option) {
   return static_cast<int>(*number);
 }
 
-// Lets the time of a measurement pass. In the middle of the collection that it was told, the process dies.
+// Lets the time of a measurement pass. In the middle of the collection that it was told, the process dies; 0
+// is none.
 class Passing {
 public:
   explicit Passing(int fatal_collection) : left_(fatal_collection) {}
 
-  void Wait(std::chrono::milliseconds time, simulator::CallLog& calls) {
+  // Looks for collections among the calls, which are kept for nothing else.
+  void Watch(simulator::CallLog& calls) {
+    calls_ = &calls;
+    if (left_ == 0) calls.KeepNothing();
+  }
+
+  void Wait(std::chrono::milliseconds time) {
     std::this_thread::sleep_for(time);
-    const auto noted = calls.Take();
-    if (left_ == 0 || std::ranges::find(noted, "CollectInto") == noted.end()) return;
+    const auto noted = calls_->Take();
+    if (std::ranges::find(noted, "CollectInto") == noted.end()) return;
     if (--left_ == 0) std::_Exit(EXIT_FAILURE);
   }
 
 private:
   int left_;
+  simulator::CallLog* calls_ = nullptr;
 };
 
 int Serve(const apps::CommandLine& line) {
@@ -79,9 +87,8 @@ int Serve(const apps::CommandLine& line) {
     machine.clock.Set(*moment);
   }
   Passing passing(WholeNumber(line, "--die-in-collection"));
-  simulator::CallLog* calls = nullptr;
-  apps::SimulatedBench bench(machine, [&](std::chrono::milliseconds time) { passing.Wait(time, *calls); });
-  calls = &bench.Calls();
+  apps::SimulatedBench bench(machine, [&](std::chrono::milliseconds time) { passing.Wait(time); });
+  passing.Watch(bench.Calls());
   const auto server = platform::SystemAutomationServer();
   auto app = std::make_shared<simulator_process::ServedSpectrometer>(
       bench.Create(kClass.progId), *server, std::chrono::milliseconds(WholeNumber(line, "--busy")));
