@@ -36,9 +36,18 @@ bool NewestSpectrum::Look() {
   return true;
 }
 
+// A drive that is gone for a while has none.
+std::vector<std::string> NewestSpectrum::FoldersNow() const {
+  try {
+    return folders_();
+  } catch (const platform::RunTimeError&) {
+    return {};
+  }
+}
+
 std::vector<NewestSpectrum::Candidate> NewestSpectrum::Candidates() const {
   std::vector<Candidate> candidates;
-  for (const std::string& folder : folders_()) {
+  for (const std::string& folder : FoldersNow()) {
     std::vector<std::string> names;
     try {
       names = files_.ListFiles(folder);

@@ -21,14 +21,16 @@ struct FiledSpectrum {
 
 class NewestSpectrum {
 public:
-  // Asked at each look, because the program may be set up after the panel has begun.
+  // Asked at each look, because the program may be set up after the panel has begun. It may raise a
+  // RunTimeError.
   using Folders = std::function<std::vector<std::string>()>;
 
   // Of files changed in the same second, one in an earlier folder counts as newer.
   NewestSpectrum(const platform::FileSystem& files, const platform::Clock& clock, Folders folders)
       : files_(files), clock_(clock), folders_(std::move(folders)) {}
 
-  // Looks again, and returns whether Found or PassedOver may have changed. A missing folder is an empty one.
+  // Looks again, and returns whether Found or PassedOver may have changed. A folder that is missing or cannot
+  // be looked at is an empty one.
   bool Look();
 
   // The last spectrum of the newest ".bsp" file that can be read; nothing when there is none.
@@ -43,6 +45,7 @@ private:
     bool operator==(const Candidate&) const = default;
   };
 
+  std::vector<std::string> FoldersNow() const;
   std::vector<Candidate> Candidates() const;
   std::optional<FiledSpectrum> Read(const Candidate& candidate) const;
 
