@@ -71,7 +71,7 @@ std::optional<std::string> FrmVeritane::TakeDataFolder() {
       Screen().ShowMessage({.text = Text(TextId::kNoApplicationData), .title = Text(TextId::kProgramName)});
     data_folder = state::DataFolderBelow(common);
     if (!machine_.files.FolderExists(data_folder)) return data_folder;
-    data_folder_lock_ = machine_.files.TakeFile(data_folder + "veritane.lock");
+    data_folder_lock_ = machine_.files.TakeFile(data_folder + state::kDataFolderLock);
   } catch (const platform::RunTimeError& error) {
     throw platform::RunTimeError(error.Number(), Text(TextId::kDataFolderUnusable, {error.what()}));
   }

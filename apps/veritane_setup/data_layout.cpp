@@ -166,8 +166,13 @@ std::vector<std::string> LayOutData(const platform::Machine& machine) {
 }
 
 void SetDemonstrationMode(const platform::Machine& machine, bool demonstration) {
-  const std::string path =
-      state::DataFolderBelow(machine.folders.CommonApplicationData(true)) + "settings.ini";
+  const std::string data_folder = state::DataFolderBelow(machine.folders.CommonApplicationData(true));
+  const auto lock = machine.files.TakeFile(data_folder + state::kDataFolderLock);
+  if (lock == nullptr) {
+    throw ProgramIsRunning("Veritane is running on " + data_folder +
+                           " and would undo the change when it ends; end it first");
+  }
+  const std::string path = data_folder + "settings.ini";
   const std::string first_line = demonstration ? "1" : "0";
   if (!machine.files.FileExists(path)) {
     state::Options options;

@@ -2,6 +2,7 @@
 // demonstration spectra.
 #pragma once
 
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -13,8 +14,13 @@ namespace veritane::setup {
 // is. Spectra are computed by the simulator. Returns the Windows paths of the files that were made.
 std::vector<std::string> LayOutData(const platform::Machine& machine);
 
+struct ProgramIsRunning : std::runtime_error {
+  using std::runtime_error::runtime_error;
+};
+
 // Makes the first line of settings.ini say whether the program demonstrates (true) or measures. A missing
-// file is made with the usual settings; every other line stays.
+// file is made with the usual settings; every other line stays. ProgramIsRunning, with nothing changed, while
+// Veritane is at work on the data folder: it would write its own settings when it ends.
 void SetDemonstrationMode(const platform::Machine& machine, bool demonstration);
 
 }  // namespace veritane::setup

@@ -18,6 +18,9 @@ struct FolderSet {
 // The Nexa names when the registry's "Obe Type" is the DWORD 6, else the plain ones.
 FolderSet ChooseFolderSet(const platform::Registry& registry);
 
+// The file of the data folder that a running Veritane has taken for itself.
+inline constexpr const char* kDataFolderLock = "veritane.lock";
+
 struct DataFolders {
   std::string appDir;   // ends in "\"
   std::string stdsDir;  // does not
