@@ -5,7 +5,6 @@
 #include "apps/veritane_calibrate/calibration_report.h"
 #include "apps/veritane_calibrate/calibration_request.h"
 #include "plslibrary/calibration_file.h"
-#include "plslibrary/pls_error.h"
 
 namespace {
 
@@ -39,9 +38,9 @@ void Save(const CommandLine& line, const plslibrary::Calibration& calibration) {
   std::vector<plslibrary::Calibration> calibrations;
   const std::optional<std::string> grown = line.Option("--add-to");
   if (grown) {
-    const plslibrary::CalibrationFile file(FileBytes(*grown));
-    for (int number = 1; number <= file.Total(); ++number) calibrations.push_back(file.Read(number));
-    if (file.Total() == plslibrary::kMostCalibrations) throw SampleError(*grown + ": the file is full");
+    calibrations = ReadCalibrations(*grown);
+    if (calibrations.size() == plslibrary::kMostCalibrations)
+      throw SampleError(*grown + ": the file is full");
   }
   calibrations.push_back(calibration);
   WriteFile(grown ? *grown : *line.Option("--out"), plslibrary::CalibrationFileText(calibrations));

@@ -91,6 +91,16 @@ std::vector<Sample> ReadSpcSamples(const std::string& path) {
   return samples;
 }
 
+template <typename Take>
+auto FromCalibrationFile(const std::string& path, Take take) {
+  const std::string bytes = FileBytes(path);
+  try {
+    return take(plslibrary::CalibrationFile(bytes));
+  } catch (const plslibrary::PlsError& error) {
+    throw SampleError(path + ": " + error.what());
+  }
+}
+
 }  // namespace
 
 std::string FileBytes(const std::string& path) {
@@ -111,6 +121,19 @@ void WriteFile(const std::string& path, std::string_view bytes) {
   } catch (const platform::RunTimeError& error) {
     throw SampleError(path + ": " + platform::ErrorText(static_cast<platform::ErrorNumber>(error.Number())));
   }
+}
+
+plslibrary::Calibration ReadCalibration(const std::string& path, int number) {
+  return FromCalibrationFile(path,
+                             [number](const plslibrary::CalibrationFile& file) { return file.Read(number); });
+}
+
+std::vector<plslibrary::Calibration> ReadCalibrations(const std::string& path) {
+  return FromCalibrationFile(path, [](const plslibrary::CalibrationFile& file) {
+    std::vector<plslibrary::Calibration> calibrations;
+    for (int number = 1; number <= file.Total(); ++number) calibrations.push_back(file.Read(number));
+    return calibrations;
+  });
 }
 
 bool IsCsv(const std::string& path) {

@@ -6,6 +6,7 @@
 
 #include "apps/veritane_calibrate/csv_table.h"
 #include "plslibrary/calibration.h"
+#include "plslibrary/calibration_file.h"
 #include "plslibrary/measured_spectrum.h"
 
 namespace veritane::calibrate {
@@ -21,6 +22,10 @@ struct Sample {
 std::string FileBytes(const std::string& path);
 // Replaces the file whole: the old one or the new one is there, never a mixture. SampleError.
 void WriteFile(const std::string& path, std::string_view bytes);
+
+// The calibration of this number, from 1, in a ".cal" file; all of them. SampleError names the file.
+plslibrary::Calibration ReadCalibration(const std::string& path, int number);
+std::vector<plslibrary::Calibration> ReadCalibrations(const std::string& path);
 
 bool IsCsv(const std::string& path);
 

@@ -5,7 +5,6 @@
 
 #include "apps/command_line.h"
 #include "apps/veritane_calibrate/samples.h"
-#include "plslibrary/calibration_file.h"
 #include "plslibrary/pls_error.h"
 #include "plslibrary/prediction.h"
 
@@ -33,14 +32,6 @@ int CalibrationNumber(const CommandLine& line) {
   const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
   if (error == std::errc() && end == text.data() + text.size()) return number;
   throw UsageError("--calibration \"" + text + "\": a number is needed");
-}
-
-plslibrary::Calibration ReadCalibration(const std::string& path, int number) {
-  try {
-    return plslibrary::CalibrationFile(FileBytes(path)).Read(number);
-  } catch (const plslibrary::PlsError& error) {
-    throw SampleError(path + ": " + error.what());
-  }
 }
 
 bool IsWithin(double value, const plslibrary::Limits& limits) {

@@ -154,7 +154,8 @@ class Tools(unittest.TestCase):
         (self.folder / "bad.cal").write_bytes(content[:1000] + b"7" + content[1001:])
         if content[1000:1001] == b"7":
             self.fail("the byte that is damaged was the same before")
-        self.assertIn("damaged", self.predict("bad.cal", GASOLINE, status=1).stderr)
+        for refused in (self.predict("bad.cal", GASOLINE, status=1), self.calibrate_gasoline("--add-to", "bad.cal", status=1)):
+            self.assertIn("bad.cal: calibration 1 is damaged", refused.stderr)
 
 
 if __name__ == "__main__":
