@@ -57,12 +57,13 @@ int Calibrate(const CommandLine& line) {
       std::cerr << "veritane-calibrate: " << sample.place << ": " << sample.remark << '\n';
   }
   const plslibrary::BuiltCalibration built = plslibrary::BuildCalibration(request.plan, request.spectra);
-  if (saves) Save(line, built.calibration);
   if (const auto report = line.Option("--report")) {
     WriteFile(*report, ReportJson(built, request.plan, request.samples));
   }
   std::cout << ReportText(built, request.samples) << std::flush;
   if (!std::cout) throw SampleError("the report cannot be written");
+  // Last of all: who tries again after a failure must not find the calibration added already.
+  if (saves) Save(line, built.calibration);
   return 0;
 }
 

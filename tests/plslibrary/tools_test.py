@@ -118,6 +118,13 @@ class Tools(unittest.TestCase):
                       self.predict("gas.cal", GASOLINE, "--calibration", "3", status=1).stderr)
         self.assertIn("no-such.cal", self.calibrate_gasoline("--add-to", "no-such.cal", status=1).stderr)
 
+    def test_without_its_report_no_calibration_is_added(self):
+        self.calibrate_gasoline("--rows", "1-50", "--factors", "2", "--out", "gas.cal")
+        before = (self.folder / "gas.cal").read_bytes()
+        done = self.calibrate_gasoline("--add-to", "gas.cal", "--report", "no-such-folder/gas.json", status=1)
+        self.assertIn("gas.json", done.stderr)
+        self.assertEqual((self.folder / "gas.cal").read_bytes(), before)
+
     def test_errors_name_file_line_and_column(self):
         good = "sample,octane,900,902,904\nA,88,1,2,3\nB,87,2,3,5\nC,86,3,5,5\nD,85,4,4,7\nE,84,5,8,9\n"
         for text, words in [
