@@ -42,12 +42,17 @@ private:
     return true;
   }
 
+  void SkipBlanks() {
+    while (Take(' ') || Take('\t')) {
+    }
+  }
+
   std::string ReadCell() {
+    SkipBlanks();
     if (Take('"')) return ReadQuoted();
     const std::size_t end = std::min(text_.find_first_of(",\r\n", position_), text_.size());
     std::string cell = text_.substr(position_, end - position_);
     position_ = end;
-    cell.erase(0, cell.find_first_not_of(" \t"));
     cell.erase(cell.find_last_not_of(" \t") + 1);
     return cell;
   }
@@ -58,6 +63,7 @@ private:
     while (!AtEnd()) {
       const char character = text_[position_++];
       if (character == '"' && !Take('"')) {
+        SkipBlanks();
         if (!AtEnd() && std::string_view(",\r\n").find(text_[position_]) == std::string_view::npos) {
           throw SampleError(place + ": text behind a quoted cell");
         }

@@ -18,7 +18,8 @@ struct SampleError : std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
-// A table whose first row names the columns. Cells may stand in double quotes; numbers have a decimal point.
+// A table whose first row names the columns. Cells may stand in double quotes, with blanks around them;
+// numbers have a decimal point.
 class CsvTable {
 public:
   // SampleError for text without a row of samples, for rows of another length, and for an open quote.
