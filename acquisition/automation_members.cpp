@@ -16,6 +16,7 @@ namespace veritane::acquisition {
 namespace {
 
 using platform::MemberUse;
+using platform::TrimBlanks;
 using state::Text;
 using state::TextId;
 
@@ -93,13 +94,6 @@ constexpr bool TableIsInOrder() {
 }
 static_assert(TableIsInOrder());
 
-std::string_view Trimmed(std::string_view text) {
-  constexpr std::string_view kBlanks = " \t";
-  const std::size_t start = text.find_first_not_of(kBlanks);
-  if (start == text.npos) return {};
-  return text.substr(start, text.find_last_not_of(kBlanks) - start + 1);
-}
-
 std::optional<MemberUse> UseOf(std::string_view word) {
   const std::string upper = platform::UpperCase(word);
   if (upper == "CALL") return MemberUse::kCall;
@@ -122,7 +116,7 @@ std::optional<ServerMember> ParseServerMember(std::string_view text, const Serve
     const auto named = UseOf(text.substr(0, blank));
     if (!named) return std::nullopt;
     use = *named;
-    text = Trimmed(text.substr(blank));
+    text = TrimBlanks(text.substr(blank));
   }
   if (text.empty() || text.find_first_of(" \t=\"'") != text.npos) return std::nullopt;
   return ServerMember{std::string(text), use};
@@ -142,19 +136,19 @@ AutomationMembers::AutomationMembers(std::string_view bytes, const std::string& 
   std::set<Member> changed;
   for (int number = 1; !reader.AtEnd(); ++number) {
     const std::string line = reader.ReadLine();
-    const std::string_view text = Trimmed(line);
+    const std::string_view text = TrimBlanks(line);
     if (text.empty() || text.starts_with('#')) continue;
     const std::string place = platform::Text(platform::TextId::kLineOfFile, {source, std::to_string(number)});
     const std::size_t equals = text.find('=');
     if (equals == text.npos) Refuse(TextId::kMemberLineExpected, place);
-    const std::string name(Trimmed(text.substr(0, equals)));
+    const std::string name(TrimBlanks(text.substr(0, equals)));
     const auto* const row = std::ranges::find(kTable, platform::UpperCase(name), [](const Row& each) {
       return platform::UpperCase(each.contractName);
     });
     if (row == kTable.end()) Refuse(TextId::kNotInContract, place, name);
     if (!changed.insert(row->member).second) Refuse(TextId::kMemberTwice, place, name);
     ServerMember& member = members_[static_cast<std::size_t>(row->member)];
-    const auto given = ParseServerMember(Trimmed(text.substr(equals + 1)), member);
+    const auto given = ParseServerMember(TrimBlanks(text.substr(equals + 1)), member);
     if (!given) Refuse(TextId::kMemberNameExpected, place);
     member = *given;
   }

@@ -41,6 +41,12 @@ std::string DecodeText(std::string_view bytes) {
   return text;
 }
 
+std::string_view TrimBlanks(std::string_view text) {
+  while (!text.empty() && IsBlank(text.front())) text.remove_prefix(1);
+  while (!text.empty() && IsBlank(text.back())) text.remove_suffix(1);
+  return text;
+}
+
 TextReader::TextReader(std::string_view bytes, std::string source)
     : text_(DecodeText(bytes)), source_(std::move(source)) {}
 

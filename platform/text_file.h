@@ -14,6 +14,9 @@ inline constexpr std::string_view kLineEnd = "\r\n";
 // Windows-1252.
 std::string DecodeText(std::string_view bytes);
 
+// The text without the blanks and tabs around it.
+std::string_view TrimBlanks(std::string_view text);
+
 // Reads a text front to back, as fields (cut at a comma or line end) or as whole lines. Lines may end CR LF,
 // LF or CR; a missing last line end does not matter.
 class TextReader {

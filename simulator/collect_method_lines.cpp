@@ -12,14 +12,9 @@ namespace veritane::simulator {
 
 using platform::ErrorNumber;
 using platform::RunTimeError;
+using platform::TrimBlanks;
 
 namespace {
-
-std::string Trimmed(const std::string& text) {
-  const std::size_t first = text.find_first_not_of(" \t");
-  if (first == std::string::npos) return {};
-  return text.substr(first, text.find_last_not_of(" \t") - first + 1);
-}
 
 std::string Place(const KeyValueLine& line) {
   return "line " + std::to_string(line.number) + ": ";
@@ -31,13 +26,14 @@ std::vector<KeyValueLine> ReadKeyValueLines(std::string_view bytes) {
   std::vector<KeyValueLine> lines;
   platform::TextReader reader(bytes);
   for (int number = 1; !reader.AtEnd(); ++number) {
-    const std::string text = Trimmed(reader.ReadLine());
+    const std::string whole = reader.ReadLine();
+    const std::string_view text = TrimBlanks(whole);
     if (text.empty() || text.front() == '#') continue;
     const std::size_t equals = text.find('=');
-    KeyValueLine line{number, platform::UpperCase(Trimmed(text.substr(0, equals))), {}};
-    if (equals == std::string::npos) RefuseLine(line, "\"" + text + "\" is not \"Key = value\"");
+    KeyValueLine line{number, platform::UpperCase(TrimBlanks(text.substr(0, equals))), {}};
+    if (equals == std::string::npos) RefuseLine(line, "\"" + std::string(text) + "\" is not \"Key = value\"");
     if (line.key.empty()) RefuseLine(line, "the key is missing");
-    line.value = Trimmed(text.substr(equals + 1));
+    line.value = TrimBlanks(text.substr(equals + 1));
     lines.push_back(std::move(line));
   }
   return lines;

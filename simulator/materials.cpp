@@ -7,6 +7,7 @@
 
 #include "platform/number_text.h"
 #include "platform/run_time_error.h"
+#include "platform/text_file.h"
 #include "platform/windows_path.h"
 #include "simulator/materials_tables.h"
 
@@ -14,6 +15,7 @@ namespace veritane::simulator {
 
 using platform::ErrorNumber;
 using platform::RunTimeError;
+using platform::TrimBlanks;
 using platform::UpperCase;
 
 namespace {
@@ -25,12 +27,6 @@ std::vector<Material> AllMaterials() {
   for (const auto group : {Polymers(), Pharmaceuticals(), Liquids()})
     all.insert(all.end(), group.begin(), group.end());
   return all;
-}
-
-std::string_view Trimmed(std::string_view text) {
-  const std::size_t first = text.find_first_not_of(" \t");
-  if (first == std::string_view::npos) return {};
-  return text.substr(first, text.find_last_not_of(" \t") - first + 1);
 }
 
 bool IsSpectrumPath(std::string_view name) {
@@ -47,11 +43,11 @@ const Material& KnownMaterial(std::string_view name) {
 
 // "polystyrene 0.6" is 0.6 of polystyrene; a name alone has the share 1.
 SamplePart MixturePart(std::string_view text) {
-  const std::string_view part = Trimmed(text);
+  const std::string_view part = TrimBlanks(text);
   const std::size_t blank = part.rfind(' ');
   if (blank != std::string_view::npos && FindMaterial(part) == nullptr) {
     const auto share = platform::ParseNumber(part.substr(blank));
-    if (share && *share >= 0) return {&KnownMaterial(Trimmed(part.substr(0, blank))), {}, *share};
+    if (share && *share >= 0) return {&KnownMaterial(TrimBlanks(part.substr(0, blank))), {}, *share};
   }
   return {&KnownMaterial(part), {}, 1};
 }
@@ -106,7 +102,7 @@ std::span<const Material> Materials() {
 }
 
 const Material* FindMaterial(std::string_view name) {
-  const std::string wanted = UpperCase(Trimmed(name));
+  const std::string wanted = UpperCase(TrimBlanks(name));
   for (const Material& material : Materials()) {
     if (UpperCase(material.key) == wanted) return &material;
     for (std::string_view alias : material.aliases) {

@@ -5,6 +5,7 @@
 #include <sstream>
 
 #include "platform/number_text.h"
+#include "platform/text_file.h"
 
 namespace veritane::simulator {
 
@@ -17,17 +18,12 @@ std::vector<std::string> WordsOf(const std::string& text) {
   return words;
 }
 
-std::string Trimmed(const std::string& text) {
-  const std::size_t first = text.find_first_not_of(" \t");
-  if (first == std::string::npos) return {};
-  return text.substr(first, text.find_last_not_of(" \t") - first + 1);
-}
-
 }  // namespace
 
 PrintAttributes::PrintAttributes(const KeyValueLine& line) : line_(line) {
   const std::size_t colon = line.value.find(':');
-  if (colon != std::string::npos) text_ = Trimmed(line.value.substr(colon + 1));
+  if (colon != std::string::npos)
+    text_ = platform::TrimBlanks(std::string_view(line.value).substr(colon + 1));
   std::istringstream attributes(line.value.substr(0, colon));
   for (std::string attribute; std::getline(attributes, attribute, ',');) {
     std::vector<std::string> words = WordsOf(attribute);

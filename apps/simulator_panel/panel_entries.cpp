@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "platform/run_time_error.h"
+#include "platform/text_file.h"
 #include "simulator/compartment.h"
 #include "simulator/instrument.h"
 #include "simulator/materials.h"
@@ -13,15 +14,9 @@ namespace veritane::simulator_panel {
 
 namespace {
 
-std::string Trimmed(const std::string& text) {
-  const std::size_t first = text.find_first_not_of(" \t");
-  if (first == std::string::npos) return {};
-  return text.substr(first, text.find_last_not_of(" \t") - first + 1);
-}
-
 // One line of text that is not empty.
 std::string Name(const std::string& text, const std::string& what) {
-  std::string name = Trimmed(text);
+  std::string name(platform::TrimBlanks(text));
   if (name.empty()) throw RefusedEntry("Enter " + what + ".");
   const bool is_one_line =
       std::none_of(name.begin(), name.end(), [](char c) { return static_cast<unsigned char>(c) < 0x20; });

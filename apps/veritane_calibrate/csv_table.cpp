@@ -51,10 +51,9 @@ private:
     SkipBlanks();
     if (Take('"')) return ReadQuoted();
     const std::size_t end = std::min(text_.find_first_of(",\r\n", position_), text_.size());
-    std::string cell = text_.substr(position_, end - position_);
+    const std::string_view cell = std::string_view(text_).substr(position_, end - position_);
     position_ = end;
-    cell.erase(cell.find_last_not_of(" \t") + 1);
-    return cell;
+    return std::string(platform::TrimBlanks(cell));
   }
 
   std::string ReadQuoted() {
