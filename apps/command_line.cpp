@@ -5,7 +5,16 @@
 #include <iostream>
 #include <string_view>
 
+#include "platform/number_text.h"
+
 namespace veritane::apps {
+
+std::int64_t WholeNumberOf(const std::string& option, const std::string& text, std::int64_t least,
+                           std::int64_t most) {
+  if (const auto number = platform::ParseWholeNumber(text, least, most)) return *number;
+  throw UsageError(option + " \"" + text + "\": a whole number from " + std::to_string(least) + " to " +
+                   std::to_string(most) + " is needed");
+}
 
 CommandLine::CommandLine(int argument_count, char** arguments, const std::set<std::string>& options,
                          std::size_t most_words) {
@@ -25,6 +34,12 @@ CommandLine::CommandLine(int argument_count, char** arguments, const std::set<st
 std::optional<std::string> CommandLine::Option(const std::string& name) const {
   const auto found = options_.find(name);
   return found == options_.end() ? std::nullopt : std::optional(found->second.back());
+}
+
+std::int64_t CommandLine::WholeNumber(const std::string& name, std::int64_t fallback, std::int64_t least,
+                                      std::int64_t most) const {
+  const auto text = Option(name);
+  return text ? WholeNumberOf(name, *text, least, most) : fallback;
 }
 
 std::vector<std::string> CommandLine::Values(const std::string& name) const {

@@ -1,6 +1,8 @@
-// The options of a program's command line: "--name value" pairs, flags, and what stands beside them.
+// The options of a program's command line: "--name value" pairs, and the words that stand beside them. What
+// follows a name is its value, whatever it begins with.
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <map>
 #include <optional>
@@ -16,6 +18,10 @@ struct UsageError : std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
+// The text of an option's value as a whole number from `least` to `most`; UsageError for anything else.
+std::int64_t WholeNumberOf(const std::string& option, const std::string& text, std::int64_t least,
+                           std::int64_t most);
+
 class CommandLine {
 public:
   // `options` are the names that take a value, `most_words` how many words may stand beside them. UsageError
@@ -25,6 +31,9 @@ public:
 
   // The value of an option; the last one where it was given several times.
   std::optional<std::string> Option(const std::string& name) const;
+  // The option's value as WholeNumberOf reads it, `fallback` where it was not given.
+  std::int64_t WholeNumber(const std::string& name, std::int64_t fallback, std::int64_t least,
+                           std::int64_t most) const;
   // All values of an option, in the order given.
   std::vector<std::string> Values(const std::string& name) const;
   const std::vector<std::string>& Words() const { return words_; }

@@ -168,6 +168,14 @@ std::optional<double> ParseNumber(std::string_view text) {
   return Convert(text);
 }
 
+std::optional<std::int64_t> ParseWholeNumber(std::string_view text, std::int64_t least, std::int64_t most) {
+  std::int64_t number = 0;
+  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+  const bool is_whole = error == std::errc() && end == text.data() + text.size();
+  if (!is_whole || number < least || number > most) return std::nullopt;
+  return number;
+}
+
 double LeadingNumber(std::string_view text) {
   std::string packed(text);
   std::erase_if(packed, [](char c) { return c == ' ' || c == '\t'; });

@@ -1,6 +1,7 @@
 // Numbers as the program writes and reads them: a decimal point in every locale.
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -20,6 +21,10 @@ std::string PlainNumberText(double number);
 // The whole text as one decimal number, blanks around it allowed; nothing when any of it is something else
 // ("", "-", "1,5", "nan", "inf", "0x1").
 std::optional<double> ParseNumber(std::string_view text);
+
+// The whole text as one whole number from `least` to `most`, in decimal digits alone, "-" before them where
+// it is negative; nothing when it is anything else ("", "+1", "1.0", " 1").
+std::optional<std::int64_t> ParseWholeNumber(std::string_view text, std::int64_t least, std::int64_t most);
 
 // The number that a text begins with, blanks skipped wherever they stand, 0 if it begins with none: "12 h" is
 // 12, "1 000" is 1000, "-" is 0.

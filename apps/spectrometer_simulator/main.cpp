@@ -10,7 +10,6 @@
 #include "apps/simulated_bench.h"
 #include "apps/spectrometer_simulator/served_spectrometer.h"
 #include "platform/automation_server.h"
-#include "platform/number_text.h"
 #include "platform/system/native_path.h"
 #include "platform/system/system_machine.h"
 #include "simulator/automation_server.h"
@@ -34,6 +33,9 @@ const platform::ServedClass kClass{.progId = "quillon.app.1",
                                    .classId = "{15CBD401-DC7F-4B81-A5D4-F585FC25552F}",
                                    .description = "Simulated Spectrometer application"};
 
+// As high as an option's number goes.
+constexpr int kMost = 1'000'000'000;
+
 std::string Quoted(const std::string& text) {
   return '"' + text + '"';
 }
@@ -44,15 +46,6 @@ int Register(const apps::CommandLine& line) {
   if (const auto root = line.Option("--root")) command_line += " --root " + Quoted(*root);
   platform::RegisterServer(kClass, command_line);
   return 0;
-}
-
-int WholeNumber(const apps::CommandLine& line, const std::string& option) {
-  const std::string text = line.Option(option).value_or("0");
-  const auto number = platform::ParseNumber(text);
-  if (!number || *number < 0 || *number > 1e9) {
-    throw apps::UsageError(option + " takes a whole number, not \"" + text + "\"");
-  }
-  return static_cast<int>(*number);
 }
 
 // Lets the time of a measurement pass. In the middle of the collection that it was told, the process dies; 0
@@ -86,12 +79,13 @@ int Serve(const apps::CommandLine& line) {
     if (!moment) throw apps::UsageError("\"" + *now + "\" is no time");
     machine.clock.Set(*moment);
   }
-  Passing passing(WholeNumber(line, "--die-in-collection"));
+  Passing passing(static_cast<int>(line.WholeNumber("--die-in-collection", 0, 0, kMost)));
   apps::SimulatedBench bench(machine, [&](std::chrono::milliseconds time) { passing.Wait(time); });
   passing.Watch(bench.Calls());
   const auto server = platform::SystemAutomationServer();
   auto app = std::make_shared<simulator_process::ServedSpectrometer>(
-      bench.Create(kClass.progId), *server, std::chrono::milliseconds(WholeNumber(line, "--busy")));
+      bench.Create(kClass.progId), *server,
+      std::chrono::milliseconds(line.WholeNumber("--busy", 0, 0, kMost)));
   server->Serve(kClass, simulator::ServeSpectrometerApp(std::move(app)), [&] {
     if (const auto ready = line.Option("--ready")) std::ofstream(platform::PathFromUtf8(*ready)) << "ready\n";
   });

@@ -2,7 +2,6 @@
 #include "apps/veritane_calibrate/calibration_request.h"
 
 #include <algorithm>
-#include <charconv>
 #include <cmath>
 #include <filesystem>
 #include <set>
@@ -27,17 +26,6 @@ std::vector<std::string> Split(const std::string& text, char separator) {
     parts.push_back(text.substr(begin, end == std::string::npos ? end : end - begin));
   }
   return parts;
-}
-
-Eigen::Index WholeNumber(const std::string& option, const std::string& text, Eigen::Index least,
-                         Eigen::Index most) {
-  Eigen::Index number = 0;
-  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-  if (error != std::errc() || end != text.data() + text.size() || number < least || number > most) {
-    throw UsageError(option + " \"" + text + "\": a whole number from " + std::to_string(least) + " to " +
-                     std::to_string(most) + " is needed");
-  }
-  return number;
 }
 
 int UnitCode(const CommandLine& line, const std::string& option,
@@ -97,10 +85,10 @@ void ReadPlan(const CommandLine& line, CalibrationRequest& request) {
   plan.scaled = scale == "yes";
   const auto samples = static_cast<Eigen::Index>(request.samples.size());
   if (const std::string groups = line.Option("--cv").value_or("loo"); groups != "loo") {
-    plan.groups = WholeNumber("--cv", groups, 2, samples);
+    plan.groups = static_cast<Eigen::Index>(apps::WholeNumberOf("--cv", groups, 2, samples));
   }
   plan.mostFactors =
-      WholeNumber("--max-factors", line.Option("--max-factors").value_or("10"), 1, plslibrary::kMostFactors);
+      static_cast<Eigen::Index>(line.WholeNumber("--max-factors", 10, 1, plslibrary::kMostFactors));
   plan.memo = line.Option("--memo").value_or(std::filesystem::path(line.Words().front()).stem().string());
   if (!plslibrary::SingleByteText(plan.memo)) {
     throw UsageError("--memo: characters up to U+00FF, and no control characters, can be kept");
@@ -125,7 +113,8 @@ void PlanConstituents(const CommandLine& line, const CsvTable& references,
     const std::string& number = factors[factors.size() == 1 ? 0 : i];
     const Eigen::Index least = line.Option("--factors") ? 1 : 0;
     plan.constituents.push_back({names[i], references.Reference(names[i], rows),
-                                 WholeNumber("--factors", number, least, plslibrary::kMostFactors)});
+                                 static_cast<Eigen::Index>(apps::WholeNumberOf("--factors", number, least,
+                                                                               plslibrary::kMostFactors))});
   }
 }
 

@@ -5,6 +5,7 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <limits>
 #include <set>
 
 #include "apps/command_line.h"
@@ -92,12 +93,9 @@ std::string LowerCase(std::string text) {
 }
 
 std::size_t RowNumber(std::string_view text, const std::string& whole) {
-  std::size_t number = 0;
-  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-  if (error != std::errc() || end != text.data() + text.size() || number == 0) {
-    throw apps::UsageError("\"" + whole + "\" is no list of rows such as 1,4-9");
-  }
-  return number;
+  const auto number = platform::ParseWholeNumber(text, 1, std::numeric_limits<std::ptrdiff_t>::max());
+  if (!number) throw apps::UsageError("\"" + whole + "\" is no list of rows such as 1,4-9");
+  return static_cast<std::size_t>(*number);
 }
 
 }  // namespace

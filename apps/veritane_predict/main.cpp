@@ -1,10 +1,10 @@
 // veritane-predict: applies a calibration to spectra.
-#include <charconv>
 #include <iostream>
 #include <nlohmann/json.hpp>
 
 #include "apps/command_line.h"
 #include "apps/veritane_calibrate/samples.h"
+#include "plslibrary/calibration_file.h"
 #include "plslibrary/pls_error.h"
 #include "plslibrary/prediction.h"
 
@@ -26,14 +26,6 @@ constexpr const char* kUsage =
     "  --report FILE    how well each spectrum fits the calibration, as JSON\n"
     "Exit status: 0 done, 1 the data are at fault, 2 the command line is.\n";
 
-int CalibrationNumber(const CommandLine& line) {
-  const std::string text = line.Option("--calibration").value_or("1");
-  int number = 0;
-  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-  if (error == std::errc() && end == text.data() + text.size()) return number;
-  throw UsageError("--calibration \"" + text + "\": a number is needed");
-}
-
 bool IsWithin(double value, const plslibrary::Limits& limits) {
   return value >= limits.low && value <= limits.high;
 }
@@ -52,7 +44,9 @@ nlohmann::ordered_json FitJson(const plslibrary::Calibration& calibration, const
 
 int PredictSamples(const CommandLine& line) {
   if (line.Words().size() < 2) throw UsageError("a calibration file and a file of samples are needed");
-  const plslibrary::Calibration calibration = ReadCalibration(line.Words().front(), CalibrationNumber(line));
+  const plslibrary::Calibration calibration = ReadCalibration(
+      line.Words().front(),
+      static_cast<int>(line.WholeNumber("--calibration", 1, 1, plslibrary::kMostCalibrations)));
   const std::vector<Sample> samples =
       ReadSamples({line.Words().begin() + 1, line.Words().end()}, line.Option("--rows"));
   std::string table = "sample";

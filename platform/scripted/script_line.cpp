@@ -1,8 +1,9 @@
 // Splitting a script line into words.
 #include "platform/scripted/script_line.h"
 
-#include <charconv>
+#include <limits>
 
+#include "platform/number_text.h"
 #include "platform/utf8.h"
 
 namespace veritane::platform {
@@ -72,12 +73,9 @@ ScriptLine ParseScriptLine(std::string_view line) {
 }
 
 int ParseWholeNumber(std::string_view word, std::string_view what) {
-  int number = 0;
-  const auto [end, error] = std::from_chars(word.data(), word.data() + word.size(), number);
-  if (error != std::errc() || end != word.data() + word.size() || number < 0) {
-    throw RefusedLine("\"" + std::string(word) + "\" is not " + std::string(what) + ".");
-  }
-  return number;
+  const auto number = ParseWholeNumber(word, 0, std::numeric_limits<int>::max());
+  if (!number) throw RefusedLine("\"" + std::string(word) + "\" is not " + std::string(what) + ".");
+  return static_cast<int>(*number);
 }
 
 }  // namespace veritane::platform
