@@ -6,9 +6,10 @@
 
 #include "apps/command_line.h"
 #include "apps/compartment_path.h"
+#include "apps/machine_options.h"
 #include "apps/simulator_panel/frm_simulator.h"
+#include "apps/window_paths.h"
 #include "platform/system/common_controls.h"
-#include "platform/system/native_path.h"
 #include "platform/system/starter_message.h"
 #include "platform/system/system_machine.h"
 #include "platform/wx/wx_user_interface.h"
@@ -45,12 +46,9 @@ struct Panel {
 };
 
 int Run(const apps::CommandLine& line, int argument_count, char** arguments) {
-  platform::SystemMachine machine(line.Option("--root").value_or(platform::DefaultRoot().string()), "");
+  platform::SystemMachine machine(apps::RootOption(line), "");
   std::unique_ptr<Panel> panel;
-  const platform::PathMapping paths{
-      .toNative = [&](const std::string& path) { return platform::Utf8Of(machine.paths.ToNative(path)); },
-      .toWindows =
-          [&](const std::string& path) { return machine.paths.ToWindows(platform::PathFromUtf8(path)); }};
+  const platform::PathMapping paths = apps::PathsOf(machine);
   platform::InitialiseCommonControls();
   return platform::RunInWindow(argument_count, arguments, paths, [&](platform::WxUserInterface& screen) {
     panel = std::make_unique<Panel>(machine, screen);
@@ -65,7 +63,7 @@ int Run(const apps::CommandLine& line, int argument_count, char** arguments) {
 int main(int argument_count, char** arguments) {
   return apps::RunProgram({.name = "simulator-panel",
                            .usage = "usage: simulator-panel [--root DIR]\n",
-                           .options = {"--root"},
+                           .options = {apps::kRootOption},
                            .alsoShow = platform::ShowToStarter},
                           argument_count, arguments, [&](const apps::CommandLine& line) {
                             return Run(line, argument_count, arguments);

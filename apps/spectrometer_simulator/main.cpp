@@ -7,6 +7,7 @@
 #include <thread>
 
 #include "apps/command_line.h"
+#include "apps/machine_options.h"
 #include "apps/simulated_bench.h"
 #include "apps/spectrometer_simulator/served_spectrometer.h"
 #include "platform/automation_server.h"
@@ -43,7 +44,7 @@ std::string Quoted(const std::string& text) {
 int Register(const apps::CommandLine& line) {
   const std::filesystem::path program = platform::NativeProgramFolder() / "spectrometer-simulator.exe";
   std::string command_line = Quoted(platform::Utf8Of(program)) + " /automation";
-  if (const auto root = line.Option("--root")) command_line += " --root " + Quoted(*root);
+  if (const auto root = line.Option(apps::kRootOption)) command_line += " --root " + Quoted(*root);
   platform::RegisterServer(kClass, command_line);
   return 0;
 }
@@ -73,12 +74,8 @@ private:
 };
 
 int Serve(const apps::CommandLine& line) {
-  platform::SystemMachine machine(line.Option("--root").value_or(platform::DefaultRoot().string()), "");
-  if (const auto now = line.Option("--now")) {
-    const auto moment = platform::ParseIsoDateTime(*now);
-    if (!moment) throw apps::UsageError("\"" + *now + "\" is no time");
-    machine.clock.Set(*moment);
-  }
+  platform::SystemMachine machine(apps::RootOption(line), "");
+  apps::SetClock(line, machine);
   Passing passing(static_cast<int>(line.WholeNumber("--die-in-collection", 0, 0, kMost)));
   apps::SimulatedBench bench(machine, [&](std::chrono::milliseconds time) { passing.Wait(time); });
   passing.Watch(bench.Calls());
@@ -108,9 +105,10 @@ int Run(const apps::CommandLine& line) {
 }  // namespace
 
 int main(int argument_count, char** arguments) {
-  return apps::RunProgram({.name = "spectrometer-simulator",
-                           .usage = kUsage,
-                           .options = {"--root", "--now", "--ready", "--busy", "--die-in-collection"},
-                           .mostWords = 2},
-                          argument_count, arguments, Run);
+  return apps::RunProgram(
+      {.name = "spectrometer-simulator",
+       .usage = kUsage,
+       .options = {apps::kRootOption, apps::kNowOption, "--ready", "--busy", "--die-in-collection"},
+       .mostWords = 2},
+      argument_count, arguments, Run);
 }

@@ -1,5 +1,4 @@
 // veritane: the program in its window.
-#include <iostream>
 #include <memory>
 #include <thread>
 
@@ -7,10 +6,10 @@
 #include "apps/command_line.h"
 #include "apps/instrument.h"
 #include "apps/simulated_bench.h"
+#include "apps/window_paths.h"
 #include "platform/pdf/system_printer.h"
 #include "platform/run_time_error.h"
 #include "platform/system/common_controls.h"
-#include "platform/system/native_path.h"
 #include "platform/system/starter_message.h"
 #include "platform/texts.h"
 #include "platform/wx/wx_user_interface.h"
@@ -57,10 +56,7 @@ int Run(const apps::CommandLine& line, int argument_count, char** arguments) {
   platform::SystemMachine machine(platform::DefaultRoot(), "");
   const apps::InstrumentKind kind = apps::ChosenInstrument(line, apps::UsualInstrument());
   std::unique_ptr<Program> program;
-  const platform::PathMapping paths{
-      .toNative = [&](const std::string& path) { return platform::Utf8Of(machine.paths.ToNative(path)); },
-      .toWindows =
-          [&](const std::string& path) { return machine.paths.ToWindows(platform::PathFromUtf8(path)); }};
+  const platform::PathMapping paths = apps::PathsOf(machine);
   platform::InitialiseCommonControls();
   return platform::RunInWindow(argument_count, arguments, paths, [&](platform::WxUserInterface& screen) {
     program = std::make_unique<Program>(machine, screen, kind);

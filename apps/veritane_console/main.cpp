@@ -7,6 +7,7 @@
 #include "acquisition/automation_waiting_text.h"
 #include "apps/command_line.h"
 #include "apps/instrument.h"
+#include "apps/machine_options.h"
 #include "apps/simulated_bench.h"
 #include "apps/veritane_console/instrument_commands.h"
 #include "platform/pdf/pdf_printer.h"
@@ -27,13 +28,8 @@ constexpr const char* kUsage =
     "  SCRIPT          a file of lines; without it they come from standard input\n";
 
 int Play(const apps::CommandLine& line, std::istream& script) {
-  const std::filesystem::path root = line.Option("--root").value_or(platform::DefaultRoot().string());
-  platform::SystemMachine machine(root, line.Option("--locale").value_or(""));
-  if (const auto now = line.Option("--now")) {
-    const auto moment = platform::ParseIsoDateTime(*now);
-    if (!moment) throw apps::UsageError("\"" + *now + "\" is no time");
-    machine.clock.Set(*moment);
-  }
+  platform::SystemMachine machine(apps::RootOption(line), line.Option("--locale").value_or(""));
+  apps::SetClock(line, machine);
   apps::SimulatedBench bench(machine,
                              [](std::chrono::milliseconds time) { std::this_thread::sleep_for(time); });
   platform::ScriptedInterface screen(platform::LinesOf(script), platform::JsonLines(std::cout));
@@ -71,9 +67,10 @@ int Run(const apps::CommandLine& line) {
 }  // namespace
 
 int main(int argument_count, char** arguments) {
-  return apps::RunProgram({.name = "veritane-console",
-                           .usage = kUsage,
-                           .options = {"--root", "--now", "--locale", apps::kInstrumentOption},
-                           .mostWords = 1},
-                          argument_count, arguments, Run);
+  return apps::RunProgram(
+      {.name = "veritane-console",
+       .usage = kUsage,
+       .options = {apps::kRootOption, apps::kNowOption, "--locale", apps::kInstrumentOption},
+       .mostWords = 1},
+      argument_count, arguments, Run);
 }

@@ -2,8 +2,8 @@
 #include <iostream>
 
 #include "apps/command_line.h"
+#include "apps/machine_options.h"
 #include "apps/veritane_setup/data_layout.h"
-#include "platform/run_time_error.h"
 #include "platform/system/system_machine.h"
 
 namespace {
@@ -17,8 +17,7 @@ int SetUp(const veritane::apps::CommandLine& line) {
   const std::string mode = line.Option("--mode").value_or("");
   if (!mode.empty() && mode != "measure" && mode != "demo")
     throw veritane::apps::UsageError("no mode \"" + mode + "\"");
-  const std::filesystem::path root =
-      line.Option("--root").value_or(veritane::platform::DefaultRoot().string());
+  const std::filesystem::path root = veritane::apps::RootOption(line);
   if (!root.empty()) std::filesystem::create_directories(root / "drive_c");
   veritane::platform::SystemMachine machine(root, "");
   const auto made = veritane::setup::LayOutData(machine.Facilities());
@@ -33,6 +32,6 @@ int SetUp(const veritane::apps::CommandLine& line) {
 
 int main(int argument_count, char** arguments) {
   return veritane::apps::RunProgram(
-      {.name = "veritane-setup", .usage = kUsage, .options = {"--root", "--mode"}}, argument_count, arguments,
-      SetUp);
+      {.name = "veritane-setup", .usage = kUsage, .options = {veritane::apps::kRootOption, "--mode"}},
+      argument_count, arguments, SetUp);
 }
