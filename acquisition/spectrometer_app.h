@@ -17,6 +17,9 @@
 
 namespace veritane::acquisition {
 
+// The name under which a system has the application registered.
+inline constexpr const char* kSpectrometerProgId = "quillon.app.1";
+
 // Error numbers of the instrument.
 inline constexpr int kNoInstrumentError = 0;
 inline constexpr int kWrongAccessory = 11079;

@@ -27,7 +27,7 @@ SimulatedBench::SimulatedBench(platform::SystemMachine& machine,
       calls_(std::make_shared<simulator::CallLog>()) {}
 
 std::unique_ptr<acquisition::SpectrometerApp> SimulatedBench::Create(const std::string& prog_id) {
-  if (prog_id != "quillon.app.1") {
+  if (prog_id != acquisition::kSpectrometerProgId) {
     throw platform::RunTimeError(platform::ErrorNumber::kCannotCreateObject, prog_id);
   }
   auto app =

@@ -116,7 +116,7 @@ void FrmVeritane::ShowVersionTitle() {
 }
 
 void FrmVeritane::CreateSpectrometerObject() {
-  session_.SpectrometerApp = create_spectrometer_app_("quillon.app.1");
+  session_.SpectrometerApp = create_spectrometer_app_(acquisition::kSpectrometerProgId);
   session_.SpectrometerApp->SetWaiting({.busyServerRaisesError = true,
                                         .pendingText = platform::Text(platform::TextId::kWaitingForServer),
                                         .pendingMilliseconds = 999999999,

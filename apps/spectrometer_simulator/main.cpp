@@ -30,7 +30,7 @@ constexpr const char* kUsage =
     "  --busy MILLISECONDS         refuses calls for so long, once the first document has been opened\n"
     "  --die-in-collection NUMBER  the process dies in the middle of this collection, from 1\n";
 
-const platform::ServedClass kClass{.progId = "quillon.app.1",
+const platform::ServedClass kClass{.progId = acquisition::kSpectrometerProgId,
                                    .classId = "{15CBD401-DC7F-4B81-A5D4-F585FC25552F}",
                                    .description = "Simulated Spectrometer application"};
 

@@ -29,7 +29,7 @@ private:
   std::shared_ptr<platform::AutomationObject> object_;
 };
 
-inline constexpr const char* kProgId = "quillon.app.1";
+inline constexpr const char* kProgId = acquisition::kSpectrometerProgId;
 
 // The application behind its automation objects; it keeps alive what it needs.
 class AutomationConnection {
