@@ -33,7 +33,7 @@ std::unique_ptr<acquisition::SpectrometerApp> SimulatedBench::Create(const std::
   auto app =
       std::make_unique<simulator::SimulatedSpectrometer>(machine_.files, machine_.clock, instrument_, calls_);
   const std::string data_folder = state::DataFolderBelow(machine_.folders.CommonApplicationData(false));
-  app->PrintInto({.folder = data_folder + "Prints",
+  app->PrintInto({.folder = state::PrintFolder(data_folder),
                   .makePdf = platform::MakePdf,
                   .printed = [this](const std::string& path) {
                     if (printed_) printed_(path);

@@ -73,8 +73,7 @@ public:
   void cmdBacktoMainMenu_Click();
 
   const state::ProgramState& State() const { return state_; }
-  // Where print-outs go that go into files.
-  std::string PrintFolder() const { return state_.folders.appDir + "Prints"; }
+  std::string PrintFolder() const { return state::PrintFolder(state_.folders.appDir); }
 
 protected:
   void Form_QueryUnload() override;

@@ -3,6 +3,7 @@
 
 #include <initializer_list>
 
+#include "shell/state/settings_file.h"
 #include "shell/state/string_table.h"
 
 namespace veritane::shell {
@@ -30,10 +31,11 @@ MainControls::MainControls(platform::Desktop& desktop) : Form(desktop, "frmVerit
   platform::OptionButton::Group({&optDefaultPrint, &optPrintTemplate});
 
   Label8.SetCaption(Text(TextId::kSubtitle));
-  txtbackInterval.SetText("0");
-  txtThreshold.SetText("90");
+  const state::ShownOptions shown = state::ShownOf({});
+  txtbackInterval.SetText(shown.backInterval);
+  txtThreshold.SetText(shown.threshold);
   chkPrintPassFail.SetCaption(Text(TextId::kShowPassFail));
-  chkPrintPassFail.SetChecked(true);
+  chkPrintPassFail.SetChecked(shown.printPassFail != 0);
   fraPrint.SetCaption(Text(TextId::kPrintOptions));
   optDefaultPrint.SetCaption(Text(TextId::kDefaultPrinting));
   optPrintTemplate.SetCaption(Text(TextId::kPrintWithTemplate));

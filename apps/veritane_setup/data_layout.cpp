@@ -1,6 +1,8 @@
 // What ships, and how it gets onto the disk.
 #include "apps/veritane_setup/data_layout.h"
 
+#include <cstdio>
+
 #include "apps/veritane_setup/blend_calibration.h"
 #include "apps/veritane_setup/measurement.h"
 #include "apps/veritane_setup/shipped_files.h"
@@ -13,8 +15,6 @@
 #include "simulator/jcamp_writer.h"
 #include "simulator/stored_spectrum.h"
 
-#include <cstdio>
-
 namespace veritane::setup {
 
 namespace {
@@ -26,11 +26,8 @@ using simulator::StoredSpectrum;
 constexpr std::uint64_t kStandardSeed = 20261;
 constexpr std::uint64_t kDemonstrationSeed = 20262;
 
-void ReplaceAll(std::string& text, const std::string& from, const std::string& to) {
-  for (std::size_t at = text.find(from); at != std::string::npos; at = text.find(from, at + to.size())) {
-    text.replace(at, from.size(), to);
-  }
-}
+// Where the files of data/ lie that go into the folder of Standards.
+constexpr std::string_view kShippedStandards = "Standards/";
 
 std::string ShippedText(const std::string& name) {
   for (const ShippedFile& file : ShippedFiles()) {
@@ -65,7 +62,7 @@ constexpr ShippedSpectrum kSpectra[] = {
 };
 
 simulator::CollectMethodSettings ShippedMethod(const std::string& name) {
-  return simulator::ParseCollectMethod(ShippedText("Standards/" + name + ".clm"));
+  return simulator::ParseCollectMethod(ShippedText(std::string(kShippedStandards) + name + ".clm"));
 }
 
 std::string TimeText(const platform::DateTime& now) {
@@ -101,11 +98,12 @@ private:
     std::string path = folders_.appDir + file.name;
     if (file.name == "Meth.tbl") path = folders_.appDir + set_.methTable;
     if (file.name == "Meths.tbl") path = folders_.appDir + set_.methsTable;
-    if (file.name.starts_with("Standards/")) path = folders_.InStandards(file.name.substr(10));
+    if (file.name.starts_with(kShippedStandards))
+      path = folders_.InStandards(file.name.substr(kShippedStandards.size()));
     if (machine_.files.FileExists(path)) return;
-    std::string bytes = file.bytes;
-    ReplaceAll(bytes, "[VERITANE_TARGETDIR]Standards\\", "[VERITANE_TARGETDIR]" + set_.stdsFolder + "\\");
-    Write(path, bytes);
+    const std::string marker(state::kInstallerMarker);
+    const std::string plain_standards = marker + state::FolderSet{}.stdsFolder + "\\";
+    Write(path, state::ReplaceAll(file.bytes, plain_standards, marker + set_.stdsFolder + "\\"));
   }
 
   void WriteSpectrum(const std::string& path, const std::string& name,
@@ -130,9 +128,10 @@ private:
   }
 
   void WriteSingleBeam(const std::string& leaf, const std::string& method_name) {
-    if (machine_.files.FileExists(folders_.InStandards(leaf))) return;
+    const std::string path = folders_.InStandards(leaf);
+    if (machine_.files.FileExists(path)) return;
     const auto method = ShippedMethod(method_name);
-    WriteSpectrum(folders_.InStandards(leaf), "Background", method, "ARBITRARY UNITS",
+    WriteSpectrum(path, "Background", method, "ARBITRARY UNITS",
                   MeasureSingleBeam("empty", method, kDemonstrationSeed));
   }
 
@@ -177,7 +176,7 @@ void SetDemonstrationMode(const platform::Machine& machine, bool demonstration) 
   if (!machine.files.FileExists(path)) {
     state::Options options;
     options.demoMode = demonstration ? 1 : 0;
-    machine.files.WriteBytes(path, state::SettingsText(options, {.backInterval = "0", .threshold = "90"}));
+    machine.files.WriteBytes(path, state::SettingsText(options, state::ShownOf(options)));
     return;
   }
   const std::string bytes = machine.files.ReadBytes(path);

@@ -10,7 +10,7 @@ namespace veritane::state {
 namespace {
 
 constexpr std::uint32_t kNexaSeries = 6;
-constexpr std::string_view kInstallerMarker = "[VERITANE_TARGETDIR]";
+constexpr const char* kBelowApplicationData = "\\Kestrova\\Veritane\\";
 
 std::string UpToNul(const std::string& text) {
   return text.substr(0, text.find('\0'));
@@ -27,27 +27,33 @@ FolderSet ChooseFolderSet(const platform::Registry& registry) {
 }
 
 std::string DataFolderBelow(const std::string& common_application_data) {
-  return common_application_data.empty() ? "" : common_application_data + "\\Kestrova\\Veritane\\";
+  return common_application_data.empty() ? "" : common_application_data + kBelowApplicationData;
+}
+
+std::string PrintFolder(const std::string& data_folder) {
+  return data_folder + "Prints";
+}
+
+std::string ReplaceAll(std::string text, std::string_view from, std::string_view to) {
+  for (std::size_t at = text.find(from); at != std::string::npos; at = text.find(from, at + to.size())) {
+    text.replace(at, from.size(), to);
+  }
+  return text;
 }
 
 void MakeTablesConcrete(platform::FileSystem& files, const FolderSet& set, const std::string& data_folder) {
   for (const std::string& table : {set.methTable, set.methsTable}) {
     const std::string path = data_folder + table;
-    std::string bytes = files.ReadBytes(path);
-    std::size_t marker = bytes.find(kInstallerMarker);
-    if (marker == std::string::npos) continue;
-    while (marker != std::string::npos) {
-      bytes.replace(marker, kInstallerMarker.size(), data_folder);
-      marker = bytes.find(kInstallerMarker, marker + data_folder.size());
-    }
-    files.WriteBytes(path, bytes.append(platform::kLineEnd));
+    const std::string bytes = files.ReadBytes(path);
+    if (bytes.find(kInstallerMarker) == std::string::npos) continue;
+    files.WriteBytes(path, ReplaceAll(bytes, kInstallerMarker, data_folder).append(platform::kLineEnd));
   }
 }
 
 DataFolders SetUpFolders(const platform::ShellFolders& shell, platform::FileSystem& files,
                          const FolderSet& set) {
   DataFolders folders;
-  folders.appDir = shell.CommonApplicationData(true) + "\\Kestrova\\Veritane\\";
+  folders.appDir = shell.CommonApplicationData(true) + kBelowApplicationData;
   folders.stdsDir = folders.appDir + set.stdsFolder;
   folders.sampDir = folders.appDir + set.sampFolder;
   for (const std::string& folder : {folders.stdsDir, folders.sampDir}) {

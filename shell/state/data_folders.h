@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "platform/machine.h"
 
@@ -34,7 +35,16 @@ struct DataFolders {
 // none).
 std::string DataFolderBelow(const std::string& common_application_data);
 
-// Replaces every "[VERITANE_TARGETDIR]" in the two tables by `data_folder`, in the bytes as they stand, and
+// Where print-outs go that go into files: a folder of the data folder, without a trailing "\".
+std::string PrintFolder(const std::string& data_folder);
+
+// What stands for the data folder in the tables that ship.
+inline constexpr std::string_view kInstallerMarker = "[VERITANE_TARGETDIR]";
+
+// The text with `to` in place of every `from`. What was put in is not looked at again.
+std::string ReplaceAll(std::string text, std::string_view from, std::string_view to);
+
+// Replaces every marker of the installer in the two tables by `data_folder`, in the bytes as they stand, and
 // ends a changed file with one more line end. A file without the marker is left untouched; error 53 for a
 // missing one.
 void MakeTablesConcrete(platform::FileSystem& files, const FolderSet& set, const std::string& data_folder);

@@ -1,10 +1,17 @@
 // Reading and writing settings.ini.
 #include "shell/state/settings_file.h"
 
+#include "platform/number_text.h"
 #include "platform/run_time_error.h"
 #include "platform/text_file.h"
 
 namespace veritane::state {
+
+ShownOptions ShownOf(const Options& options) {
+  return {.backInterval = std::to_string(options.backInterval),
+          .threshold = platform::PlainNumberText(options.passThreshold),
+          .printPassFail = options.addPassFail};
+}
 
 std::string SettingsText(const Options& options, const ShownOptions& shown) {
   std::string text;

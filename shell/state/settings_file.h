@@ -15,6 +15,9 @@ struct ShownOptions {
   int printPassFail = 1;
 };
 
+// What they show of these options.
+ShownOptions ShownOf(const Options& options);
+
 // The ten lines of the file.
 std::string SettingsText(const Options& options, const ShownOptions& shown);
 
