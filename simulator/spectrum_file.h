@@ -22,8 +22,9 @@ struct SpectrumFile {
   std::vector<std::string> leftOut;  // what the file holds besides; saving over it would lose that
 };
 
-// Reads a JCAMP-DX file of any maker and puts its spectra on whole multiples of their spacing. RunTimeError
-// kInvalidFileFormat with `path` and the offending line in its text.
+// Reads a JCAMP-DX file of any maker and puts its spectra on whole multiples of their spacing: at least one
+// spectrum, none without points. RunTimeError kInvalidFileFormat with `path` and the offending line in its
+// text.
 SpectrumFile ReadSpectrumFile(const std::string& path, std::string_view bytes);
 
 }  // namespace veritane::simulator

@@ -72,7 +72,6 @@ std::optional<FiledSpectrum> NewestSpectrum::Read(const Candidate& candidate) co
   try {
     simulator::SpectrumFile file =
         simulator::ReadSpectrumFile(candidate.path, files_.ReadBytes(candidate.path));
-    if (file.spectra.empty() || file.spectra.back().ordinates.Empty()) return std::nullopt;
     return FiledSpectrum{candidate.path, candidate.modified, file.spectra.size(),
                          std::move(file.spectra.back())};
   } catch (const platform::RunTimeError&) {

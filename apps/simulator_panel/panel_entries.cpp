@@ -49,7 +49,6 @@ std::string SampleEntry(const std::string& text, const platform::FileSystem& fil
       if (!IsWholePath(path))
         throw RefusedEntry("A path begins with its drive, as in C:\\Spectra\\film.jdx.");
       const simulator::SpectrumFile file = simulator::ReadSpectrumFile(path, files.ReadBytes(path));
-      if (file.spectra.empty()) throw RefusedEntry(path + " holds no spectrum.");
       return simulator::AsAbsorbance(file.spectra.front());
     });
   } catch (const simulator::UnknownMaterial& unknown) {

@@ -11,6 +11,7 @@
 #include "apps/command_line.h"
 #include "platform/number_text.h"
 #include "platform/text_file.h"
+#include "platform/windows_path.h"
 #include "plslibrary/even_spacing.h"
 
 namespace veritane::calibrate {
@@ -85,13 +86,6 @@ bool IsEmpty(const std::vector<std::string>& cells) {
   return cells.size() == 1 && cells.front().empty();
 }
 
-std::string LowerCase(std::string text) {
-  for (char& character : text) {
-    if (character >= 'A' && character <= 'Z') character = static_cast<char>(character - 'A' + 'a');
-  }
-  return text;
-}
-
 std::size_t RowNumber(std::string_view text, const std::string& whole) {
   const auto number = platform::ParseWholeNumber(text, 1, std::numeric_limits<std::ptrdiff_t>::max());
   if (!number) throw apps::UsageError("\"" + whole + "\" is no list of rows such as 1,4-9");
@@ -139,7 +133,7 @@ std::optional<std::size_t> CsvTable::FindColumn(const std::string& name) const {
 }
 
 std::string CsvTable::SampleName(std::size_t row) const {
-  const auto found = std::ranges::find(columns_, "sample", LowerCase);
+  const auto found = std::ranges::find(columns_, "SAMPLE", platform::UpperCase);
   if (found == columns_.end()) return std::to_string(row + 1);
   return rows_[row].cells[static_cast<std::size_t>(found - columns_.begin())];
 }

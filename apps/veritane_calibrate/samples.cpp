@@ -10,6 +10,7 @@
 #include "apps/command_line.h"
 #include "platform/run_time_error.h"
 #include "platform/system/system_machine.h"
+#include "platform/windows_path.h"
 #include "plslibrary/pls_error.h"
 #include "plslibrary/spc_reader.h"
 #include "simulator/spectrum_file.h"
@@ -20,11 +21,9 @@ namespace {
 
 namespace fs = std::filesystem;
 
+// In upper case.
 std::string Extension(const std::string& path) {
-  std::string extension = fs::path(path).extension().string();
-  std::ranges::transform(extension, extension.begin(),
-                         [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
-  return extension;
+  return platform::UpperCase(fs::path(path).extension().string());
 }
 
 // Letters alone, in upper case: units are written "1/CM", "cm-1", "Nanometers".
@@ -137,11 +136,11 @@ std::vector<plslibrary::Calibration> ReadCalibrations(const std::string& path) {
 }
 
 bool IsCsv(const std::string& path) {
-  return Extension(path) == ".csv";
+  return Extension(path) == ".CSV";
 }
 
 std::vector<Sample> ReadSpectrumSamples(const std::string& path) {
-  std::vector<Sample> samples = Extension(path) == ".spc" ? ReadSpcSamples(path) : ReadDocument(path);
+  std::vector<Sample> samples = Extension(path) == ".SPC" ? ReadSpcSamples(path) : ReadDocument(path);
   if (samples.size() == 1) {
     samples.front().name = fs::path(path).stem().string();
     return samples;

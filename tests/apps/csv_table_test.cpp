@@ -44,6 +44,11 @@ TEST(CsvTable, EveryCellThatIsWrittenReadsBack) {
   }
 }
 
+TEST(CsvTable, TheColumnOfNamesIsFoundInAnyCase) {
+  EXPECT_EQ(CsvTable("a.csv", "octane,Sample\n88,b\n").SampleName(0), "b");
+  EXPECT_EQ(CsvTable("a.csv", "octane,SAMPLES\n88,b\n").SampleName(0), "1");
+}
+
 TEST(CsvTable, RowsAreCountedFromOneAndGivenOnce) {
   EXPECT_EQ(ParseRows("3,1-2", 3), (std::vector<std::size_t>{2, 0, 1}));
   EXPECT_EQ(ParseRows(std::nullopt, 2), (std::vector<std::size_t>{0, 1}));
