@@ -93,6 +93,19 @@ public:
 private:
   void Form_QueryUnload() override;
 
+  // Marks a stretch in which the program sets the controls.
+  class Showing {
+  public:
+    explicit Showing(bool& flag) : flag_(flag), before_(flag) { flag_ = true; }
+    ~Showing() { flag_ = before_; }
+    Showing(const Showing&) = delete;
+    Showing& operator=(const Showing&) = delete;
+
+  private:
+    bool& flag_;
+    const bool before_;
+  };
+
   using Change = std::function<void(simulator::CompartmentState&)>;
   // Writes the change that `read` finds in the controls, or tells beside the entry why not.
   void Enter(TypedEntry& entry, const std::function<Change()>& read);

@@ -1,11 +1,18 @@
-// The panel's captions, and its picture of the spectrum that was filed last.
+// What the panel shows: its captions, the settings in force, and a picture of the spectrum that was filed
+// last.
 #include <algorithm>
 #include <cmath>
 
+#include "acquisition/spectrometer_app.h"
 #include "apps/simulator_panel/frm_simulator.h"
+#include "platform/number_text.h"
 #include "platform/windows_path.h"
+#include "simulator/materials.h"
 
 namespace veritane::simulator_panel {
+
+using platform::UpperCase;
+using simulator::CompartmentState;
 
 namespace {
 
@@ -22,6 +29,18 @@ platform::AxisLimits LimitsOf(const std::vector<double>& values) {
   const double range = limits.maximum - limits.minimum;
   const double room = range > 0 ? range * 0.05 : 0.5;
   return {limits.minimum - room, limits.maximum + room};
+}
+
+bool HasFault(const CompartmentState& state) {
+  return state.fault != 0 && state.faultCount != 0;
+}
+
+std::string FaultText(const CompartmentState& state) {
+  return HasFault(state) ? std::to_string(state.fault) : "none";
+}
+
+std::string SeedText(const CompartmentState& state) {
+  return state.seed ? std::to_string(*state.seed) : "random";
 }
 
 }  // namespace
@@ -48,6 +67,110 @@ void FrmSimulator::SetUpCaptions() {
   optRandomSeed.SetCaption("&Random");
   optFixedSeed.SetCaption("&Fixed:");
   fraSpectrum.SetCaption("Last spectrum");
+}
+
+void FrmSimulator::Follow(bool differs, std::initializer_list<TypedEntry*> entries,
+                          const std::string& in_force, const std::function<void()>& show) {
+  bool is_in_hand = false;
+  for (const TypedEntry* entry : entries) is_in_hand = is_in_hand || entry->IsInHand();
+  if (differs && !is_in_hand) {
+    const Showing showing(showing_);
+    show();
+    for (TypedEntry* entry : entries) entry->Release();
+  }
+  for (TypedEntry* entry : entries) entry->ShowNote(in_force, differs && is_in_hand);
+}
+
+void FrmSimulator::ShowState() {
+  Follow(shown_.sample != state_.sample, {&sample_}, state_.sample, [this] { ShowSample(); });
+  Follow(shown_.accessory != state_.accessory, {&accessory_}, state_.accessory, [this] { ShowAccessory(); });
+  const bool fault_differs = shown_.fault != state_.fault || shown_.faultCount != state_.faultCount;
+  const std::string fault =
+      FaultText(state_) + (HasFault(state_) ? ", " + std::to_string(state_.faultCount) + " to come" : "");
+  Follow(fault_differs, {&fault_, &fault_count_}, fault, [this] { ShowFault(); });
+  const std::string noise = platform::PlainNumberText(state_.noise);
+  Follow(shown_.noise != state_.noise, {&noise_}, noise, [&] {
+    txtNoise.SetText(noise);
+    shown_.noise = state_.noise;
+  });
+  const std::string duration = std::to_string(state_.duration);
+  Follow(shown_.duration != state_.duration, {&duration_}, duration, [&] {
+    txtDuration.SetText(duration);
+    shown_.duration = state_.duration;
+  });
+  Follow(shown_.seed != state_.seed, {&seed_}, SeedText(state_), [this] { ShowSeed(); });
+  ShowFaultsLeft();
+  EnableBoxes();
+}
+
+void FrmSimulator::ShowSample() {
+  shown_.sample = state_.sample;
+  txtSample.SetText(state_.sample);
+  MarkMaterial();
+}
+
+void FrmSimulator::MarkMaterial() {
+  const Showing showing(showing_);
+  const std::string& text = txtSample.Text();
+  const simulator::Material* material = text.empty() ? nullptr : simulator::FindMaterial(text);
+  const int index = material == nullptr ? -1 : static_cast<int>(material - simulator::Materials().data());
+  if (index != lstMaterials.Selected()) lstMaterials.Select(index);
+}
+
+void FrmSimulator::ShowAccessory() {
+  shown_.accessory = state_.accessory;
+  const std::string name = UpperCase(state_.accessory);
+  if (name == UpperCase(simulator::kTransmissionAccessory)) {
+    optTransmission.Check();
+  } else if (name == UpperCase(simulator::kAtrAccessory)) {
+    optAtr.Check();
+  } else {
+    optOtherAccessory.Check();
+    txtAccessory.SetText(state_.accessory);
+  }
+}
+
+void FrmSimulator::ShowFault() {
+  shown_.fault = state_.fault;
+  shown_.faultCount = state_.faultCount;
+  // The number of times for the next fault begins at 1.
+  txtFaultCount.SetText(std::to_string(HasFault(state_) ? state_.faultCount : 1));
+  if (!HasFault(state_)) {
+    optNoFault.Check();
+  } else if (state_.fault == acquisition::kWrongAccessory) {
+    optWrongAccessory.Check();
+  } else {
+    optOtherFault.Check();
+    txtFault.SetText(std::to_string(state_.fault));
+  }
+}
+
+void FrmSimulator::ShowSeed() {
+  shown_.seed = state_.seed;
+  if (!state_.seed) {
+    optRandomSeed.Check();
+    return;
+  }
+  optFixedSeed.Check();
+  txtSeed.SetText(SeedText(state_));
+}
+
+void FrmSimulator::ShowFaultsLeft() {
+  if (!HasFault(state_)) {
+    lblFaultsLeft.SetCaption("No fault is waiting.");
+    return;
+  }
+  const std::string fault = std::to_string(state_.fault);
+  lblFaultsLeft.SetCaption(state_.faultCount == 1 ? "The next collection or alignment reports " + fault + "."
+                                                  : "The next " + std::to_string(state_.faultCount) +
+                                                        " collections or alignments report " + fault + ".");
+}
+
+void FrmSimulator::EnableBoxes() {
+  txtAccessory.SetEnabled(optOtherAccessory.Checked());
+  txtFault.SetEnabled(optOtherFault.Checked());
+  txtFaultCount.SetEnabled(!optNoFault.Checked());
+  txtSeed.SetEnabled(optFixedSeed.Checked());
 }
 
 void FrmSimulator::ShowSpectrum() {
