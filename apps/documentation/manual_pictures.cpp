@@ -14,13 +14,17 @@
 #include "apps/veritane_setup/data_layout.h"
 #include "platform/desktop.h"
 #include "shell/frm_veritane.h"
+#include "shell/state/data_folders.h"
 
-namespace veritane::platform {
+namespace veritane::documentation {
 namespace {
 
+using platform::Button;
+using platform::ComboBox;
+using platform::Label;
+using platform::ListBox;
+using platform::TextBox;
 using shell::TabPage;
-
-const std::string kDataFolder = "C:\\ProgramData\\Kestrova\\Veritane\\";
 
 class ManualPictures {
 public:
@@ -137,7 +141,7 @@ private:
     In<TextBox>("frmCollectStd", "txtProductID").SetText("IBUPROFEN-200");
     screen_.TakePicture("standard", {"frmCollectStd"});
     In<ComboBox>("frmCollectStd", "cmbAlg").Select(4);
-    In<TextBox>("frmCollectStd", "txtCalFileName").SetText(kDataFolder + "Standards\\ibuprofen peaks.txt");
+    In<TextBox>("frmCollectStd", "txtCalFileName").SetText(data_folder_ + "Standards\\ibuprofen peaks.txt");
     screen_.TakePicture("standard-with-file", {"frmCollectStd"});
     In<Button>("frmCollectStd", "cmdNoScanStandardNow").Click();
   }
@@ -205,8 +209,8 @@ private:
   }
 
   void TakeMethodPictures() {
-    FileSystem& files = machine_.files;
-    const std::string standards = kDataFolder + "Standards\\";
+    platform::FileSystem& files = machine_.files;
+    const std::string standards = data_folder_ + "Standards\\";
     files.WriteBytes(standards + "Film holder.clm", files.ReadBytes(standards + "Pressed disc.clm"));
     ShowTab(shell::kMethodsTab, "");
     screen_.ExpectFile(standards + "Film holder.clm");
@@ -224,7 +228,7 @@ private:
     screen_.Expect({.text = "Are you sure you want to delete",
                     .picture = "delete-product",
                     .act = {},
-                    .answer = MessageAnswer::kNo});
+                    .answer = platform::MessageAnswer::kNo});
     Click(main_.cmdDel);
   }
 
@@ -235,9 +239,9 @@ private:
 
   void TakeReprocessPictures() {
     ShowTab(shell::kReprocessTab, "");
-    screen_.ExpectFile(kDataFolder + "Standards\\ASA-100.bsp");
+    screen_.ExpectFile(data_folder_ + "Standards\\ASA-100.bsp");
     Click(main_.cmdStandard);
-    screen_.ExpectFile(kDataFolder + "Samples\\ASA-100.bsp");
+    screen_.ExpectFile(data_folder_ + "Samples\\ASA-100.bsp");
     Click(main_.cmdSamp);
     TakeMainWindow("supervisor-reprocess");
     Click(main_.cmdNow);
@@ -247,11 +251,12 @@ private:
   }
 
   PictureInterface& screen_;
-  SystemMachine machine_;
-  Desktop desktop_{screen_};
+  platform::SystemMachine machine_;
+  platform::Desktop desktop_{screen_};
   apps::SimulatedBench bench_{machine_, [this](std::chrono::milliseconds) { WhileMeasuring(); }};
   shell::FrmVeritane main_{desktop_, machine_.Facilities(),
                            [this](const std::string& prog_id) { return bench_.Create(prog_id); }};
+  const std::string data_folder_ = state::DataFolderBelow(machine_.folders.CommonApplicationData(true));
   std::string product_;
   std::string sample_name_;
   bool is_entry_taken_ = false;
@@ -284,7 +289,7 @@ private:
 };
 
 }  // namespace
-}  // namespace veritane::platform
+}  // namespace veritane::documentation
 
 int main(int argc, char** argv) {
   const bool smallest = argc == 4 && std::strcmp(argv[3], "--smallest") == 0;
@@ -297,6 +302,6 @@ int main(int argc, char** argv) {
   // The toolkit would take the arguments for its own.
   int own_arguments = 1;
   wxApp::SetInstance(
-      new veritane::platform::PictureApplication(folder, std::filesystem::absolute(argv[2]), smallest));
+      new veritane::documentation::PictureApplication(folder, std::filesystem::absolute(argv[2]), smallest));
   return wxEntry(own_arguments, argv);
 }

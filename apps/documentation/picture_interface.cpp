@@ -13,7 +13,10 @@
 #include "platform/form.h"
 #include "platform/run_time_error.h"
 
-namespace veritane::platform {
+namespace veritane::documentation {
+
+using platform::MessageAnswer;
+using platform::WxUserInterface;
 
 namespace {
 
@@ -99,7 +102,7 @@ void PictureInterface::Later(Act act) {
   timer.StartOnce(kDrawn);
 }
 
-void PictureInterface::RunModal(Form& form) {
+void PictureInterface::RunModal(platform::Form& form) {
   const auto act = acts_.find(form.Name());
   if (act == acts_.end()) {
     Fail("nobody expects " + form.Name());
@@ -112,7 +115,7 @@ void PictureInterface::RunModal(Form& form) {
   WxUserInterface::RunModal(form);
 }
 
-MessageAnswer PictureInterface::ShowMessage(const Message& message) {
+MessageAnswer PictureInterface::ShowMessage(const platform::Message& message) {
   if (boxes_.empty() || message.text.find(boxes_.front().text) == std::string::npos) {
     Fail("nobody expects \"" + message.text + "\"");
     return MessageAnswer::kCancel;
@@ -131,7 +134,7 @@ MessageAnswer PictureInterface::ShowMessage(const Message& message) {
   return box.answer;
 }
 
-std::optional<std::string> PictureInterface::ChooseFile(const FileChoice& choice) {
+std::optional<std::string> PictureInterface::ChooseFile(const platform::FileChoice& choice) {
   if (files_.empty()) {
     Fail("nobody expects \"" + choice.title + "\"");
     return std::nullopt;
@@ -141,8 +144,8 @@ std::optional<std::string> PictureInterface::ChooseFile(const FileChoice& choice
   return path;
 }
 
-void PictureInterface::NoteError(const RunTimeError& error) {
+void PictureInterface::NoteError(const platform::RunTimeError& error) {
   Fail(error.what());
 }
 
-}  // namespace veritane::platform
+}  // namespace veritane::documentation

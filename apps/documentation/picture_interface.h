@@ -12,9 +12,9 @@
 
 #include "platform/wx/wx_user_interface.h"
 
-namespace veritane::platform {
+namespace veritane::documentation {
 
-class PictureInterface : public WxUserInterface {
+class PictureInterface : public platform::WxUserInterface {
 public:
   // `folder` takes the pictures.
   explicit PictureInterface(std::filesystem::path folder);
@@ -29,7 +29,7 @@ public:
     std::string text;
     std::string picture = {};
     Act act = {};
-    MessageAnswer answer = MessageAnswer::kOk;
+    platform::MessageAnswer answer = platform::MessageAnswer::kOk;
   };
   void Expect(Box box) { boxes_.push_back(std::move(box)); }
   void ExpectFile(const std::string& windows_path) { files_.push_back(windows_path); }
@@ -43,10 +43,10 @@ public:
   // Whether something came that was not planned, or that was planned and did not come.
   bool HasFailed() const { return has_failed_ || !boxes_.empty() || !files_.empty(); }
 
-  void RunModal(Form& form) override;
-  MessageAnswer ShowMessage(const Message& message) override;
-  std::optional<std::string> ChooseFile(const FileChoice& choice) override;
-  void NoteError(const RunTimeError& error) override;
+  void RunModal(platform::Form& form) override;
+  platform::MessageAnswer ShowMessage(const platform::Message& message) override;
+  std::optional<std::string> ChooseFile(const platform::FileChoice& choice) override;
+  void NoteError(const platform::RunTimeError& error) override;
 
 private:
   void Fail(const std::string& what);
@@ -61,4 +61,4 @@ private:
   bool has_failed_ = false;
 };
 
-}  // namespace veritane::platform
+}  // namespace veritane::documentation

@@ -80,7 +80,7 @@ int Serve(const apps::CommandLine& line) {
   apps::SimulatedBench bench(machine, [&](std::chrono::milliseconds time) { passing.Wait(time); });
   passing.Watch(bench.Calls());
   const auto server = platform::SystemAutomationServer();
-  auto app = std::make_shared<simulator_process::ServedSpectrometer>(
+  auto app = std::make_shared<spectrometer_simulator::ServedSpectrometer>(
       bench.Create(kClass.progId), *server,
       std::chrono::milliseconds(line.WholeNumber("--busy", 0, 0, kMost)));
   server->Serve(kClass, simulator::ServeSpectrometerApp(std::move(app)), [&] {

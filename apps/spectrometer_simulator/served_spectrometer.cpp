@@ -3,7 +3,7 @@
 
 #include <utility>
 
-namespace veritane::simulator_process {
+namespace veritane::spectrometer_simulator {
 
 ServedSpectrometer::ServedSpectrometer(std::unique_ptr<acquisition::SpectrometerApp> app,
                                        platform::AutomationServer& server, std::chrono::milliseconds busy)
@@ -44,4 +44,4 @@ void ServedSpectrometer::QuitApplication() {
   server_.End();
 }
 
-}  // namespace veritane::simulator_process
+}  // namespace veritane::spectrometer_simulator

@@ -9,7 +9,7 @@
 #include "acquisition/spectrometer_app.h"
 #include "platform/automation_server.h"
 
-namespace veritane::simulator_process {
+namespace veritane::spectrometer_simulator {
 
 class ServedSpectrometer : public acquisition::SpectrometerApp {
 public:
@@ -32,4 +32,4 @@ private:
   std::chrono::milliseconds busy_;
 };
 
-}  // namespace veritane::simulator_process
+}  // namespace veritane::spectrometer_simulator
