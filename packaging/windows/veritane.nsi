@@ -54,6 +54,44 @@ Function un.onInit
   !insertmacro UseOwnView
 FunctionEnd
 
+; $0 becomes 1 when the prediction library beside the programs holds the same bytes as the copy of the one that was
+; installed, else 0: then a laboratory has put its own there.
+!macro IsShippedLibrary UN
+Function ${UN}IsShippedLibrary
+  StrCpy $0 0
+  ClearErrors
+  FileOpen $1 "$INSTDIR\PLSIQP32.DLL" r
+  FileOpen $2 "$INSTDIR\shipped\PLSIQP32.DLL" r
+  ${IfNot} ${Errors}
+    FileSeek $1 0 END $3
+    FileSeek $2 0 END $4
+    ${If} $3 = $4
+      FileSeek $1 0 SET
+      FileSeek $2 0 SET
+      System::Alloc $3
+      Pop $5
+      System::Alloc $3
+      Pop $6
+      System::Call 'kernel32::ReadFile(p r1, p r5, i r3, *i .r7, p 0) i .r9'
+      System::Call 'kernel32::ReadFile(p r2, p r6, i r3, *i .r8, p 0) i .r9'
+      ${If} $7 = $3
+      ${AndIf} $8 = $3
+        System::Call 'ntdll::RtlCompareMemory(p r5, p r6, p r3) p .r9'
+        ${If} $9 = $3
+          StrCpy $0 1
+        ${EndIf}
+      ${EndIf}
+      System::Free $5
+      System::Free $6
+    ${EndIf}
+  ${EndIf}
+  FileClose $1
+  FileClose $2
+FunctionEnd
+!macroend
+!insertmacro IsShippedLibrary ""
+!insertmacro IsShippedLibrary "un."
+
 Section "Veritane"
   SetOutPath "$INSTDIR"
   File "${BUILD}/bin/veritane.exe"
@@ -64,15 +102,16 @@ Section "Veritane"
   File "${BUILD}/bin/simulator-panel.exe"
   File "${BUILD}/bin/spectrometer-simulator.exe"
   File "/oname=LICENSE.txt" "../../LICENSE"
-  ; A prediction library that the laboratory has put here stays, now and when the program is removed.
-  ReadRegDWORD $0 HKLM "${UNINSTALL_KEY}" "OwnLibrary"
-  ${IfNot} ${FileExists} "$INSTDIR\PLSIQP32.DLL"
-    StrCpy $0 1
-  ${EndIf}
-  ${If} $0 == 1
+  ; A prediction library that the laboratory has put in the place of ours stays, now and when the program is removed. Ours lies
+  ; in a folder of its own as well: to tell the two apart, and to go back to.
+  Call IsShippedLibrary
+  ${If} $0 = 1
+  ${OrIfNot} ${FileExists} "$INSTDIR\PLSIQP32.DLL"
     File "${BUILD}/bin/PLSIQP32.DLL"
-    WriteRegDWORD HKLM "${UNINSTALL_KEY}" "OwnLibrary" 1
   ${EndIf}
+  SetOutPath "$INSTDIR\shipped"
+  File "${BUILD}/bin/PLSIQP32.DLL"
+  SetOutPath "$INSTDIR"
   ; Users may not write beside the programs: what these write there, they write into the data folder.
   FileOpen $0 "$INSTDIR\program_folder" w
   FileWrite $0 "$APPDATA\Kestrova\Veritane$\r$\n"
@@ -110,6 +149,9 @@ Section "Veritane"
   Pop $0
   ${If} $0 != 0
     DetailPrint "The users were not given the right to write into the data folder ($0)."
+    SetErrorLevel 4
+    MessageBox MB_OK|MB_ICONEXCLAMATION "Veritane is installed, but its users were not given the right to write into the data \
+folder (icacls: $0). Give it to them before they work with it:$\r$\n$APPDATA\Kestrova\Veritane" /SD IDOK
   ${EndIf}
 SectionEnd
 
@@ -124,10 +166,12 @@ Section "Uninstall"
   Delete "$INSTDIR\veritane-predict.exe"
   Delete "$INSTDIR\simulator-panel.exe"
   Delete "$INSTDIR\spectrometer-simulator.exe"
-  ReadRegDWORD $0 HKLM "${UNINSTALL_KEY}" "OwnLibrary"
-  ${If} $0 == 1
+  Call un.IsShippedLibrary
+  ${If} $0 = 1
     Delete "$INSTDIR\PLSIQP32.DLL"
   ${EndIf}
+  Delete "$INSTDIR\shipped\PLSIQP32.DLL"
+  RMDir "$INSTDIR\shipped"
   Delete "$INSTDIR\LICENSE.txt"
   Delete "$INSTDIR\program_folder"
   Delete "$INSTDIR\uninstall.exe"
