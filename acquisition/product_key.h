@@ -15,9 +15,9 @@ std::string ProductKey(const platform::FileSystem& files, const state::DataFolde
                        const std::string& product_id);
 
 // Defines the part by example: `part` at its first occurrence in `example` (which must hold it). The
-// definition lies below the program's own folder, in a Standards folder that is made when it is missing;
-// ProductKey reads the data folder. A site that keeps the two apart copies the file when the definition is to
-// take effect.
+// definition lies below what the machine gives for the program's own folder, in a Standards folder that is
+// made when it is missing; ProductKey reads the data folder. In an installation the one stands for the other
+// and the definition is in force at once; a site that keeps the two apart copies the file.
 void DefineProductKey(const platform::Machine& machine, const state::FolderSet& set,
                       const std::string& example, const std::string& part);
 
