@@ -1,6 +1,7 @@
 // Assembling the simulated spectrometer.
 #include "apps/simulated_bench.h"
 
+#include <iostream>
 #include <random>
 
 #include "apps/compartment_path.h"
@@ -23,7 +24,11 @@ SimulatedBench::SimulatedBench(platform::SystemMachine& machine,
                  return simulator::ReadSpectrumFile(path, machine.files.ReadBytes(path)).spectra.front();
                },
            .wait = std::move(wait),
-           .randomSeed = [] { return std::uint64_t{std::random_device{}()}; }}),
+           .randomSeed = [] { return std::uint64_t{std::random_device{}()}; },
+           .report =
+               [](int error, const std::string& reason) {
+                 std::cerr << "simulated spectrometer: error " << error << ": " << reason << "\n";
+               }}),
       calls_(std::make_shared<simulator::CallLog>()) {}
 
 std::unique_ptr<acquisition::SpectrometerApp> SimulatedBench::Create(const std::string& prog_id) {

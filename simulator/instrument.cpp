@@ -66,28 +66,29 @@ SimulatedInstrument::SimulatedInstrument(Compartment compartment, InstrumentSurr
     : compartment_(std::move(compartment)), surroundings_(std::move(surroundings)) {}
 
 Measurement SimulatedInstrument::Collect(const CollectRequest& request) {
-  last_fault_.clear();
   try {
     return Measure(request);
   } catch (const Fault& fault) {
-    last_fault_ = fault.text;
     Measurement failed;
-    failed.error = fault.number;
+    failed.error = Reported(fault);
     return failed;
   }
 }
 
 int SimulatedInstrument::Align(const CollectRequest& request) {
-  last_fault_.clear();
   try {
     const CompartmentState compartment = CheckedCompartment();
     CheckedMethod(request, compartment);
     PassTime(compartment, request);
     return acquisition::kNoInstrumentError;
   } catch (const Fault& fault) {
-    last_fault_ = fault.text;
-    return fault.number;
+    return Reported(fault);
   }
+}
+
+int SimulatedInstrument::Reported(const Fault& fault) const {
+  if (!fault.reason.empty() && surroundings_.report) surroundings_.report(fault.number, fault.reason);
+  return fault.number;
 }
 
 Measurement SimulatedInstrument::Measure(const CollectRequest& request) {
@@ -100,7 +101,7 @@ Measurement SimulatedInstrument::Measure(const CollectRequest& request) {
     background = BackgroundUnder(grid, *request.background);
     if (!HoldsEnergy(background)) {
       throw Fault{kBackgroundUnfit,
-                  request.backgroundName + " does not cover the points of " + request.methodPath};
+                  request.backgroundName + " holds no energy at the points of " + request.methodPath};
     }
   }
   const std::vector<SamplePart> sample = CheckedSample(compartment);
@@ -130,7 +131,7 @@ CompartmentState SimulatedInstrument::CheckedCompartment() {
   } catch (const RunTimeError& error) {
     throw Fault{kCompartmentUnreadable, error.what()};
   }
-  if (fault != 0) throw Fault{fault, "a fault set in the sample compartment"};
+  if (fault != 0) throw Fault{fault};
   return compartment;
 }
 
@@ -143,8 +144,7 @@ CollectMethodSettings SimulatedInstrument::CheckedMethod(const CollectRequest& r
     throw Fault{kMethodUnreadable, request.methodPath + ": " + error.what()};
   }
   if (UpperCase(method.accessory) != UpperCase(compartment.accessory)) {
-    throw Fault{acquisition::kWrongAccessory,
-                request.methodPath + " needs " + method.accessory + ", mounted is " + compartment.accessory};
+    throw Fault{acquisition::kWrongAccessory};
   }
   return method;
 }

@@ -16,6 +16,7 @@
 namespace veritane::simulator {
 
 // Error numbers that Collect and Align return besides kWrongAccessory and a fault set in the compartment.
+// What is wrong in the files that they speak of, a number does not say: the reason is reported.
 inline constexpr int kMethodUnreadable = 11080;   // the collect method does not say how to measure
 inline constexpr int kBackgroundMissing = 11081;  // the background named is missing or cannot be read
 inline constexpr int kBackgroundUnfit = 11082;    // it does not cover the method's points, or holds no energy
@@ -34,6 +35,8 @@ struct InstrumentSurroundings {
   std::function<void(std::chrono::milliseconds)> wait;
   // A seed nobody foresees, for a compartment whose seed is "random".
   std::function<std::uint64_t()> randomSeed;
+  // Is told the reason in words before one of the errors above is returned.
+  std::function<void(int error, const std::string& reason)> report = {};
 };
 
 class SimulatedInstrument : public MeasuringDevice {
@@ -46,13 +49,10 @@ public:
   Measurement Collect(const CollectRequest& request) override;
   int Align(const CollectRequest& request) override;
 
-  // Why the last collection or alignment gave an error number, for a log; "" after success.
-  const std::string& LastFault() const { return last_fault_; }
-
 private:
   struct Fault {
     int number;
-    std::string text;
+    std::string reason = {};  // where the number alone does not tell enough
   };
 
   // The compartment and method once nothing speaks against measuring. Throws Fault.
@@ -64,11 +64,11 @@ private:
   ScanSettings ScanFor(const CollectMethodSettings& method, const CompartmentState& compartment,
                        const CollectRequest& request);
   Measurement Measure(const CollectRequest& request);
+  int Reported(const Fault& fault) const;
 
   Compartment compartment_;
   InstrumentSurroundings surroundings_;
   std::uint64_t collections_ = 0;
-  std::string last_fault_;
 };
 
 }  // namespace veritane::simulator

@@ -98,14 +98,13 @@ TEST(Collecting, ABackgroundThatDoesNotServeIsAnErrorNumber) {
   missing.background.reset();
   missing.backgroundFault = "File not found: backInitial.bsp";
   EXPECT_EQ(rig.instrument.Collect(missing).error, kBackgroundMissing);
-  EXPECT_EQ(rig.instrument.LastFault(), "File not found: backInitial.bsp");
+  EXPECT_EQ(rig.reason, "File not found: backInitial.bsp");
 
   Measurement spoilt = background;
   const auto error_against = [&rig](const Measurement& with) {
     return rig.instrument.Collect(rig.RequestAgainst(with)).error;
   };
   EXPECT_EQ(error_against(spoilt), 0);
-  EXPECT_EQ(rig.instrument.LastFault(), "");
   spoilt.spacing = 2;
   EXPECT_EQ(error_against(spoilt), kBackgroundUnfit);
   spoilt = background;
@@ -153,13 +152,12 @@ TEST(Collecting, UnreadableMethodsSamplesAndCompartmentsAreErrorNumbers) {
   CollectRequest request = rig.Request();
   request.methodText = "Speed = 3";
   EXPECT_EQ(rig.instrument.Collect(request).error, kMethodUnreadable);
-  EXPECT_THAT(rig.instrument.LastFault(),
-              ::testing::AllOf(HasSubstr(request.methodPath), HasSubstr("line 1")));
+  EXPECT_THAT(rig.reason, ::testing::AllOf(HasSubstr(request.methodPath), HasSubstr("line 1")));
   EXPECT_EQ(rig.instrument.Align(request), kMethodUnreadable);
 
   rig.PutSample("unobtainium");
   EXPECT_EQ(rig.instrument.Collect(rig.Request()).error, kSampleUnreadable);
-  EXPECT_THAT(rig.instrument.LastFault(), HasSubstr("unobtainium"));
+  EXPECT_THAT(rig.reason, HasSubstr("unobtainium"));
   rig.PutSample("C:\\nothing.jdx");
   EXPECT_EQ(rig.instrument.Collect(rig.Request()).error, kSampleUnreadable);
   // The alignment does not look at the sample.

@@ -61,6 +61,7 @@ public:
   CollectMethodSettings method;
   std::chrono::milliseconds waited{0};
   std::map<std::string, StoredSpectrum> spectra;  // the files that can lie in the compartment
+  std::string reason;                             // of the last error that the instrument reported
   SimulatedInstrument instrument{Compartment(files, kPath),
                                  {.openSpectrum =
                                       [this](const std::string& path) {
@@ -71,7 +72,8 @@ public:
                                         return found->second;
                                       },
                                   .wait = [this](std::chrono::milliseconds time) { waited += time; },
-                                  .randomSeed = [this] { return ++random_; }}};
+                                  .randomSeed = [this] { return ++random_; },
+                                  .report = [this](int, const std::string& why) { reason = why; }}};
 
 private:
   std::uint64_t random_ = 1000;
