@@ -20,6 +20,16 @@ bool IsLineEnd(char c) {
   return c == '\n' || c == '\r';
 }
 
+// The number behind the "E" of "E+05", 0 for an empty text, nothing for one out of range.
+std::optional<int> ExponentOf(std::string_view written) {
+  if (written.empty()) return 0;
+  written.remove_prefix(written.substr(1).starts_with('+') ? 2 : 1);
+  int exponent = 0;
+  const char* const end = written.data() + written.size();
+  const auto [stop, error] = std::from_chars(written.data(), end, exponent);
+  return error == std::errc() && stop == end ? std::optional(exponent) : std::nullopt;
+}
+
 // The line in quotation marks, short enough for a message box.
 std::string Quoted(std::string_view line) {
   std::string quoted = "\"";
@@ -139,12 +149,12 @@ std::optional<LabelNumber> ReadLabelNumber(std::string_view value, bool decimal_
   const std::string_view digits(begin, static_cast<std::size_t>(stop - begin));
   const std::size_t exponent_mark = std::min(digits.find_first_of("eE"), digits.size());
   const std::size_t point = digits.substr(0, exponent_mark).find('.');
-  int exponent = point == digits.npos ? 0 : -static_cast<int>(exponent_mark - point - 1);
-  if (exponent_mark < digits.size()) {
-    // Zeros may lead an exponent ("E-0001"), and nothing beyond a double's range got here.
-    exponent += std::atoi(std::string(digits.substr(exponent_mark + 1)).c_str());
-  }
-  number.unit = std::pow(10.0, exponent);
+  const double decimals = point == digits.npos ? 0 : static_cast<double>(exponent_mark - point - 1);
+  const auto exponent = ExponentOf(digits.substr(exponent_mark));
+  if (!exponent) return std::nullopt;
+  // A zero may have any exponent.
+  number.unit = std::pow(10.0, *exponent - decimals);
+  if (!std::isfinite(number.unit)) return std::nullopt;
   return number;
 }
 
