@@ -301,8 +301,8 @@ void SimulatedDocument::SetDocumentShown(std::int32_t flag) {
 void SimulatedDocument::PrepareSampleView() {
   around_->calls->Note("PrepareSampleView");
   RequireOpen();
-  view_.sampleView = true;
   around_->sampleInView = {Current(), path_};
+  view_.sampleView = true;
 }
 
 void SimulatedDocument::PrepareStandardView() {
