@@ -20,6 +20,8 @@ from console import Console
 
 PRODUCT = "CAFFEINE"
 SPECTRA_PER_FILE = 50
+# A tenth of the samples behind the first fills a file.
+FEWEST_SAMPLES = 10 * SPECTRA_PER_FILE + 1
 LONG_SPECTRUM = 30_000
 # Comparisons number their points in 16 bits, from wavenumber 0 on.
 FINE_FROM, FINE_SPACING = 360, 0.24
@@ -145,6 +147,8 @@ def main():
     parser.add_argument("--setup", required=True, help="the program veritane-setup")
     parser.add_argument("--samples", type=int, default=10_000)
     options = parser.parse_args()
+    if options.samples < FEWEST_SAMPLES:
+        parser.error(f"--samples begins at {FEWEST_SAMPLES}")
     load = os.getloadavg()[0]
     with tempfile.TemporaryDirectory(prefix="veritane-") as name:
         folder = Path(name)
