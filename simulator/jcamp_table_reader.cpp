@@ -15,9 +15,6 @@ constexpr std::ptrdiff_t kDigitsOfFastNumber = 14;
 bool IsDigit(char c) {
   return c >= '0' && c <= '9';
 }
-bool IsLineEnd(char c) {
-  return c == '\n' || c == '\r';
-}
 bool IsExponentMark(char c) {
   return c == 'E' || c == 'e';
 }
@@ -95,7 +92,7 @@ JcampTableReader::JcampTableReader(std::string_view text, std::size_t position, 
 bool JcampTableReader::ToNextLine() {
   while (at_ < end_) {
     const char* first = at_;
-    while (first < end_ && (*first == ' ' || *first == '\t')) ++first;
+    while (first < end_ && IsBlank(*first)) ++first;
     if (first == end_) {
       at_ = end_;
     } else if (IsLineEnd(*first)) {
@@ -115,7 +112,7 @@ bool JcampTableReader::ToNextLine() {
 bool JcampTableReader::ToNextItem() {
   while (at_ < end_) {
     const char c = *at_;
-    if (c == ' ' || c == '\t' || c == ';' || (c == ',' && CommaSeparates())) {
+    if (IsBlank(c) || c == ';' || (c == ',' && CommaSeparates())) {
       ++at_;
     } else if (IsLineEnd(c)) {
       return false;

@@ -13,13 +13,6 @@ namespace {
 
 constexpr std::size_t kQuotedLength = 60;
 
-bool IsBlank(char c) {
-  return c == ' ' || c == '\t';
-}
-bool IsLineEnd(char c) {
-  return c == '\n' || c == '\r';
-}
-
 // The number behind the "E" of "E+05", 0 for an empty text, nothing for one out of range.
 std::optional<int> ExponentOf(std::string_view written) {
   if (written.empty()) return 0;
@@ -31,7 +24,7 @@ std::optional<int> ExponentOf(std::string_view written) {
 }
 
 // The line in quotation marks, short enough for a message box.
-std::string Quoted(std::string_view line) {
+std::string QuotedLine(std::string_view line) {
   std::string quoted = "\"";
   for (const char c : line.substr(0, kQuotedLength)) {
     quoted += c < ' ' || c > '~' ? '.' : c;
@@ -57,7 +50,7 @@ JcampFault FaultAt(JcampFault::Kind kind, std::string_view text, std::size_t pos
   const std::size_t begin = before == text.npos ? 0 : before + 1;
   const std::size_t end = std::min(text.find_first_of("\r\n", begin), text.size());
   return JcampFault(kind, "line " + std::to_string(LineNumberAt(text, begin)) + ": " + reason + ": " +
-                              Quoted(text.substr(begin, end - begin)));
+                              QuotedLine(text.substr(begin, end - begin)));
 }
 
 std::string NormalizedLabel(std::string_view name) {

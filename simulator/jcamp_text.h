@@ -67,6 +67,13 @@ private:
 // Whether a line begins a label; blanks may stand before the "##".
 bool IsLabelLine(std::string_view line);
 
+inline bool IsBlank(char c) {
+  return c == ' ' || c == '\t';
+}
+inline bool IsLineEnd(char c) {
+  return c == '\n' || c == '\r';
+}
+
 // The value without a comment and without blanks around it.
 std::string_view WithoutComment(std::string_view value);
 std::string_view Trimmed(std::string_view text);

@@ -38,7 +38,7 @@ bool IsBeyondAscii(char c) {
   return static_cast<unsigned char>(c) >= 0x80;
 }
 
-std::string Quoted(std::string_view text) {
+std::string EscapedText(std::string_view text) {
   const bool utf8 = platform::IsUtf8(text);
   std::string quoted = "\"";
   for (const char c : text) {
@@ -53,8 +53,8 @@ std::string Quoted(std::string_view text) {
   return quoted + '"';
 }
 
-// The text in quotation marks, or nothing where the marks and escapes are not this program's.
-std::optional<std::string> Unquoted(std::string_view quoted) {
+// The text within quotation marks, or nothing where the marks and escapes are not this program's.
+std::optional<std::string> UnescapedText(std::string_view quoted) {
   if (quoted.size() < 2 || quoted.front() != '"' || quoted.back() != '"') return std::nullopt;
   quoted = quoted.substr(1, quoted.size() - 2);
   std::string text;
@@ -147,11 +147,11 @@ std::string WrittenValue(const acquisition::ParameterValue& value) {
   if (const double* const number = std::get_if<double>(&value)) {
     return ExactNumber(*number);
   }
-  return Quoted(std::get<std::string>(value));
+  return EscapedText(std::get<std::string>(value));
 }
 
 acquisition::ParameterValue ReadValue(std::string_view written) {
-  if (auto text = Unquoted(written)) {
+  if (auto text = UnescapedText(written)) {
     return *std::move(text);
   }
   if (written == "NaN") return std::numeric_limits<double>::quiet_NaN();

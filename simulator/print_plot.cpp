@@ -21,11 +21,11 @@ using platform::Colour;
 using platform::Point;
 using platform::TextWeight;
 
-constexpr Colour kInk{32, 36, 40};
+constexpr Colour kAxisInk{32, 36, 40};
 constexpr Colour kGridLine{222, 226, 230};
 constexpr Colour kMarkerLine{186, 150, 194};
 constexpr Colour kMarkerInk{96, 32, 108};
-constexpr double kLineSpacing = 1.35;
+constexpr double kLegendSpacing = 1.35;
 constexpr const char* kWavenumberTitle = "Wavenumber / cm⁻¹";
 
 // "ABSORBANCE" as "Absorbance".
@@ -124,7 +124,7 @@ private:
   }
 
   void LayOut() {
-    double top = unit_ * kLineSpacing * static_cast<double>(series_.size()) + unit_ * 0.4;
+    double top = unit_ * kLegendSpacing * static_cast<double>(series_.size()) + unit_ * 0.4;
     for (const double marker : markers_) {
       marker_room_ = std::max(marker_room_, WidthOf(WavenumberText(marker)) + unit_ * 1.6);
     }
@@ -186,29 +186,29 @@ private:
 
   void DrawAxes() {
     const Point corner{layout_.plot.left, Bottom()};
-    surface_.Line({corner.x, layout_.plot.top}, corner, hair_ * 1.4, kInk);
-    surface_.Line(corner, {Right(), corner.y}, hair_ * 1.4, kInk);
+    surface_.Line({corner.x, layout_.plot.top}, corner, hair_ * 1.4, kAxisInk);
+    surface_.Line(corner, {Right(), corner.y}, hair_ * 1.4, kAxisInk);
     const double length = unit_ * 0.35;
     for (const AxisTick& tick : layout_.x_ticks) {
       const double x = layout_.PixelX(tick.value);
-      surface_.Line({x, corner.y}, {x, corner.y + length}, hair_, kInk);
+      surface_.Line({x, corner.y}, {x, corner.y + length}, hair_, kAxisInk);
       Write(tick.label, {x - WidthOf(tick.label) / 2, corner.y + unit_ * 0.5});
     }
     for (const AxisTick& tick : layout_.y_ticks) {
       const double y = layout_.PixelY(tick.value, false);
-      surface_.Line({corner.x - length, y}, {corner.x, y}, hair_, kInk);
+      surface_.Line({corner.x - length, y}, {corner.x, y}, hair_, kAxisInk);
       const platform::TextSize size = surface_.Measure(tick.label, unit_, TextWeight::kNormal);
       Write(tick.label, {corner.x - unit_ * 0.6 - size.width, y - size.height / 2});
     }
     Write(kWavenumberTitle,
           {corner.x + (layout_.plot.width - WidthOf(kWavenumberTitle)) / 2, corner.y + unit_ * 1.9});
     const double title_bottom = layout_.plot.top + (layout_.plot.height + WidthOf(units_)) / 2;
-    surface_.TextUpwards(units_, {0, title_bottom}, unit_, kInk);
+    surface_.TextUpwards(units_, {0, title_bottom}, unit_, kAxisInk);
   }
 
   void DrawLegend() {
     for (std::size_t i = 0; i < series_.size(); ++i) {
-      const double top = unit_ * kLineSpacing * static_cast<double>(i);
+      const double top = unit_ * kLegendSpacing * static_cast<double>(i);
       const double left = layout_.plot.left;
       const double swatch = unit_ * 2.5;
       surface_.Line({left, top + unit_ * 0.6}, {left + swatch, top + unit_ * 0.6}, hair_ * 3,
@@ -220,7 +220,9 @@ private:
     }
   }
 
-  void Write(const std::string& text, Point at) { surface_.Text(text, at, unit_, TextWeight::kNormal, kInk); }
+  void Write(const std::string& text, Point at) {
+    surface_.Text(text, at, unit_, TextWeight::kNormal, kAxisInk);
+  }
 
   platform::DrawingContext& surface_;
   const double unit_;
