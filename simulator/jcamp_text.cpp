@@ -64,6 +64,11 @@ std::string NormalizedLabel(std::string_view name) {
   return normalized;
 }
 
+bool IsWavenumber(std::string_view units) {
+  const std::string plain = NormalizedLabel(units);
+  return plain == "1CM" || plain == "CM1" || plain == "CM^1" || plain.starts_with("WAVENUMBER");
+}
+
 bool IsLabelLine(std::string_view line) {
   const std::size_t begin = line.find_first_not_of(" \t");
   return begin != line.npos && line.substr(begin).starts_with("##") && line.find('=', begin) != line.npos;

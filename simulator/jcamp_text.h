@@ -43,6 +43,9 @@ struct JcampLabel {
 // "DATA TYPE", "Data_Type" and "datatype" are one label.
 std::string NormalizedLabel(std::string_view name);
 
+// Whether units of x are wavenumbers in any spelling: "1/CM", "cm-1", "Wavenumbers (cm^-1)".
+bool IsWavenumber(std::string_view units);
+
 // Walks over the labels of a text.
 class JcampScanner {
 public:

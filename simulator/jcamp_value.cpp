@@ -6,9 +6,7 @@
 #include <charconv>
 #include <cmath>
 #include <limits>
-#include <optional>
 
-#include "platform/date_time.h"
 #include "platform/utf8.h"
 #include "simulator/jcamp_text.h"
 
@@ -78,6 +76,16 @@ std::optional<std::string> UnescapedText(std::string_view quoted) {
   return text;
 }
 
+std::string Padded(int number, std::size_t width) {
+  const std::string digits = std::to_string(number);
+  return std::string(width - std::min(width, digits.size()), '0') + digits;
+}
+
+// "2026/11/21"
+std::string DateText(int year, int month, int day) {
+  return Padded(year, 4) + "/" + Padded(month, 2) + "/" + Padded(day, 2);
+}
+
 // "97/01/28" and "1997/01/28" as four-digit year, month and day; two digits mean 1970 to 2069.
 std::optional<std::string> NormalDate(std::string_view date) {
   std::array<int, 3> parts{};
@@ -91,13 +99,9 @@ std::optional<std::string> NormalDate(std::string_view date) {
     at = stop + (stop == end ? 0 : 1);
   }
   if (parts[0] < 100) parts[0] += parts[0] < 70 ? 2000 : 1900;
-  const auto padded = [](int number, std::size_t width) {
-    std::string digits = std::to_string(number);
-    return std::string(width - std::min(width, digits.size()), '0') + digits;
-  };
-  const std::string iso = padded(parts[0], 4) + "-" + padded(parts[1], 2) + "-" + padded(parts[2], 2);
-  if (!platform::ParseIsoDateTime(iso + "T00:00:00")) return std::nullopt;
-  return iso.substr(0, 4) + "/" + iso.substr(5, 2) + "/" + iso.substr(8, 2);
+  std::string normal = DateText(parts[0], parts[1], parts[2]);
+  if (!ParseLongDate(normal + " 00:00:00")) return std::nullopt;
+  return normal;
 }
 
 std::string Joined(std::string_view date, std::string_view time) {
@@ -177,17 +181,22 @@ std::string PlainLine(std::string_view text) {
   return std::string(Trimmed(line));
 }
 
-bool IsLongDate(std::string_view text) {
+std::string LongDate(const platform::DateTime& moment) {
+  return DateText(moment.year, moment.month, moment.day) + " " + Padded(moment.hour, 2) + ":" +
+         Padded(moment.minute, 2) + ":" + Padded(moment.second, 2);
+}
+
+std::optional<platform::DateTime> ParseLongDate(std::string_view text) {
   constexpr std::string_view kForm = "0000/00/00 00:00:00";
   const bool fits = text.size() == kForm.size() &&
                     std::equal(text.begin(), text.end(), kForm.begin(), [](char c, char form) {
                       return form == '0' ? c >= '0' && c <= '9' : c == form;
                     });
-  if (!fits) return false;
+  if (!fits) return std::nullopt;
   std::string iso(text);
   iso[4] = iso[7] = '-';
   iso[10] = 'T';
-  return platform::ParseIsoDateTime(iso).has_value();
+  return platform::ParseIsoDateTime(iso);
 }
 
 std::string TimeFromLongDate(std::string_view long_date) {
@@ -197,13 +206,13 @@ std::string TimeFromLongDate(std::string_view long_date) {
   const std::string_view time = Trimmed(long_date.substr(std::min(blank + 1, long_date.size())));
   const std::string whole = Joined(*date, time.substr(0, 8));
   // Fractions of seconds and time zones follow the seconds; they are not shown.
-  return IsLongDate(whole) ? whole : Joined(*date, time);
+  return ParseLongDate(whole) ? whole : Joined(*date, time);
 }
 
 std::string TimeFromDateAndTime(std::string_view date, std::string_view time) {
   const std::string normal = NormalDate(date).value_or(std::string(date));
   const std::string whole = Joined(normal, time.substr(0, 8));
-  return IsLongDate(whole) ? whole : Joined(normal, time);
+  return ParseLongDate(whole) ? whole : Joined(normal, time);
 }
 
 }  // namespace veritane::simulator

@@ -5,10 +5,12 @@
 // what could not stand in a label is written %HH.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
 #include "acquisition/spectrometer_app.h"
+#include "platform/date_time.h"
 
 namespace veritane::simulator {
 
@@ -29,11 +31,14 @@ std::string ExactNumber(double number);
 // A text as it can stand behind a public label: one line, no comment mark, blanks around it dropped.
 std::string PlainLine(std::string_view text);
 
-// The time of a spectrum in the form "2026/11/21 10:59:00" from the labels LONGDATE, or DATE and TIME. Parts
-// that are no date stay as they are written.
+// A moment as "2026/11/21 10:59:00", which is how the time of a spectrum is written and what can stand as
+// LONGDATE. Nothing for a text in another form.
+std::string LongDate(const platform::DateTime& moment);
+std::optional<platform::DateTime> ParseLongDate(std::string_view text);
+
+// The time of a spectrum in that form from the labels LONGDATE, or DATE and TIME. Parts that are no date stay
+// as they are written.
 std::string TimeFromLongDate(std::string_view long_date);
 std::string TimeFromDateAndTime(std::string_view date, std::string_view time);
-// Whether the text is in that form, and so can stand as LONGDATE.
-bool IsLongDate(std::string_view text);
 
 }  // namespace veritane::simulator

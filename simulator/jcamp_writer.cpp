@@ -68,7 +68,7 @@ private:
     if (platform::DecodeText(title) != spectrum.name) {
       Label(kExactNameLabel, WrittenValue(spectrum.name));
     }
-    if (IsLongDate(spectrum.time) && TimeFromLongDate(spectrum.time) == spectrum.time) {
+    if (ParseLongDate(spectrum.time) && TimeFromLongDate(spectrum.time) == spectrum.time) {
       Label("LONGDATE", spectrum.time);
     } else if (!spectrum.time.empty()) {
       Label(kExactTimeLabel, WrittenValue(spectrum.time));

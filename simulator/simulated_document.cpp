@@ -7,6 +7,7 @@
 
 #include "platform/run_time_error.h"
 #include "platform/windows_path.h"
+#include "simulator/jcamp_value.h"
 #include "simulator/jcamp_writer.h"
 #include "simulator/print_object.h"
 #include "simulator/print_template.h"
@@ -56,13 +57,6 @@ const SimulatedCollectMethod& ToSimulated(const acquisition::CollectMethod& meth
     throw RunTimeError(ErrorNumber::kTypeMismatch, "the collect method belongs to another application");
   }
   return *simulated;
-}
-
-// "2026/11/21 10:59:00"
-std::string TimeText(const platform::DateTime& moment) {
-  const auto two = [](int number) { return (number < 10 ? "0" : "") + std::to_string(number); };
-  return std::to_string(moment.year) + "/" + two(moment.month) + "/" + two(moment.day) + " " +
-         two(moment.hour) + ":" + two(moment.minute) + ":" + two(moment.second);
 }
 
 std::string NameInDocument(const std::string& path, std::size_t number) {
@@ -138,7 +132,7 @@ void SimulatedDocument::Append(Measurement&& measurement) {
   StoredSpectrum& stored = spectrum->stored;
   stored.name =
       measurement.name.empty() ? NameInDocument(path_, spectra_.size() + 1) : std::move(measurement.name);
-  stored.time = TimeText(around_->clock.LocalNow());
+  stored.time = LongDate(around_->clock.LocalNow());
   stored.xUnits = std::move(measurement.xUnits);
   stored.yUnits = std::move(measurement.yUnits);
   stored.parameters = std::move(measurement.parameters);

@@ -7,7 +7,6 @@
 #include <limits>
 #include <type_traits>
 
-#include "platform/date_time.h"
 #include "platform/run_time_error.h"
 #include "platform/utf8.h"
 #include "simulator/jcamp_text.h"
@@ -59,11 +58,7 @@ private:
 
 // Minute, hour, day, month and year in one number; 0 for a time in a form of its own.
 std::uint32_t PackedDate(const std::string& time) {
-  if (!IsLongDate(time)) return 0;
-  std::string iso = time;
-  iso[4] = iso[7] = '-';
-  iso[10] = 'T';
-  const auto moment = platform::ParseIsoDateTime(iso);
+  const auto moment = ParseLongDate(time);
   if (!moment || moment->year > 4095) return 0;
   return static_cast<std::uint32_t>(moment->year << 20 | moment->month << 16 | moment->day << 11 |
                                     moment->hour << 6 | moment->minute);
@@ -111,8 +106,8 @@ void PutHeader(SpcText& file, const StoredSpectrum& spectrum, double first_x, do
 }  // namespace
 
 int SpcXType(std::string_view x_units) {
+  if (IsWavenumber(x_units)) return 1;
   const std::string units = NormalizedLabel(x_units);
-  if (units == "1CM" || units == "CM1" || units == "CM^1" || units.starts_with("WAVENUMBER")) return 1;
   if (units.starts_with("MICROMET")) return 2;
   if (units.starts_with("NANOMET")) return 3;
   return 0;

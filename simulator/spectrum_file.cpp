@@ -13,12 +13,6 @@ namespace veritane::simulator {
 
 namespace {
 
-bool IsWavenumber(std::string_view units) {
-  const std::string plain = NormalizedLabel(units);
-  return plain == "1CM" || plain == "CM1" || plain == "CM^1" || plain == "WAVENUMBER" ||
-         plain == "WAVENUMBERS";
-}
-
 // Adds a line to a text parameter, so that what an earlier reading found stays.
 void AddLine(StoredSpectrum& spectrum, std::string_view name, const std::string& line) {
   const auto found = std::ranges::find(spectrum.parameters, name, &NamedValue::name);

@@ -12,6 +12,7 @@
 #include "shell/state/data_folders.h"
 #include "shell/state/settings_file.h"
 #include "simulator/collect_method.h"
+#include "simulator/jcamp_value.h"
 #include "simulator/jcamp_writer.h"
 #include "simulator/stored_spectrum.h"
 
@@ -65,13 +66,6 @@ simulator::CollectMethodSettings ShippedMethod(const std::string& name) {
   return simulator::ParseCollectMethod(ShippedText(std::string(kShippedStandards) + name + ".clm"));
 }
 
-std::string TimeText(const platform::DateTime& now) {
-  char text[32];
-  std::snprintf(text, sizeof text, "%04d/%02d/%02d %02d:%02d:%02d", now.year, now.month, now.day, now.hour,
-                now.minute, now.second);
-  return text;
-}
-
 class Layout {
 public:
   Layout(const platform::Machine& machine, const state::FolderSet& set, const state::DataFolders& folders)
@@ -111,7 +105,7 @@ private:
                      state::Ordinates ordinates) {
     StoredSpectrum spectrum;
     spectrum.name = name;
-    spectrum.time = TimeText(machine_.clock.LocalNow());
+    spectrum.time = simulator::LongDate(machine_.clock.LocalNow());
     spectrum.yUnits = y_units;
     spectrum.spacing = simulator::GridOf(method).spacing;
     spectrum.ordinates = std::move(ordinates);
