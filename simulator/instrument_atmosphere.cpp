@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "simulator/materials.h"
+#include "simulator/radiation_constants.h"
 
 namespace veritane::simulator {
 
@@ -127,8 +128,7 @@ constexpr Line kWaterVapour[] = {
 constexpr double kWaterStrength = 0.08;
 constexpr double kDioxideStrength = 0.06;
 
-constexpr double kSecondRadiationConstant = 1.438776877;  // cm K
-constexpr double kRoomTemperature = 296;                  // K
+constexpr double kRoomTemperature = 296;  // K
 
 // A vibration of CO2 with its branches. Only even J exist, the oxygen nuclei having no spin.
 struct LinearVibration {

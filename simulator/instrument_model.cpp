@@ -8,6 +8,7 @@
 
 #include "platform/run_time_error.h"
 #include "simulator/instrument_noise.h"
+#include "simulator/radiation_constants.h"
 
 namespace veritane::simulator {
 
@@ -17,17 +18,13 @@ using state::Ordinates;
 
 namespace {
 
-// 2 h c² and h c / k with c in cm/s (CODATA 2018).
-constexpr double kFirstRadiationConstant = 1.191042972e-12;  // W cm²/sr
-constexpr double kSecondRadiationConstant = 1.438776877;     // cm K
-
 // Puts the greatest energy of the empty compartment near 100.
 constexpr double kGain = 100 / 5.32e-4;
 
 constexpr double kDarkness = 1e-6;
 
 // The wavenumbers at which the light is computed before the line shape is applied: `perPoint` steps to one
-// point of the wanted grid, `margin` steps beyond its ends.
+// point of the wanted grid, and beyond its ends as many as the line shape's `taps` reach.
 struct FineGrid {
   WavenumberGrid grid;
   std::int32_t perPoint;

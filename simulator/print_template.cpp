@@ -24,7 +24,7 @@ constexpr double kSmallestText = 4;
 constexpr double kLargestText = 72;
 constexpr double kThickest = 10;
 constexpr int kMostLines = 100;
-constexpr double kHighestWavenumber = 100000;
+constexpr double kHighestRange = 100000;
 // A page that a person could have designed; more is a damaged file.
 constexpr std::size_t kMostItems = 2000;
 
@@ -138,7 +138,7 @@ private:
     spectrum.sample = attributes.TakeWord("sample");
     spectrum.standard = attributes.TakeWord("standard");
     spectrum.markers = attributes.TakeWord("markers");
-    if (const auto range = attributes.TakeNumbers("range", 2, 0, kHighestWavenumber)) {
+    if (const auto range = attributes.TakeNumbers("range", 2, 0, kHighestRange)) {
       if (range->at(0) == range->at(1)) attributes.Refuse("the range has two different wavenumbers");
       spectrum.range = {std::min(range->at(0), range->at(1)), std::max(range->at(0), range->at(1))};
     }

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "acquisition/spectrometer_app.h"
+#include "platform/automation.h"
 #include "simulator/call_log.h"
 #include "simulator/measuring.h"
 #include "simulator/print_settings.h"
@@ -16,7 +17,7 @@
 namespace veritane::simulator {
 
 // The error of every call after QuitApplication.
-inline constexpr int kServerGone = 462;
+using platform::kServerGone;
 
 class SimulatedSpectrometer : public acquisition::SpectrometerApp {
 public:
