@@ -9,8 +9,8 @@
 #include "platform/run_time_error.h"
 #include "platform/text_file.h"
 #include "platform/windows_path.h"
-#include "simulator/collect_method_lines.h"
 #include "simulator/instrument_model.h"
+#include "simulator/key_value_lines.h"
 
 namespace veritane::simulator {
 
@@ -25,13 +25,8 @@ constexpr double kFinestSpacing = 0.05;
 constexpr int kMostScans = 10000;
 constexpr std::int32_t kMostPoints = 100000;
 
-double NumberFrom(const KeyValueLine& line, double least, double most) {
-  const double number = NumberOf(line);
-  if (!(number >= least && number <= most)) {
-    RefuseLine(line, line.key + " lies from " + platform::PlainNumberText(least) + " to " +
-                         platform::PlainNumberText(most) + " cm-1");
-  }
-  return number;
+double WavenumberFrom(const KeyValueLine& line, double least, double most) {
+  return NumberBetween(line, least, most, "cm-1");
 }
 
 Apodization ApodizationFrom(const KeyValueLine& line) {
@@ -56,17 +51,23 @@ using Setter = std::function<void(CollectMethodSettings&, const KeyValueLine&)>;
 const std::map<std::string, Setter, std::less<>>& Setters() {
   static const std::map<std::string, Setter, std::less<>> setters{
       {"FROM",
-       [](auto& s, const auto& line) { s.from = NumberFrom(line, kLowestWavenumber, kHighestWavenumber); }},
+       [](auto& s, const auto& line) {
+         s.from = WavenumberFrom(line, kLowestWavenumber, kHighestWavenumber);
+       }},
       {"TO",
-       [](auto& s, const auto& line) { s.to = NumberFrom(line, kLowestWavenumber, kHighestWavenumber); }},
+       [](auto& s, const auto& line) { s.to = WavenumberFrom(line, kLowestWavenumber, kHighestWavenumber); }},
       {"SPACING",
-       [](auto& s, const auto& line) { s.spacing = NumberFrom(line, kFinestSpacing, kCoarsestResolution); }},
+       [](auto& s, const auto& line) {
+         s.spacing = WavenumberFrom(line, kFinestSpacing, kCoarsestResolution);
+       }},
       {"RESOLUTION",
        [](auto& s, const auto& line) {
-         s.resolution = NumberFrom(line, kFinestResolution, kCoarsestResolution);
+         s.resolution = WavenumberFrom(line, kFinestResolution, kCoarsestResolution);
        }},
       {"SCANS",
-       [](auto& s, const auto& line) { s.scans = static_cast<int>(WholeNumberOf(line, 1, kMostScans)); }},
+       [](auto& s, const auto& line) {
+         s.scans = static_cast<int>(WholeNumberBetween(line, 1, kMostScans));
+       }},
       {"APODIZATION", [](auto& s, const auto& line) { s.apodization = ApodizationFrom(line); }},
       {"ORDINATE", [](auto& s, const auto& line) { s.ordinate = OrdinateFrom(line); }},
       {"ACCESSORY", [](auto& s, const auto& line) { s.accessory = AccessoryFrom(line); }},

@@ -9,8 +9,8 @@
 #include <string>
 #include <string_view>
 
-#include "simulator/instrument_grid.h"
 #include "simulator/instrument_line_shape.h"
+#include "simulator/wavenumber_grid.h"
 
 namespace veritane::simulator {
 

@@ -17,6 +17,7 @@ namespace {
 
 constexpr int kMostFaults = 32767;
 constexpr int kLongestDuration = 3600000;
+constexpr double kLoudestNoise = 1000;
 
 std::string OneLine(const std::string& name) {
   if (std::any_of(name.begin(), name.end(), [](char c) { return static_cast<unsigned char>(c) < 0x20; })) {
@@ -56,9 +57,7 @@ int FaultCountFrom(const std::string& text) {
 }
 
 double NoiseFrom(const std::string& text) {
-  const double noise = NumberFrom(text);
-  if (noise >= 0 && noise <= 1000) return noise;
-  throw RefusedValue(platform::ErrorNumber::kInvalidCall, "lies from 0 to 1000");
+  return NumberFrom(text, 0, kLoudestNoise);
 }
 
 int DurationFrom(const std::string& text) {

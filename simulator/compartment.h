@@ -13,7 +13,7 @@
 
 #include "platform/file_system.h"
 #include "simulator/collect_method.h"
-#include "simulator/collect_method_lines.h"
+#include "simulator/key_value_lines.h"
 
 namespace veritane::simulator {
 

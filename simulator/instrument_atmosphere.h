@@ -3,7 +3,7 @@
 
 #include <span>
 
-#include "simulator/instrument_grid.h"
+#include "simulator/wavenumber_grid.h"
 
 namespace veritane::simulator {
 

@@ -13,9 +13,9 @@
 
 #include "shell/state/spectrum_buffer.h"
 #include "simulator/instrument_atmosphere.h"
-#include "simulator/instrument_grid.h"
 #include "simulator/instrument_line_shape.h"
 #include "simulator/materials.h"
+#include "simulator/wavenumber_grid.h"
 
 namespace veritane::simulator {
 

@@ -13,7 +13,7 @@
 
 #include "platform/run_time_error.h"
 #include "shell/state/spectrum_buffer.h"
-#include "simulator/instrument_grid.h"
+#include "simulator/wavenumber_grid.h"
 
 namespace veritane::simulator {
 

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "platform/drawing_context.h"
-#include "simulator/collect_method_lines.h"
+#include "simulator/key_value_lines.h"
 
 namespace veritane::simulator {
 

@@ -7,7 +7,7 @@
 
 #include "platform/run_time_error.h"
 #include "simulator/jcamp_reader.h"
-#include "simulator/wavenumber_grid.h"
+#include "simulator/placed_spectrum.h"
 
 namespace veritane::simulator {
 
@@ -29,7 +29,7 @@ void AddLine(StoredSpectrum& spectrum, std::string_view name, const std::string&
 }
 
 StoredSpectrum ToStored(JcampSpectrum&& read) {
-  GriddedSpectrum gridded = PlaceOnGrid({read.firstX, read.lastX, read.deltaX, std::move(read.ordinates)});
+  PlacedSpectrum placed = PlaceOnGrid({read.firstX, read.lastX, read.deltaX, std::move(read.ordinates)});
   StoredSpectrum stored;
   stored.name = std::move(read.title);
   stored.time = std::move(read.time);
@@ -38,16 +38,16 @@ StoredSpectrum ToStored(JcampSpectrum&& read) {
   stored.yUnits = std::move(read.yUnits);
   stored.labels = std::move(read.labels);
   stored.parameters = std::move(read.parameters);
-  stored.spacing = gridded.spacing;
-  stored.ordinates = std::move(gridded.ordinates);
+  stored.spacing = placed.spacing;
+  stored.ordinates = std::move(placed.ordinates);
   if (!IsWavenumber(stored.xUnits) && NormalizedLabel(stored.dataType) != "INTERFEROGRAM") {
     read.warnings.push_back("x is given in \"" + stored.xUnits + "\", not in wavenumbers");
   }
   for (const std::string& warning : read.warnings) {
     AddLine(stored, kWarningsParameter, warning);
   }
-  if (!gridded.interpolated.empty()) {
-    AddLine(stored, kInterpolatedParameter, gridded.interpolated);
+  if (!placed.interpolated.empty()) {
+    AddLine(stored, kInterpolatedParameter, placed.interpolated);
   }
   return stored;
 }

@@ -1,38 +1,38 @@
-// Puts the points of a spectrum file on whole multiples of their spacing, as the program requires: element i
-// lies at i × spacing.
+// Evenly spaced wavenumbers counted from zero: point i lies at i × spacing, so grids of one spacing share
+// points.
 #pragma once
 
-#include <optional>
-#include <string>
+#include <cstddef>
+#include <cstdint>
 #include <vector>
 
 #include "shell/state/spectrum_buffer.h"
 
 namespace veritane::simulator {
 
-// Evenly spaced points in either direction of x.
-struct SampledCurve {
-  double firstX = 0;
-  double lastX = 0;
-  std::optional<double> deltaX;  // the file's own statement, taken where it fits first and last x exactly
-  std::vector<double> values;
+// `points` wavenumbers from lower × spacing upwards, in cm⁻¹.
+struct WavenumberGrid {
+  std::int32_t lower = 0;
+  std::int32_t points = 0;
+  double spacing = 1;
+
+  std::size_t Size() const { return static_cast<std::size_t>(points); }
+  std::int32_t Upper() const { return lower + points - 1; }
+  // The wavenumber of the point at `offset`, the first being 0.
+  double Wavenumber(std::size_t offset) const {
+    return (static_cast<double>(lower) + static_cast<double>(offset)) * spacing;
+  }
 };
 
-struct GriddedSpectrum {
-  double spacing = 0;
-  state::Ordinates ordinates;
-  // Says from where the points were interpolated; "" when they are the file's own values.
-  std::string interpolated;
-};
+// All whole multiples of `spacing` from `from` to `to`, both ends included when they are multiples
+// themselves. Error 5 unless 0 < from < to and spacing > 0, 6 when there are more points than a 32-bit
+// integer counts.
+WavenumberGrid GridOver(double from, double to, double spacing);
 
-// Descending curves are turned. Points that lie within 1e-5 of a step of whole multiples are there but for
-// the rounding of their first and last x; they keep their values, and the spacing is the shortest decimal
-// number that agrees. Otherwise the curve is interpolated at the whole multiples within its range, at the
-// shortest decimal spacing that agrees with the curve's own within 1 % of a step over the whole range.
-// Interpolation is cubic through the four nearest points (Lagrange; Abramowitz and Stegun, Handbook of
-// Mathematical Functions, 25.2.13): at half a step it misses the top of a band four steps wide by less than 1
-// %, where a straight line misses 4 %. std::domain_error when there is no such grid: no points, no range, a
-// single point without spacing, or more than 2^31 multiples away from 0.
-GriddedSpectrum PlaceOnGrid(SampledCurve curve);
+// The spectrum's ordinates at the grid's wavenumbers by straight lines between its points; the first and last
+// ordinate continue beyond its ends. Error 5 for a spectrum without points or with a spacing that is not
+// positive.
+std::vector<double> InterpolatedOnto(const WavenumberGrid& grid, const state::Ordinates& ordinates,
+                                     double spacing);
 
 }  // namespace veritane::simulator

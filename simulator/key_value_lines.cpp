@@ -1,5 +1,5 @@
 // Reading "Key = value" lines.
-#include "simulator/collect_method_lines.h"
+#include "simulator/key_value_lines.h"
 
 #include <cmath>
 
@@ -39,30 +39,29 @@ std::vector<KeyValueLine> ReadKeyValueLines(std::string_view bytes) {
   return lines;
 }
 
-double NumberFrom(const std::string& text) {
-  if (const auto number = platform::ParseNumber(text)) return *number;
-  throw RefusedValue(ErrorNumber::kTypeMismatch, "is no number: \"" + text + "\"");
+double NumberFrom(const std::string& text, double least, double most, std::string_view unit) {
+  const auto number = platform::ParseNumber(text);
+  if (!number) throw RefusedValue(ErrorNumber::kTypeMismatch, "is no number: \"" + text + "\"");
+  if (*number >= least && *number <= most) return *number;
+  std::string why = "lies from " + platform::PlainNumberText(least) + " to " + platform::PlainNumberText(most);
+  throw RefusedValue(ErrorNumber::kInvalidCall, why.append(unit.empty() ? "" : " ").append(unit));
 }
 
 long long WholeNumberFrom(const std::string& text, long long least, long long most) {
-  const double number = NumberFrom(text);
-  if (!(number >= static_cast<double>(least) && number <= static_cast<double>(most))) {
-    throw RefusedValue(ErrorNumber::kInvalidCall,
-                       "lies from " + std::to_string(least) + " to " + std::to_string(most));
-  }
+  const double number = NumberFrom(text, static_cast<double>(least), static_cast<double>(most));
   if (number != std::floor(number)) throw RefusedValue(ErrorNumber::kTypeMismatch, "is a whole number");
   return static_cast<long long>(number);
 }
 
-double NumberOf(const KeyValueLine& line) {
+double NumberBetween(const KeyValueLine& line, double least, double most, std::string_view unit) {
   try {
-    return NumberFrom(line.value);
+    return NumberFrom(line.value, least, most, unit);
   } catch (const RefusedValue& refused) {
     RefuseLine(line, refused);
   }
 }
 
-long long WholeNumberOf(const KeyValueLine& line, long long least, long long most) {
+long long WholeNumberBetween(const KeyValueLine& line, long long least, long long most) {
   try {
     return WholeNumberFrom(line.value, least, most);
   } catch (const RefusedValue& refused) {

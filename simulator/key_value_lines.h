@@ -1,4 +1,4 @@
-// "Key = value" lines, as collect methods and the compartment's file are written.
+// "Key = value" lines, as collect methods, print templates and the compartment's file are written.
 #pragma once
 
 #include <stdexcept>
@@ -31,15 +31,15 @@ private:
   platform::ErrorNumber number_;
 };
 
-// The text as a number, RefusedValue 13 when it is none.
-double NumberFrom(const std::string& text);
-// The same as a whole number from `least` to `most`; RefusedValue 5 outside, 13 for a fraction.
+// The text as a number from `least` to `most`. RefusedValue 13 when it is none, 5 outside, whose reason names the
+// bounds with their `unit`.
+double NumberFrom(const std::string& text, double least, double most, std::string_view unit = "");
+// The same as a whole number; RefusedValue 13 for a fraction.
 long long WholeNumberFrom(const std::string& text, long long least, long long most);
 
-// The value as a number, error 13 naming the line and the key when it is none.
-double NumberOf(const KeyValueLine& line);
-// The same as a whole number from `least` to `most`; error 5 outside, 13 for a fraction.
-long long WholeNumberOf(const KeyValueLine& line, long long least, long long most);
+// The line's value likewise, errors naming the line and the key.
+double NumberBetween(const KeyValueLine& line, double least, double most, std::string_view unit = "");
+long long WholeNumberBetween(const KeyValueLine& line, long long least, long long most);
 
 // Raises error 5 with "line 3: " before the text.
 [[noreturn]] void RefuseLine(const KeyValueLine& line, const std::string& why);
