@@ -18,8 +18,8 @@ namespace {
 constexpr std::size_t kLineLength = 80;
 constexpr std::size_t kLongestNumber = 25;  // "-2.2250738585072014e-308" and a blank
 
-void RequireFinite(bool finite, const StoredSpectrum& spectrum, const std::string& what) {
-  if (!finite) {
+void Require(bool holds, const StoredSpectrum& spectrum, const std::string& what) {
+  if (!holds) {
     throw platform::RunTimeError(platform::ErrorNumber::kInvalidCall,
                                  "the spectrum \"" + spectrum.name + "\" cannot be written: " + what);
   }
@@ -27,15 +27,15 @@ void RequireFinite(bool finite, const StoredSpectrum& spectrum, const std::strin
 
 void RequireWritable(const StoredSpectrum& spectrum) {
   const state::Ordinates& ordinates = spectrum.ordinates;
-  RequireFinite(!ordinates.Empty(), spectrum, "it has no points");
-  RequireFinite(static_cast<double>(ordinates.lower) + static_cast<double>(ordinates.Size()) - 1 <=
-                    std::numeric_limits<std::int32_t>::max(),
-                spectrum, "it has too many points");
-  RequireFinite(spectrum.spacing > 0 && std::isfinite(spectrum.spacing * ordinates.lower) &&
-                    std::isfinite(spectrum.spacing * ordinates.Upper()),
-                spectrum, "its spacing is not a positive number");
-  RequireFinite(std::ranges::all_of(ordinates.values, [](double y) { return std::isfinite(y); }), spectrum,
-                "a point is not a number");
+  Require(!ordinates.Empty(), spectrum, "it has no points");
+  Require(static_cast<double>(ordinates.lower) + static_cast<double>(ordinates.Size()) - 1 <=
+              std::numeric_limits<std::int32_t>::max(),
+          spectrum, "it has too many points");
+  Require(spectrum.spacing > 0 && std::isfinite(spectrum.spacing * ordinates.lower) &&
+              std::isfinite(spectrum.spacing * ordinates.Upper()),
+          spectrum, "its spacing is not a positive number");
+  Require(std::ranges::all_of(ordinates.values, [](double y) { return std::isfinite(y); }), spectrum,
+          "a point is not a number");
 }
 
 class TextWriter {

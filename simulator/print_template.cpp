@@ -7,9 +7,9 @@
 #include <utility>
 
 #include "platform/run_time_error.h"
+#include "simulator/invalid_file_format.h"
 #include "simulator/print_attributes.h"
 #include "simulator/print_fields.h"
-#include "simulator/spectrum_file.h"
 
 namespace veritane::simulator {
 
@@ -23,10 +23,10 @@ constexpr double kLargestPage = 1200;
 constexpr double kSmallestText = 4;
 constexpr double kLargestText = 72;
 constexpr double kThickest = 10;
-constexpr int kMostLines = 100;
+constexpr int kMostTextLines = 100;
 constexpr double kHighestRange = 100000;
 // A page that a person could have designed; more is a damaged file.
-constexpr std::size_t kMostItems = 2000;
+constexpr std::size_t kMostTemplateLines = 2000;
 
 class Reader {
 public:
@@ -35,7 +35,8 @@ public:
     if (lines.empty()) throw RunTimeError(kInvalidFileFormat, "the file is empty");
     if (lines.front().key != "TEMPLATE") RefuseLine(lines.front(), "a template begins with \"Template = 1\"");
     if (lines.front().value != "1") RefuseLine(lines.front(), "there is only version 1 of templates");
-    if (lines.size() > kMostItems) RefuseLine(lines[kMostItems], "a template has at most 2000 lines");
+    if (lines.size() > kMostTemplateLines)
+      RefuseLine(lines[kMostTemplateLines], "a template has at most 2000 lines");
     for (std::size_t i = 1; i < lines.size(); ++i) ReadLine(lines[i]);
     if (read_.items.empty()) RefuseLine(lines.back(), "the template puts nothing onto the page");
     return std::move(read_);
@@ -87,7 +88,7 @@ private:
     const double room = read_.pageWidth - text.at.x;
     text.width = attributes.TakeNumber("width", room, 1, room);
     text.size = TextSizeFrom(attributes, text.size);
-    text.lines = static_cast<int>(attributes.TakeNumber("lines", 1, 1, kMostLines));
+    text.lines = static_cast<int>(attributes.TakeNumber("lines", 1, 1, kMostTextLines));
     text.bold = attributes.TakeWord("bold");
     const bool is_centred = attributes.TakeWord("centre");
     const bool is_right = attributes.TakeWord("right");

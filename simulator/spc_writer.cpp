@@ -23,7 +23,7 @@ constexpr std::uint8_t kFourierTransformInfrared = 4;  // kind of experiment
 constexpr std::uint8_t kIeeeOrdinates = 0x80;          // in the place of the exponent
 constexpr std::size_t kMemoSize = 130;                 // with the NUL that ends it
 
-void Require(bool holds, const StoredSpectrum& spectrum, const std::string& why) {
+void RequireExportable(bool holds, const StoredSpectrum& spectrum, const std::string& why) {
   if (!holds) {
     throw platform::RunTimeError(platform::ErrorNumber::kInvalidCall,
                                  "the spectrum \"" + spectrum.name + "\" cannot be exported: " + why);
@@ -77,7 +77,7 @@ std::string Memo(const std::string& name) {
 }
 
 float ToFloat(double value, const StoredSpectrum& spectrum) {
-  Require(std::isfinite(value), spectrum, "a point is not a number");
+  RequireExportable(std::isfinite(value), spectrum, "a point is not a number");
   if (std::abs(value) > static_cast<double>(std::numeric_limits<float>::max())) {
     throw platform::RunTimeError(platform::ErrorNumber::kOverflow,
                                  "a point of \"" + spectrum.name + "\" is too large for an SPC file");
@@ -126,9 +126,9 @@ std::string WriteSpc(const StoredSpectrum& spectrum) {
   const state::Ordinates& ordinates = spectrum.ordinates;
   const double first_x = ordinates.lower * spectrum.spacing;
   const double last_x = (ordinates.lower + (static_cast<double>(ordinates.Size()) - 1)) * spectrum.spacing;
-  Require(!ordinates.Empty(), spectrum, "it has no points");
-  Require(spectrum.spacing > 0 && std::isfinite(first_x) && std::isfinite(last_x), spectrum,
-          "its spacing is not a positive number");
+  RequireExportable(!ordinates.Empty(), spectrum, "it has no points");
+  RequireExportable(spectrum.spacing > 0 && std::isfinite(first_x) && std::isfinite(last_x), spectrum,
+                    "its spacing is not a positive number");
   SpcText file;
   file.Reserve(kHeaderSize + kSubheaderSize + 4 * ordinates.Size());
   PutHeader(file, spectrum, first_x, last_x);

@@ -6,12 +6,10 @@
 #include <string_view>
 #include <vector>
 
+#include "simulator/invalid_file_format.h"
 #include "simulator/stored_spectrum.h"
 
 namespace veritane::simulator {
-
-// The number of the RunTimeError for a file that is no readable spectrum file.
-inline constexpr int kInvalidFileFormat = 321;
 
 // Parameters that reading adds to a spectrum where there is something to say, both texts.
 inline constexpr std::string_view kInterpolatedParameter = "Interpolated";
