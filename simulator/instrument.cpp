@@ -79,7 +79,7 @@ int SimulatedInstrument::Align(const CollectRequest& request) {
   try {
     const CompartmentState compartment = CheckedCompartment();
     CheckedMethod(request, compartment);
-    PassTime(compartment, request);
+    PassTime(compartment);
     return acquisition::kNoInstrumentError;
   } catch (const Fault& fault) {
     return Reported(fault);
@@ -105,7 +105,7 @@ Measurement SimulatedInstrument::Measure(const CollectRequest& request) {
     }
   }
   const std::vector<SamplePart> sample = CheckedSample(compartment);
-  PassTime(compartment, request);
+  PassTime(compartment);
 
   Measurement measurement;
   measurement.spacing = grid.spacing;
@@ -159,13 +159,8 @@ std::vector<SamplePart> SimulatedInstrument::CheckedSample(const CompartmentStat
   }
 }
 
-void SimulatedInstrument::PassTime(const CompartmentState& compartment, const CollectRequest& request) const {
-  const int slices = std::clamp(compartment.duration, 1, 20);
-  for (int i = 1; i <= slices; ++i) {
-    const int slice = compartment.duration * i / slices - compartment.duration * (i - 1) / slices;
-    if (slice > 0) surroundings_.wait(std::chrono::milliseconds(slice));
-    if (request.progress) request.progress(static_cast<double>(i) / slices);
-  }
+void SimulatedInstrument::PassTime(const CompartmentState& compartment) const {
+  if (compartment.duration > 0) surroundings_.wait(std::chrono::milliseconds(compartment.duration));
 }
 
 ScanSettings SimulatedInstrument::ScanFor(const CollectMethodSettings& method,

@@ -60,7 +60,7 @@ private:
   CollectMethodSettings CheckedMethod(const CollectRequest& request,
                                       const CompartmentState& compartment) const;
   std::vector<SamplePart> CheckedSample(const CompartmentState& compartment) const;
-  void PassTime(const CompartmentState& compartment, const CollectRequest& request) const;
+  void PassTime(const CompartmentState& compartment) const;
   ScanSettings ScanFor(const CollectMethodSettings& method, const CompartmentState& compartment,
                        const CollectRequest& request);
   Measurement Measure(const CollectRequest& request);

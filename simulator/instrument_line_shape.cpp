@@ -76,22 +76,6 @@ std::optional<Apodization> ApodizationNamed(std::string_view name) {
   return std::nullopt;
 }
 
-double ApodizationAt(Apodization apodization, double position) {
-  switch (apodization) {
-    case Apodization::kBoxcar:
-      return 1;
-    case Apodization::kTriangular:
-      return 1 - position;
-    case Apodization::kHappGenzel:
-      return 0.54 + 0.46 * std::cos(kPi * position);
-    case Apodization::kNortonBeer: {
-      const double q = 1 - position * position;
-      return kNortonBeerMedium[0] + q * (kNortonBeerMedium[1] + q * kNortonBeerMedium[2]);
-    }
-  }
-  return 0;
-}
-
 double LineShape(Apodization apodization, double resolution, double distance) {
   // With L = 1/R: 2 times the integral of A(d/L) cos(2π distance d) over d from 0 to L.
   return 2 / resolution * CosineTransform(apodization, 2 * kPi * distance / resolution);

@@ -20,9 +20,6 @@ std::string_view ApodizationName(Apodization apodization);
 // The reverse, without regard to case; nothing for another text.
 std::optional<Apodization> ApodizationNamed(std::string_view name);
 
-// A at `position` = d/L from 0 to 1.
-double ApodizationAt(Apodization apodization, double position);
-
 // The line shape at `distance` cm⁻¹ from the line for the resolution R in cm⁻¹; its area is 1 cm⁻¹.
 double LineShape(Apodization apodization, double resolution, double distance);
 

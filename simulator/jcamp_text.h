@@ -56,7 +56,6 @@ public:
   // The label's value with the lines that follow it, comments dropped, as UTF-8, lines joined by "\n".
   std::string FullValue(const JcampLabel& label);
 
-  std::string_view Text() const { return text_; }
   std::size_t Position() const { return position_; }
   void MoveTo(std::size_t position) { position_ = position; }
 

@@ -2,9 +2,7 @@
 // comes about, a device knows nothing of documents.
 #pragma once
 
-#include <functional>
 #include <memory>
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -16,16 +14,12 @@ namespace veritane::simulator {
 // One collection or alignment as it is asked for.
 struct CollectRequest {
   std::string methodPath;
-  std::string methodText;               // the collect method file's bytes
-  std::optional<std::string> option;    // "NI" where the program set it
-  std::optional<double> scanParameter;  // the two settings of the calibration scan
-  std::optional<double> subParameter;
+  std::string methodText;      // the collect method file's bytes
   std::string backgroundName;  // as the program named it, e.g. "C:\…\backabc.bsp(1)"; "" for none
   // The spectrum behind backgroundName. Empty when none was named or when it cannot be read; then
   // backgroundFault says why.
   std::shared_ptr<const StoredSpectrum> background;
   std::string backgroundFault;
-  std::function<void(double fraction)> progress;  // may be empty; 0 to 1
 };
 
 // What came of it. With `error` 0 the values are one spectrum whose element i lies at i × spacing.

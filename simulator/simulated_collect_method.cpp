@@ -37,7 +37,6 @@ SimulatedCollectMethod::SimulatedCollectMethod(std::string path, std::string tex
 
 void SimulatedCollectMethod::SetCollectOption(const std::string& option) {
   calls_->Note("SetCollectOption", option);
-  request_.option = option;
 }
 
 void SimulatedCollectMethod::SetBackgroundFile(const std::string& spectrum) {
@@ -47,12 +46,10 @@ void SimulatedCollectMethod::SetBackgroundFile(const std::string& spectrum) {
 
 void SimulatedCollectMethod::SetScanParameter(double value) {
   calls_->Note("SetScanParameter", value);
-  request_.scanParameter = value;
 }
 
 void SimulatedCollectMethod::SetSubParameter(double value) {
   calls_->Note("SetSubParameter", value);
-  request_.subParameter = value;
 }
 
 CollectRequest SimulatedCollectMethod::ToRequest(const platform::FileSystem& files) const {

@@ -15,10 +15,11 @@ class SimulatedCollectMethod : public acquisition::CollectMethod {
 public:
   SimulatedCollectMethod(std::string path, std::string text, std::shared_ptr<CallLog> calls);
 
+  // Options and parameters of a scan say nothing to the devices here; they are noted.
   void SetCollectOption(const std::string& option) override;
-  void SetBackgroundFile(const std::string& spectrum) override;
   void SetScanParameter(double value) override;
   void SetSubParameter(double value) override;
+  void SetBackgroundFile(const std::string& spectrum) override;
 
   // The request with the background spectrum read now, or with the reason why there is none.
   CollectRequest ToRequest(const platform::FileSystem& files) const;

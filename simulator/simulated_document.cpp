@@ -47,7 +47,7 @@ private:
   std::string path_;
 };
 
-std::size_t PrintOf(std::string_view bytes) {
+std::size_t DigestOf(std::string_view bytes) {
   return std::hash<std::string_view>()(bytes);
 }
 
@@ -85,7 +85,7 @@ std::shared_ptr<SimulatedDocument> SimulatedDocument::Open(std::shared_ptr<Docum
     spectrum->stored = std::move(stored);
     document->spectra_.push_back(std::move(spectrum));
   }
-  document->file_print_ = PrintOf(bytes);
+  document->file_digest_ = DigestOf(bytes);
   document->left_out_ = std::move(file.leftOut);
   return document;
 }
@@ -104,17 +104,13 @@ std::shared_ptr<OpenSpectrum>& SimulatedDocument::Current() {
 std::int32_t SimulatedDocument::AutoAlign(acquisition::CollectMethod& method) {
   around_->calls->Note("AutoAlign");
   RequireOpen();
-  CollectRequest request = ToSimulated(method).ToRequest(around_->files);
-  request.progress = around_->progress;
-  return around_->device.Align(request);
+  return around_->device.Align(ToSimulated(method).ToRequest(around_->files));
 }
 
 std::int32_t SimulatedDocument::CollectInto(acquisition::CollectMethod& method) {
   around_->calls->Note("CollectInto");
   RequireOpen();
-  CollectRequest request = ToSimulated(method).ToRequest(around_->files);
-  request.progress = around_->progress;
-  Measurement measurement = around_->device.Collect(request);
+  Measurement measurement = around_->device.Collect(ToSimulated(method).ToRequest(around_->files));
   if (measurement.error == acquisition::kNoInstrumentError) {
     Append(std::move(measurement));
     return acquisition::kNoInstrumentError;
@@ -161,15 +157,15 @@ void SimulatedDocument::RequireUnchangedFile() const {
                                                       " would lose what could not be opened (" +
                                                       left_out_.front() + "); save under another name");
   }
-  if (file_print_ && around_->files.FileExists(path_) &&
-      PrintOf(around_->files.ReadBytes(path_)) != *file_print_) {
+  if (file_digest_ && around_->files.FileExists(path_) &&
+      DigestOf(around_->files.ReadBytes(path_)) != *file_digest_) {
     throw RunTimeError(ErrorNumber::kFileAlreadyOpen,
                        path_ + " was changed since this document was opened; save under another name");
   }
 }
 
 void SimulatedDocument::Saved(std::string_view bytes) {
-  file_print_ = PrintOf(bytes);
+  file_digest_ = DigestOf(bytes);
   changed_ = false;
   left_out_.clear();
   for (const auto& spectrum : spectra_) {
@@ -289,24 +285,22 @@ void SimulatedDocument::Export(const std::string& path) {
 void SimulatedDocument::SetDocumentShown(std::int32_t flag) {
   around_->calls->Note("SetDocumentShown", flag);
   RequireOpen();
-  view_.shown = flag;
 }
 
 void SimulatedDocument::PrepareSampleView() {
   around_->calls->Note("PrepareSampleView");
   RequireOpen();
   around_->sampleInView = {Current(), path_};
-  view_.sampleView = true;
+  is_sample_ = true;
 }
 
 void SimulatedDocument::PrepareStandardView() {
   around_->calls->Note("PrepareStandardView");
   RequireOpen();
-  view_.standardView = true;
 }
 
 PrintSubject SimulatedDocument::Subject() {
-  if (view_.sampleView) return {.sample = {Current(), path_}, .standard = {}, .printed = {}};
+  if (is_sample_) return {.sample = {Current(), path_}, .standard = {}, .printed = {}};
   return {.sample = around_->sampleInView, .standard = {Current(), path_}, .printed = {}};
 }
 

@@ -1,7 +1,6 @@
 // A document of the simulator: the spectra of one file, opened, measured into, changed and saved.
 #pragma once
 
-#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -24,18 +23,10 @@ struct DocumentSurroundings {
   platform::Clock& clock;
   MeasuringDevice& device;
   std::shared_ptr<CallLog> calls;
-  std::function<void(double fraction)> progress;
   PrintSettings printing;
   // The sample that the program brought into view last, until it is printed; closing its document leaves it.
   PrintedSpectrum sampleInView = {};
   bool printBegun = false;
-};
-
-// How the program asked for a document to be looked at.
-struct DocumentView {
-  std::int32_t shown = 0;
-  bool sampleView = false;
-  bool standardView = false;
 };
 
 class SimulatedDocument : public acquisition::Document {
@@ -64,6 +55,7 @@ public:
   std::shared_ptr<acquisition::Operation> CreateOperation(const std::string& kind) override;
   void ApplyOperation(acquisition::Operation& operation) override;
   void SaveDocumentAs(const std::string& path) override;
+  // There is no window here that shows a document.
   void SetDocumentShown(std::int32_t flag) override;
   // The current spectrum becomes the sample of the prints that follow. Error 9 for a document without
   // spectra.
@@ -75,7 +67,6 @@ public:
 
   bool IsOpen() const { return open_; }
   const std::string& Path() const { return path_; }
-  const DocumentView& View() const { return view_; }
   // The spectra as they stand, for printing and for tests.
   const std::vector<std::shared_ptr<OpenSpectrum>>& Spectra() const { return spectra_; }
   // Ends the document's use without saving.
@@ -98,10 +89,10 @@ private:
   std::vector<std::shared_ptr<OpenSpectrum>> spectra_;
   std::size_t current_ = 0;
   bool open_ = true;
-  bool changed_ = false;                   // spectra were added or replaced
-  std::optional<std::size_t> file_print_;  // hash of the file as read or saved; empty for a new document
+  bool changed_ = false;                    // spectra were added or replaced
+  std::optional<std::size_t> file_digest_;  // hash of the file as read or saved; empty for a new document
   std::vector<std::string> left_out_;
-  DocumentView view_;
+  bool is_sample_ = false;  // was brought into view as the sample
 };
 
 }  // namespace veritane::simulator

@@ -11,7 +11,7 @@ namespace veritane::simulator {
 SimulatedSpectrometer::SimulatedSpectrometer(platform::FileSystem& files, platform::Clock& clock,
                                              MeasuringDevice& device, std::shared_ptr<CallLog> calls)
     : around_(std::make_shared<DocumentSurroundings>(
-          DocumentSurroundings{files, clock, device, std::move(calls), {}, {}})) {}
+          DocumentSurroundings{files, clock, device, std::move(calls), {}})) {}
 
 void SimulatedSpectrometer::RequireRunning() const {
   if (!running_) {
@@ -26,7 +26,6 @@ void SimulatedSpectrometer::SetWaiting(const acquisition::AutomationWaiting&) {
 void SimulatedSpectrometer::Interactive(bool interactive) {
   around_->calls->Note("Interactive", interactive);
   RequireRunning();
-  interactive_ = interactive;
 }
 
 void SimulatedSpectrometer::Remember(const std::shared_ptr<SimulatedDocument>& document) {
@@ -81,10 +80,6 @@ void SimulatedSpectrometer::QuitApplication() {
   }
   documents_.clear();
   running_ = false;
-}
-
-void SimulatedSpectrometer::OnProgress(std::function<void(double fraction)> progress) {
-  around_->progress = std::move(progress);
 }
 
 void SimulatedSpectrometer::PrintInto(PrintSettings settings) {

@@ -2,7 +2,6 @@
 // handed in.
 #pragma once
 
-#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -37,13 +36,10 @@ public:
   // Closes what is open without saving.
   void QuitApplication() override;
 
-  // Receives the progress of collections and alignments, 0 to 1.
-  void OnProgress(std::function<void(double fraction)> progress);
   // Where prints go and who is told; without it PrintDoc is error 57.
   void PrintInto(PrintSettings settings);
   // The operations called since the last taking, e.g. "OpenDocument(C:\…)".
   std::vector<std::string> TakeCalls() { return around_->calls->Take(); }
-  bool IsInteractive() const { return interactive_; }
 
 private:
   void RequireRunning() const;
@@ -51,7 +47,6 @@ private:
 
   std::shared_ptr<DocumentSurroundings> around_;
   std::vector<std::shared_ptr<SimulatedDocument>> documents_;
-  bool interactive_ = true;
   bool running_ = true;
 };
 

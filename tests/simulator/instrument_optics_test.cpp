@@ -66,6 +66,22 @@ TEST(PlanckRadiance, HasTheTabulatedValuesAndNoneAtZero) {
   EXPECT_EQ(PlanckRadiance(-5, 1350), 0);
 }
 
+// A at `position` = d/L from 0 to 1, after Happ and Genzel, and after Norton and Beer (the medium one).
+double ApodizationAt(Apodization apodization, double position) {
+  switch (apodization) {
+    case Apodization::kBoxcar:
+      return 1;
+    case Apodization::kTriangular:
+      return 1 - position;
+    case Apodization::kHappGenzel:
+      return 0.54 + 0.46 * std::cos(std::numbers::pi * position);
+    case Apodization::kNortonBeer:
+      return 0.152442 - 0.136176 * (1 - position * position) +
+             0.983734 * std::pow(1 - position * position, 2);
+  }
+  return 0;
+}
+
 struct ShapeCase {
   Apodization apodization;
   double widthInResolutions;  // published full width at half maximum times the greatest path difference
