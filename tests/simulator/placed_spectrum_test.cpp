@@ -18,7 +18,7 @@ std::vector<double> Ramp(std::size_t size) {
   return values;
 }
 
-TEST(WavenumberGrid, RoundingNoiseOfFirstAndLastXDoesNotMatter) {
+TEST(PlacedSpectra, RoundingNoiseOfFirstAndLastXDoesNotMatter) {
   for (const double noise : {0.0, 3e-7, -3e-7}) {
     const PlacedSpectrum fives = PlaceOnGrid({400 + noise, 3995 - noise, {}, Ramp(720)});
     EXPECT_EQ(fives.spacing, 5.0);
@@ -35,13 +35,13 @@ TEST(WavenumberGrid, RoundingNoiseOfFirstAndLastXDoesNotMatter) {
   EXPECT_EQ(tenths.ordinates.lower, 4001);
 }
 
-TEST(WavenumberGrid, DescendingCurvesAreTurned) {
+TEST(PlacedSpectra, DescendingCurvesAreTurned) {
   const PlacedSpectrum turned = PlaceOnGrid({6, 2, -2.0, {30, 20, 10}});
   EXPECT_EQ(turned.ordinates.lower, 1);
   EXPECT_THAT(turned.ordinates.values, ElementsAre(10, 20, 30));
 }
 
-TEST(WavenumberGrid, ACurveBesideTheGridIsInterpolatedWithinItsRange) {
+TEST(PlacedSpectra, ACurveBesideTheGridIsInterpolatedWithinItsRange) {
   // A cubic is met exactly: (x/10)^3 at 401, 403, … 419 becomes 402, 404, … 418.
   std::vector<double> cubes;
   for (int x = 401; x <= 419; x += 2) cubes.push_back(std::pow(x / 10.0, 3));
@@ -55,7 +55,7 @@ TEST(WavenumberGrid, ACurveBesideTheGridIsInterpolatedWithinItsRange) {
   EXPECT_THAT(placed.interpolated, ::testing::HasSubstr("401 to 419"));
 }
 
-TEST(WavenumberGrid, ABandFourStepsWideKeepsItsHeightWithinOnePercent) {
+TEST(PlacedSpectra, ABandFourStepsWideKeepsItsHeightWithinOnePercent) {
   // A Gaussian of 4 steps full width at half height, its top half-way between two points: the worst case.
   const double sigma = 4 / 2.3548200450309493;
   std::vector<double> band;
@@ -64,7 +64,7 @@ TEST(WavenumberGrid, ABandFourStepsWideKeepsItsHeightWithinOnePercent) {
   EXPECT_NEAR(*std::max_element(placed.ordinates.values.begin(), placed.ordinates.values.end()), 1, 0.01);
 }
 
-TEST(WavenumberGrid, WhatHasNoGridIsRefused) {
+TEST(PlacedSpectra, WhatHasNoGridIsRefused) {
   EXPECT_THROW(PlaceOnGrid({1, 2, {}, {}}), std::domain_error);
   EXPECT_THROW(PlaceOnGrid({1, 1, {}, {1, 2}}), std::domain_error);
   EXPECT_THROW(PlaceOnGrid({1, 1, {}, {1}}), std::domain_error) << "a single point needs a spacing";
