@@ -3,7 +3,6 @@
 # Makes one room of the program a static library of all sources directly in its folder, and in the folders WITH it that
 # hold the half of it which differs between systems. A room sees only itself, the rooms it names, and what those rooms
 # name; including anything else fails the build.
-set_property(GLOBAL PROPERTY veritane_rooms "")
 
 function(veritane_room)
   cmake_parse_arguments(ROOM "" "NAME;FOLDER" "WITH;MAY_INCLUDE;LINK" ${ARGN})
@@ -13,16 +12,11 @@ function(veritane_room)
   list(TRANSFORM folders APPEND /*.h OUTPUT_VARIABLE header_names)
   file(GLOB sources CONFIGURE_DEPENDS ${source_names})
   file(GLOB headers CONFIGURE_DEPENDS ${header_names})
-  if(NOT sources)
-    file(WRITE ${CMAKE_CURRENT_BINARY_DIR}/${ROOM_NAME}_empty.cpp "")
-    set(sources ${CMAKE_CURRENT_BINARY_DIR}/${ROOM_NAME}_empty.cpp)
-  endif()
   add_library(${ROOM_NAME} STATIC ${sources} ${headers})
   # Some presets compile several sources as one, to save time. windows.h would bring its names to the others.
   set(sources_by_themselves ${sources})
   list(FILTER sources_by_themselves INCLUDE REGEX "/platform/windows/[^/]*(/printing/[^/]*)?$")
   set_source_files_properties(${sources_by_themselves} PROPERTIES SKIP_UNITY_BUILD_INCLUSION ON)
-  set_target_properties(${ROOM_NAME} PROPERTIES LINKER_LANGUAGE CXX)
   target_include_directories(${ROOM_NAME} PUBLIC ${CMAKE_SOURCE_DIR})
 
   set(allowed ${ROOM_FOLDER} ${ROOM_WITH})
