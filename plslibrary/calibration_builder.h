@@ -46,8 +46,8 @@ struct ConstituentStudy {
   CrossValidation validation;
   Eigen::Index suggestedFactors = 0;
   Eigen::Index factors = 0;
-  double rmsec =
-      0;  // root mean square error of the calibration's own samples, n − factors − 1 degrees of freedom
+  // Root mean square error of the calibration's own samples, with n − factors − 1 degrees of freedom.
+  double rmsec = 0;
   std::vector<SampleStatistics> samples;
 };
 

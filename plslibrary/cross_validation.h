@@ -9,8 +9,8 @@ namespace veritane::plslibrary {
 // factors. A model refers to its own preprocessing.
 struct CrossValidation {
   Eigen::MatrixXd predicted;
-  Eigen::MatrixXd
-      residuals;  // sum of squares of what the model does not explain of the preprocessed spectrum
+  // Sums of squares of what the model does not explain of the preprocessed spectrum.
+  Eigen::MatrixXd residuals;
   Eigen::MatrixXd distances;  // Mahalanobis distance from the centre of the model's scores
   Eigen::VectorXd press;      // sum over the samples of (predicted − reference)²
 

@@ -14,8 +14,8 @@ struct SetPrediction {
   double residual = 0;  // sum of squares of residualSpectrum
   double distance = 0;  // Mahalanobis distance from the centre of the calibration's scores
   Eigen::VectorXd scores;
-  Eigen::VectorXd
-      residualSpectrum;  // what the factors do not explain of the preprocessed spectrum; used points
+  // What the factors do not explain of the preprocessed spectrum; used points.
+  Eigen::VectorXd residualSpectrum;
 };
 
 struct Prediction {

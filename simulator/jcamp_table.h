@@ -1,7 +1,6 @@
 // The data tables of JCAMP-DX: "(X++(Y..Y))" in every form (AFFN, PAC, SQZ, DIF, DUP, also mixed within a
-// line) and
-// "(XY..XY)". Nothing here knows of labels; what the table must agree with is checked by the block that holds
-// it.
+// line) and "(XY..XY)". Nothing here knows of labels; what the table must agree with is checked by the block
+// that holds it.
 #pragma once
 
 #include <cstddef>

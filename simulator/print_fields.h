@@ -2,9 +2,9 @@
 //
 // "{Sample Name}" is the sample's parameter of that name, "{Standard.SpectName}" the Standard's, "{Printed}"
 // the moment of printing, "{File}" and "{Standard.File}" the files' names, "{Markers}" the wavenumbers of the
-// markers. "{Comparison|0.00}" writes a number by a pattern, else it
-// is written to six significant digits. "{{" is a brace. Names are read without regard to
-// case; a value that is missing or empty is written as a dash.
+// markers. "{Comparison|0.00}" writes a number by a pattern, else it is written to six significant digits.
+// "{{" is a brace. Names are read without regard to case; a value that is missing or empty is written as a
+// dash.
 #pragma once
 
 #include <memory>
