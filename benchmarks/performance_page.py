@@ -168,7 +168,8 @@ def main():
         "# Performance", "",
         "Written by `benchmarks/run_benchmarks.sh`; run it again to renew the figures.", "",
         f"- Machine: {processor()}, {context['num_cpus']} processors, {platform.system()} {platform.machine()}",
-        f"- Compiler: {compiler}, preset \"benchmark\" (`-O3`, strict floating-point arithmetic)",
+        f"- Compiler: {compiler}, preset \"benchmark\" (`-O3`, strict floating-point arithmetic); every figure here, "
+        "the start and reprocessing too, is of that build, while what people use is built with `-O2`",
         f"- Date: {context['date'][:10]}; load average at the start: {context['load_avg'][0]:.2f}", "",
         "| | median | best | median rate |", "|---|---:|---:|---:|",
     ]
