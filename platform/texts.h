@@ -65,6 +65,7 @@ enum class TextId : int {
   kCancel = 2604,
   kWaitingForServer = 2605,
   kCannotStart = 2606,
+  kUnexpectedEnd = 2607,
 
   // Text files.
   kLineOfFile = 2700,
@@ -72,6 +73,7 @@ enum class TextId : int {
   kTextBehindField = 2702,
   kNumberTooLarge = 2703,
   kNotANumber = 2704,
+  kQuoteNotClosed = 2705,
 
   // Names of files.
   kNameIsEmpty = 2800,

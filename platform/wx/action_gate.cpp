@@ -12,6 +12,7 @@
 #include <exception>
 
 #include "platform/form.h"
+#include "platform/texts.h"
 
 namespace veritane::platform {
 
@@ -26,8 +27,31 @@ constexpr milliseconds kNoticeable{250};
 constexpr milliseconds kRepaintPeriod{60};
 constexpr int kPicturePeriodMilliseconds = 17;
 
-void ReportUnexpected(const char* what) {
+// Says why the program ends, and ends it. The window must not vanish without a word.
+template <typename Screen>
+void EndUnexpectedly(Screen& screen, const char* what) {
   std::fprintf(stderr, "Veritane: unexpected error: %s\n", what);
+  try {
+    screen.ShowMessage({.text = Text(TextId::kUnexpectedEnd, {what}),
+                        .title = Text(TextId::kProgramName),
+                        .icon = MessageIcon::kCritical});
+  } catch (...) {
+    // The same want, of memory say, may keep the box away; the program ends all the same.
+    std::fputs("Veritane: the box about it cannot be shown\n", stderr);
+  }
+  screen.End(1);
+}
+
+// Exceptions must not cross the toolkit's frames, which are not made for them.
+template <typename Screen>
+void RunOrEnd(Screen& screen, const std::function<void()>& action) {
+  try {
+    action();
+  } catch (const std::exception& error) {
+    EndUnexpectedly(screen, error.what());
+  } catch (...) {
+    EndUnexpectedly(screen, Text(TextId::kUnknownReason).c_str());
+  }
 }
 
 void Yield() {
@@ -71,33 +95,16 @@ bool ActionGate::Perform(Form& form, const std::function<void()>& action) {
   Desktop& desktop = form.Screen();
   if (busy_ || desktop.Ended() || desktop.IsBlocked(form)) return false;
   BeginWork();
-  // Exceptions must not cross the toolkit's frames, which are not made for them.
-  try {
-    desktop.Perform(action);
-  } catch (const std::exception& error) {
-    ReportUnexpected(error.what());
-    desktop.End(1);
-  } catch (...) {
-    ReportUnexpected("not an exception of the standard library");
-    desktop.End(1);
-  }
+  RunOrEnd(desktop, [&] { desktop.Perform(action); });
   DropPiledUpInput();
   busy_ = false;
   blocking_ = false;
   return true;
 }
 
-void ActionGate::RunStart(const std::function<void()>& start, const std::function<void(int)>& end) {
+void ActionGate::RunStart(UserInterface& screen, const std::function<void()>& start) {
   BeginWork();
-  try {
-    start();
-  } catch (const std::exception& error) {
-    ReportUnexpected(error.what());
-    end(1);
-  } catch (...) {
-    ReportUnexpected("not an exception of the standard library");
-    end(1);
-  }
+  RunOrEnd(screen, start);
   DropPiledUpInput();
   busy_ = false;
   blocking_ = false;

@@ -19,12 +19,12 @@ public:
   ~ActionGate() override;
 
   // Runs something the user did on `form`, unless a handler is at work, the form lies under a modal one, or
-  // the program has ended. Returns whether it ran. An exception that is no RunTimeError ends the program with
-  // status 1.
+  // the program has ended. Returns whether it ran. An exception that is no RunTimeError is shown in one
+  // message box and ends the program with status 1.
   bool Perform(Form& form, const std::function<void()>& action);
 
-  // Runs the program's own start in the place of a handler.
-  void RunStart(const std::function<void()>& start, const std::function<void(int status)>& end);
+  // Runs the program's own start in the place of a handler; any exception ends the program in the same way.
+  void RunStart(UserInterface& screen, const std::function<void()>& start);
 
   // Whether an action of the user would be refused, whatever form it is on.
   bool Busy() const { return busy_; }

@@ -141,7 +141,7 @@ void WxUserInterface::End(int exit_status) {
 }
 
 void WxUserInterface::RunStart(const std::function<void()>& start) {
-  gate_.RunStart(start, [this](int status) { End(status); });
+  gate_.RunStart(*this, start);
 }
 
 }  // namespace veritane::platform
