@@ -1,8 +1,8 @@
 // Calendar arithmetic on wall-clock moments.
 #include "platform/date_time.h"
 
-#include <cstdio>
-#include <string>
+#include <algorithm>
+#include <charconv>
 
 namespace veritane::platform {
 
@@ -18,6 +18,18 @@ std::chrono::sys_days Days(const DateTime& moment) {
 std::int64_t FloorDivide(std::int64_t value, std::int64_t divisor) {
   const std::int64_t quotient = value / divisor;
   return value % divisor < 0 ? quotient - 1 : quotient;
+}
+
+// Whether the text is the form, in which "0" stands for any digit.
+bool HasForm(std::string_view text, std::string_view form) {
+  return std::equal(text.begin(), text.end(), form.begin(), form.end(),
+                    [](char c, char place) { return place == '0' ? c >= '0' && c <= '9' : c == place; });
+}
+
+int NumberIn(std::string_view digits) {
+  int number = 0;
+  std::from_chars(digits.data(), digits.data() + digits.size(), number);
+  return number;
 }
 
 }  // namespace
@@ -48,22 +60,17 @@ std::int64_t HourBoundaries(const DateTime& from, const DateTime& to) {
 }
 
 std::optional<DateTime> ParseIsoDateTime(std::string_view text) {
-  DateTime moment;
-  int used = 0;
-  const std::string copy(text);
-  const int fields = std::sscanf(copy.c_str(), "%4d-%2d-%2dT%2d:%2d%n", &moment.year, &moment.month,
-                                 &moment.day, &moment.hour, &moment.minute, &used);
-  if (fields != 5) return std::nullopt;
-  std::string_view rest = text.substr(static_cast<std::size_t>(used));
-  if (!rest.empty()) {
-    if (rest.size() != 3 || std::sscanf(copy.c_str() + used, ":%2d", &moment.second) != 1)
-      return std::nullopt;
-  }
+  if (!HasForm(text, "0000-00-00T00:00") && !HasForm(text, "0000-00-00T00:00:00")) return std::nullopt;
+  const DateTime moment{.year = NumberIn(text.substr(0, 4)),
+                        .month = NumberIn(text.substr(5, 2)),
+                        .day = NumberIn(text.substr(8, 2)),
+                        .hour = NumberIn(text.substr(11, 2)),
+                        .minute = NumberIn(text.substr(14, 2)),
+                        .second = text.size() > 16 ? NumberIn(text.substr(17, 2)) : 0};
   const std::chrono::year_month_day date(std::chrono::year(moment.year),
                                          std::chrono::month(static_cast<unsigned>(moment.month)),
                                          std::chrono::day(static_cast<unsigned>(moment.day)));
-  const bool time_is_real = moment.hour >= 0 && moment.hour < 24 && moment.minute >= 0 &&
-                            moment.minute < 60 && moment.second >= 0 && moment.second < 60;
+  const bool time_is_real = moment.hour < 24 && moment.minute < 60 && moment.second < 60;
   if (!date.ok() || !time_is_real) return std::nullopt;
   return moment;
 }
