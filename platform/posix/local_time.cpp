@@ -34,7 +34,11 @@ std::chrono::system_clock::time_point MomentOf(const DateTime& local) {
   broken.tm_min = local.minute;
   broken.tm_sec = local.second;
   broken.tm_isdst = -1;
-  return std::chrono::system_clock::from_time_t(std::mktime(&broken));
+  // A failure's answer is that of the last second of 1969, which alone sets the day of the week.
+  broken.tm_wday = -1;
+  const std::time_t seconds = std::mktime(&broken);
+  if (broken.tm_wday < 0) throw RunTimeError(ErrorNumber::kOverflow, Text(TextId::kDate));
+  return MomentAt(seconds);
 }
 
 }  // namespace veritane::platform

@@ -11,6 +11,7 @@
 #include <utility>
 
 #include "platform/run_time_error.h"
+#include "platform/system/system_clock.h"
 
 namespace veritane::platform {
 
@@ -98,21 +99,25 @@ std::optional<NativeFile> NativeFile::OpenAlone(const fs::path& native, const st
 
 NativeFile NativeFile::CreateBeside(const fs::path& native, const std::string& path) {
   const std::string_view ending = kUnfinished;
-  std::string temporary = (native.string() + ".XXXXXX").append(ending);
-  const int descriptor = ::mkostemps(temporary.data(), static_cast<int>(ending.size()), O_CLOEXEC);
-  if (descriptor < 0) RaiseWriteError(errno, native, path);
-  NativeFile file(descriptor, temporary, path);
-  // The lock goes with the program, however it ends. Where there are no locks, nobody clears up either.
-  (void)::flock(descriptor, LOCK_EX | LOCK_NB);
-  // The name came with rights for its owner alone; the file is to have those of any new file.
-  const mode_t mask = ::umask(0);
-  ::umask(mask);
-  if (::fchmod(descriptor, 0666 & ~mask) != 0) {
-    const int code = errno;
-    ::unlink(temporary.c_str());
-    RaiseSystemError(code, path);
+  for (;;) {
+    std::string temporary = (native.string() + ".XXXXXX").append(ending);
+    const int descriptor = ::mkostemps(temporary.data(), static_cast<int>(ending.size()), O_CLOEXEC);
+    if (descriptor < 0) RaiseWriteError(errno, native, path);
+    NativeFile file(descriptor, temporary, path);
+    // The lock goes with the program, however it ends. Where there are no locks, nobody clears up either.
+    const bool is_anothers = ::flock(descriptor, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK;
+    // Somebody who clears up may have come between the name and the lock, and removes the file.
+    if (is_anothers || (::access(temporary.c_str(), F_OK) != 0 && errno == ENOENT)) continue;
+    // The name came with rights for its owner alone; the file is to have those of any new file.
+    const mode_t mask = ::umask(0);
+    ::umask(mask);
+    if (::fchmod(descriptor, 0666 & ~mask) != 0) {
+      const int code = errno;
+      ::unlink(temporary.c_str());
+      RaiseSystemError(code, path);
+    }
+    return file;
   }
-  return file;
 }
 
 std::string NativeFile::ReadFrom(std::int64_t position) {
@@ -182,6 +187,29 @@ void NativeFile::Close() {
   if (::close(descriptor) != 0) RaiseSystemError(errno, path_);
 }
 
+// Moved while it is open and locked: nobody can take it for what a dead writer left.
+void NativeFile::MoveOverAndClose(const fs::path& target) {
+  MoveOver(native_, target, path_);
+  Close();
+}
+
+FileKind KindOf(const fs::path& native, const std::string& path) {
+  struct stat status {};
+  if (::stat(native.c_str(), &status) == 0) {
+    if (S_ISREG(status.st_mode)) return FileKind::kFile;
+    return S_ISDIR(status.st_mode) ? FileKind::kFolder : FileKind::kOther;
+  }
+  switch (errno) {
+    case ENOENT:
+    case ENOTDIR:
+    case ENAMETOOLONG:
+    case EINVAL:
+      return FileKind::kNone;
+    default:
+      RaiseSystemError(errno, path);
+  }
+}
+
 void RaiseLookError(const std::error_code& error, const std::string& path) {
   RaiseSystemError(error.value(), path);
 }
@@ -229,7 +257,7 @@ void FlushFolder(const fs::path& folder, const std::string& path) {
 std::chrono::system_clock::time_point LastChange(const fs::path& native, const std::string& path) {
   struct stat status {};
   if (::stat(native.c_str(), &status) != 0) RaiseSystemError(errno, path);
-  return std::chrono::system_clock::from_time_t(status.st_mtim.tv_sec);
+  return MomentAt(status.st_mtim.tv_sec);
 }
 
 }  // namespace veritane::platform

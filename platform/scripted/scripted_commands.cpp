@@ -121,7 +121,12 @@ void ScriptedInterface::SetClock(const std::string& text) {
   const std::optional<DateTime> now = ParseIsoDateTime(text);
   if (!now) throw RefusedLine("\"" + text + "\" is no date and time like 2026-11-21T10:59:00.");
   if (!program_.setClock) throw RefusedLine("The clock cannot be set here.");
-  program_.setClock(*now);
+  try {
+    program_.setClock(*now);
+  } catch (const RunTimeError& error) {
+    // The line's fault, and none of the handler that waits for an answer.
+    throw RefusedLine("\"" + text + "\": " + error.what() + ".");
+  }
 }
 
 void ScriptedInterface::SetInstrument(const ScriptLine& line) {

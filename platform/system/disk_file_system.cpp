@@ -19,7 +19,7 @@ namespace {
 class TemporaryFile {
 public:
   TemporaryFile(const fs::path& target, const std::string& path)
-      : target_(target), path_(path), file_(NativeFile::CreateBeside(target, path)) {}
+      : target_(target), file_(NativeFile::CreateBeside(target, path)) {}
   ~TemporaryFile() {
     if (is_in_place_) return;
     std::error_code ignored;
@@ -31,14 +31,12 @@ public:
   NativeFile& File() { return file_; }
 
   void TakeItsPlace() {
-    file_.Close();
-    MoveOver(file_.Native(), target_, path_);
+    file_.MoveOverAndClose(target_);
     is_in_place_ = true;
   }
 
 private:
   const fs::path target_;
-  const std::string path_;
   NativeFile file_;
   bool is_in_place_ = false;
 };
@@ -93,27 +91,14 @@ private:
   NativeFile file_;
 };
 
-// What lies there. A file that cannot be looked at is an error: whoever took it for missing would make a new
-// one in its place.
-fs::file_status KindOf(const fs::path& native, const std::string& path) {
-  std::error_code error;
-  const fs::file_status status = fs::status(native, error);
-  // A name that no file can have is no file's.
-  if (error == std::errc::filename_too_long || error == std::errc::invalid_argument) {
-    return fs::file_status(fs::file_type::not_found);
-  }
-  if (status.type() == fs::file_type::none) RaiseLookError(error, path);
-  return status;
-}
-
 }  // namespace
 
 bool DiskFileSystem::FileExists(const std::string& path) const {
-  return paths_.Names(path) && fs::is_regular_file(KindOf(paths_.ToNative(path), path));
+  return paths_.Names(path) && KindOf(paths_.ToNative(path), path) == FileKind::kFile;
 }
 
 bool DiskFileSystem::FolderExists(const std::string& path) const {
-  return paths_.Names(path) && fs::is_directory(KindOf(paths_.ToNative(path), path));
+  return paths_.Names(path) && KindOf(paths_.ToNative(path), path) == FileKind::kFolder;
 }
 
 void DiskFileSystem::CreateFolder(const std::string& path) {
@@ -158,8 +143,8 @@ void DiskFileSystem::DeleteFile(const std::string& path) {
 void DiskFileSystem::MoveFile(const std::string& from, const std::string& to) {
   const fs::path source = paths_.ToNative(from);
   const fs::path target = paths_.ToNative(to);
-  if (!fs::exists(KindOf(source, from))) throw RunTimeError(ErrorNumber::kFileNotFound, from);
-  if (fs::exists(KindOf(target, to))) throw RunTimeError(ErrorNumber::kFileExists, to);
+  if (KindOf(source, from) == FileKind::kNone) throw RunTimeError(ErrorNumber::kFileNotFound, from);
+  if (KindOf(target, to) != FileKind::kNone) throw RunTimeError(ErrorNumber::kFileExists, to);
   MoveOver(source, target, to);
 }
 
@@ -168,13 +153,16 @@ DateTime DiskFileSystem::LastModified(const std::string& path) const {
 }
 
 std::vector<std::string> DiskFileSystem::ListFiles(const std::string& folder) const {
+  const fs::path native = paths_.ToNative(folder);
+  if (KindOf(native, folder) != FileKind::kFolder) throw RunTimeError(ErrorNumber::kPathNotFound, folder);
   std::error_code error;
   std::vector<std::string> names;
-  for (fs::directory_iterator it(paths_.ToNative(folder), error), end; !error && it != end;
-       it.increment(error)) {
-    if (it->is_regular_file()) names.push_back(Utf8Of(it->path().filename()));
+  for (fs::directory_iterator it(native, error), end; !error && it != end; it.increment(error)) {
+    // A name that leads nowhere, or to what may not be looked at, is no file of ours.
+    std::error_code ignored;
+    if (it->is_regular_file(ignored)) names.push_back(Utf8Of(it->path().filename()));
   }
-  if (error) throw RunTimeError(ErrorNumber::kPathNotFound, folder);
+  if (error) RaiseLookError(error, folder);
   std::sort(names.begin(), names.end());
   return names;
 }

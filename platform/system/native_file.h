@@ -44,10 +44,13 @@ public:
   void Stamp(std::chrono::system_clock::time_point moment);
   // Returns when the bytes are on the disk.
   void Flush();
+  // Gives the file, which has been flushed, the place of `target` and closes it.
+  void MoveOverAndClose(const std::filesystem::path& target);
+
+private:
   // Closes now, so that a failure is seen.
   void Close();
 
-private:
   // A descriptor of a POSIX system, a handle of Windows.
   using Handle = std::intptr_t;
   NativeFile(Handle handle, std::filesystem::path native, std::string path);
@@ -57,7 +60,12 @@ private:
   std::string path_;
 };
 
-// Raises what looking at a file or folder ended with.
+enum class FileKind { kNone, kFile, kFolder, kOther };
+// What lies there: nothing also for a name that no file can have. What cannot be looked at is an error:
+// whoever took it for missing would make a new one in its place.
+FileKind KindOf(const std::filesystem::path& native, const std::string& path);
+
+// Raises what the standard library's look at a file or folder ended with.
 [[noreturn]] void RaiseLookError(const std::error_code& error, const std::string& path);
 
 // Ends the names of files that are still being written.

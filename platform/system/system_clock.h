@@ -2,6 +2,7 @@
 #pragma once
 
 #include <chrono>
+#include <cstdint>
 #include <optional>
 
 #include "platform/date_time.h"
@@ -23,7 +24,12 @@ private:
 
 std::chrono::system_clock::time_point PresentMoment();
 
-// The moment in the system's time zone, and back. Error 6 for a date that the system cannot tell.
+// The moment that lies so many seconds after 1970-01-01T00:00:00 UTC. Error 6 for one beyond the clock's
+// range, which ends in the years 1677 and 2262.
+std::chrono::system_clock::time_point MomentAt(std::int64_t seconds);
+
+// The moment in the system's time zone, and back. Error 6 for a date that the system or its clock
+// cannot tell.
 DateTime LocalTimeOf(std::chrono::system_clock::time_point moment);
 std::chrono::system_clock::time_point MomentOf(const DateTime& local);
 

@@ -20,9 +20,7 @@ std::string SystemShellFolders::ProgramDataBelowRoot(bool create) const {
   std::error_code error;
   if (create) std::filesystem::create_directories(native, error);
   if (error) RaiseLookError(error, folder);
-  const std::filesystem::file_status status = std::filesystem::status(native, error);
-  if (status.type() == std::filesystem::file_type::none) RaiseLookError(error, folder);
-  return std::filesystem::is_directory(status) ? folder : "";
+  return KindOf(native, folder) == FileKind::kFolder ? folder : "";
 }
 
 SystemMachine::SystemMachine(const std::filesystem::path& root, const std::string& locale_name)

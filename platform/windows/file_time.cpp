@@ -3,6 +3,8 @@
 
 #include <cstdint>
 
+#include "platform/system/system_clock.h"
+
 namespace veritane::platform {
 
 namespace {
@@ -20,8 +22,10 @@ FILETIME FileTimeOf(std::chrono::system_clock::time_point moment) {
 
 std::chrono::system_clock::time_point MomentOf(FILETIME time) {
   const std::int64_t ticks = (std::int64_t{time.dwHighDateTime} << 32) | time.dwLowDateTime;
-  return std::chrono::system_clock::time_point(
-      std::chrono::duration_cast<std::chrono::system_clock::duration>(Ticks(ticks - kTicksToUnixEpoch)));
+  const Ticks since_epoch(ticks - kTicksToUnixEpoch);
+  const auto seconds = std::chrono::floor<std::chrono::seconds>(since_epoch);
+  return MomentAt(seconds.count()) +
+         std::chrono::duration_cast<std::chrono::system_clock::duration>(since_epoch - seconds);
 }
 
 }  // namespace veritane::platform

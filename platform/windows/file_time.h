@@ -8,6 +8,7 @@
 namespace veritane::platform {
 
 FILETIME FileTimeOf(std::chrono::system_clock::time_point moment);
+// Error 6 for a time that the clock cannot tell.
 std::chrono::system_clock::time_point MomentOf(FILETIME time);
 
 }  // namespace veritane::platform

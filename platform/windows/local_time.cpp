@@ -70,7 +70,7 @@ std::chrono::system_clock::time_point MomentOf(const DateTime& local) {
   if (!::TzSpecificLocalTimeToSystemTime(&rules, &time, &universal)) {
     throw RunTimeError(ErrorNumber::kOverflow, Text(TextId::kDate));
   }
-  return std::chrono::system_clock::time_point(std::chrono::seconds(WallClockSeconds(DateTimeOf(universal))));
+  return MomentAt(WallClockSeconds(DateTimeOf(universal)));
 }
 
 }  // namespace veritane::platform

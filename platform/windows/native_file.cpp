@@ -219,6 +219,32 @@ void NativeFile::Close() {
   if (!::CloseHandle(handle)) RaiseSystemError(::GetLastError(), path_);
 }
 
+// Not every file system lets an open file be moved.
+void NativeFile::MoveOverAndClose(const fs::path& target) {
+  Close();
+  MoveOver(native_, target, path_);
+}
+
+// The standard library's look takes what is refused, and a drive that is gone, for missing.
+FileKind KindOf(const fs::path& native, const std::string& path) {
+  const DWORD attributes = ::GetFileAttributesW(native.c_str());
+  if (attributes != INVALID_FILE_ATTRIBUTES) {
+    return (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0 ? FileKind::kFolder : FileKind::kFile;
+  }
+  switch (const DWORD code = ::GetLastError()) {
+    case ERROR_FILE_NOT_FOUND:
+    case ERROR_PATH_NOT_FOUND:
+    case ERROR_INVALID_DRIVE:
+    case ERROR_DIRECTORY:
+    case ERROR_INVALID_NAME:
+    case ERROR_BAD_PATHNAME:
+    case ERROR_FILENAME_EXCED_RANGE:
+      return FileKind::kNone;
+    default:
+      RaiseSystemError(code, path);
+  }
+}
+
 // The standard library gives codes of Windows, or those of its own where it asked the C library.
 void RaiseLookError(const std::error_code& error, const std::string& path) {
   if (error.category() == std::system_category()) RaiseSystemError(static_cast<DWORD>(error.value()), path);
