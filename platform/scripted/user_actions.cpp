@@ -123,13 +123,22 @@ bool TakesKeys(const Control& control) {
          control.Kind() != ControlKind::kChart;
 }
 
-// Presses the form's default or cancel button, when the user could.
-void PressButton(const Form& form, bool Button::*role) {
+// Presses the form's default or cancel button, when the user could; returns whether there was one to press.
+bool PressButton(const Form& form, bool Button::*role) {
   for (const Control* control : form.Controls()) {
     if (control->Kind() != ControlKind::kButton || !control->IsUsable()) continue;
     const auto& button = static_cast<const Button&>(*control);
-    if (button.*role) return button.Click();
+    if (!(button.*role)) continue;
+    button.Click();
+    return true;
   }
+  return false;
+}
+
+// Escape on a dialog without a button for it closes it as its system menu does.
+void Dismiss(Form& form) {
+  const bool is_main = form.Screen().Forms().front() == &form;
+  if (form.Shown() && !PressButton(form, &Button::isCancel) && !is_main) form.Close();
 }
 
 void FocusNext(const Control& control) {
@@ -196,7 +205,7 @@ void PressKeyNow(Control& control, int key) {
   if (key == kTabKey) return FocusNext(control);
   if (IsTextBox(control) && !TypeKey(static_cast<TextBox&>(control), key)) return;
   if (key == kEscapeKey) {
-    PressButton(control.Owner(), &Button::isCancel);
+    Dismiss(control.Owner());
   } else if (key == kEnterKey && control.Kind() != ControlKind::kButton) {
     PressButton(control.Owner(), &Button::isDefault);
   } else if (key == kEnterKey || (key == kSpaceKey && control.Kind() != ControlKind::kListBox)) {

@@ -26,9 +26,9 @@ void Highlight(Control& control, int start, int length);
 
 // Presses one key while the control has the focus: Enter, Escape, Tab, Backspace, Space, Up, Down or a single
 // character. Enter presses the button that has the focus, else the form's default button, unless a KeyPress
-// handler discards it or the box takes several lines; Escape presses the form's cancel button. Tab goes to
-// the next control that takes keys; Up and Down move through lists and grids. A key with no use there does
-// nothing.
+// handler discards it or the box takes several lines; Escape presses the form's cancel button, or closes a
+// form that has none, unless it is the main form. Tab goes to the next control that takes keys; Up and Down
+// move through lists and grids. A key with no use there does nothing.
 void PressKey(Control& control, const std::string& key);
 
 // Picks an entry of a list or combo box: by its text, or by "#" and its index unless the word was quoted.

@@ -158,6 +158,18 @@ TEST(Keys, EscapePressesTheCancelButton) {
   EXPECT_THAT(events.Refusals(), IsEmpty());
 }
 
+TEST(Keys, EscapeClosesAFormWithoutACancelButtonUnlessItIsTheMainForm) {
+  SampleRun sample;
+  sample.frmDialog.cmdCancel.isCancel = false;
+  sample.frmMain.cmdGo.OnClick = [&] { sample.frmDialog.ShowModal(); };
+  const Events events =
+      sample.Lines({"click frmMain.cmdGo", "key frmDialog.txtName Escape",
+                    [&] { EXPECT_FALSE(sample.frmDialog.Shown()); }, "key frmMain.txtNumber Escape"});
+  EXPECT_FALSE(sample.frmDialog.cancelled);
+  EXPECT_TRUE(sample.frmMain.Shown());
+  EXPECT_THAT(events.Refusals(), IsEmpty());
+}
+
 TEST(Keys, TabGoesToTheNextControlThatTakesKeys) {
   SampleRun sample;
   sample.frmMain.txtNotes.SetEnabled(false);
