@@ -61,7 +61,9 @@ void TypedTextView::OnChar(wxKeyEvent& event) {
 void TypedTextView::OnText() {
   const wxString text = entry_->GetValue();
   if (text == ShownText(box_.Text())) return;
-  if (!Perform([&] { PassText(FromWx(text)); })) ShowText();
+  Perform([&] { PassText(FromWx(text)); });
+  // The box may have refused the text, or dropped a part of it.
+  ShowText();
 }
 
 void TypedTextView::ShowText() {

@@ -100,6 +100,21 @@ TEST_F(WxControlsTest, PastedTextIsNotFiltered) {
   EXPECT_EQ(form_.box.Text(), "seven");
 }
 
+TEST_F(WxControlsTest, WhatTheBoxDropsOfAPastedTextIsNotOnScreenEither) {
+  form_.box.SetText("seven");
+  form_.changes.clear();
+  OpenEntry();
+  ASSERT_TRUE(wxTheClipboard->Open());
+  wxTheClipboard->SetData(new wxTextDataObject("\t\t"));
+  wxTheClipboard->Close();
+  Focus(form_.box);
+  Press(WXK_END);
+  Press('V', wxMOD_CONTROL);
+  EXPECT_EQ(Shown("box"), "seven");
+  EXPECT_EQ(form_.box.Text(), "seven");
+  EXPECT_THAT(form_.changes, ElementsAre());
+}
+
 TEST_F(WxControlsTest, TypingOverAHighlightedTextIsOneChange) {
   form_.box.SetText("90");
   form_.changes.clear();
@@ -272,7 +287,14 @@ TEST_F(WxControlsTest, ARunTimeErrorIsShownAndTheProgramGoesOn) {
 TEST_F(WxControlsTest, AnyOtherExceptionEndsTheProgramWithStatusOne) {
   form_.okay.OnClick = [] { throw std::logic_error("a fault of the program"); };
   OpenEntry();
+  std::string told;
+  Later([&] {
+    told = Widget("text")->GetLabel().utf8_string();
+    EXPECT_FALSE(ui_.Ended());
+    mouse_and_keys_.Char(WXK_RETURN);
+  });
   Click("okay");
+  EXPECT_EQ(told, "The program has to end: a fault of the program");
   EXPECT_TRUE(ui_.Ended());
   EXPECT_EQ(ui_.ExitStatus(), 1);
 }
