@@ -206,7 +206,7 @@ std::string FormatPattern(double number, std::string_view pattern) {
 }
 
 double RoundToTwoDecimals(double number) {
-  return LeadingNumber(FormatPattern(number, "0.##"));
+  return std::isfinite(number) ? LeadingNumber(FormatPattern(number, "0.##")) : number;
 }
 
 }  // namespace veritane::platform

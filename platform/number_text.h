@@ -36,7 +36,7 @@ double LeadingNumber(std::string_view text);
 // FormatPattern(0.0123, "#.######") is ".0123".
 std::string FormatPattern(double number, std::string_view pattern);
 
-// `number` rounded the way that "0.##" writes it, read back.
+// `number` rounded the way that "0.##" writes it, read back; one that is not finite as it is.
 double RoundToTwoDecimals(double number);
 
 }  // namespace veritane::platform

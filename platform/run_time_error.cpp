@@ -4,6 +4,7 @@
 #include <cmath>
 #include <limits>
 
+#include "platform/number_text.h"
 #include "platform/texts.h"
 
 namespace veritane::platform {
@@ -30,7 +31,7 @@ Integer ToInteger(double value) {
   const double rounded = std::nearbyint(value);
   if (!(rounded >= static_cast<double>(std::numeric_limits<Integer>::min()) &&
         rounded <= static_cast<double>(std::numeric_limits<Integer>::max()))) {
-    throw RunTimeError(ErrorNumber::kOverflow, std::to_string(value));
+    throw RunTimeError(ErrorNumber::kOverflow, PlainNumberText(value));
   }
   return static_cast<Integer>(rounded);
 }

@@ -47,6 +47,8 @@ TEST(NumberText, PatternsWriteThePointAlwaysAndRoundHalfAwayFromZero) {
   EXPECT_EQ(FormatPattern(0.25, "#0.####"), "0.25");
   EXPECT_EQ(RoundToTwoDecimals(99.996), 100);
   EXPECT_EQ(RoundToTwoDecimals(12), 12);
+  EXPECT_TRUE(std::isnan(RoundToTwoDecimals(std::nan("")))) << "what is no number is no 0";
+  EXPECT_EQ(RoundToTwoDecimals(-INFINITY), -INFINITY);
 }
 
 TEST(NumberText, OnlyAWholeDecimalNumberConverts) {
