@@ -54,7 +54,7 @@ void TextReader::RequireMore() const {
   if (AtEnd()) throw RunTimeError(ErrorNumber::kPastEndOfFile, source_);
 }
 
-// Where the next field begins, for an error's text.
+// The line that reading has come to, for an error's text.
 std::string TextReader::Place() const {
   const std::string line = std::to_string(line_);
   return source_.empty() ? Text(TextId::kLine, {line}) : Text(TextId::kLineOfFile, {source_, line});
@@ -75,6 +75,21 @@ std::string TextReader::ReadLine() {
   return line;
 }
 
+std::string TextReader::ReadQuoted() {
+  const std::size_t begin = position_ + 1;
+  const std::size_t end = text_.find('"', begin);
+  // All that follows would be one field.
+  if (end == std::string::npos) {
+    throw RunTimeError(ErrorNumber::kTypeMismatch, Text(TextId::kQuoteNotClosed, {Place()}));
+  }
+  for (std::size_t at = begin; at < end; ++at) {
+    const bool is_first_of_two = text_[at] == '\r' && text_[at + 1] == '\n';
+    if (IsLineEnd(text_[at]) && !is_first_of_two) ++line_;
+  }
+  position_ = end + 1;
+  return text_.substr(begin, end - begin);
+}
+
 std::string TextReader::ReadField() {
   RequireMore();
   const auto skip_blanks = [this] {
@@ -83,10 +98,7 @@ std::string TextReader::ReadField() {
   skip_blanks();
   std::string field;
   if (position_ < text_.size() && text_[position_] == '"') {
-    const std::size_t begin = ++position_;
-    while (position_ < text_.size() && text_[position_] != '"') ++position_;
-    field = text_.substr(begin, position_ - begin);
-    if (position_ < text_.size()) ++position_;
+    field = ReadQuoted();
     skip_blanks();
   } else {
     const std::size_t begin = position_;

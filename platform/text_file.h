@@ -30,7 +30,7 @@ public:
   // The next line without its end. Error 62 at the end of the file.
   std::string ReadLine();
   // The next field, blanks around it dropped, a double-quoted one whole. Error 62 at the end of the file, 13
-  // for text behind a closing quote.
+  // for text behind a closing quote and for a quote that is never closed.
   std::string ReadField();
   // The next field as a number: rounded half to even for integers. Error 13 when the field is no number, 6
   // when it does not fit.
@@ -38,6 +38,7 @@ public:
   double ReadDouble();
 
 private:
+  std::string ReadQuoted();
   void SkipLineEnd();
   void RequireMore() const;
   std::string Place() const;

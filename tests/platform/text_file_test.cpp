@@ -42,6 +42,19 @@ TEST(TextFile, AFieldThatIsNoNumberIsATypeMismatchAndATooLargeOneAnOverflow) {
   EXPECT_EQ(half.ReadInt16(), 4);
 }
 
+TEST(TextFile, LinesInsideAQuotedFieldCountAndAQuoteThatIsNeverClosedIsATypeMismatch) {
+  TextReader reader("\"one\r\ntwo\rthree\nfour\",2\r\nx\r\n \"P1,2\r\n3\r\n", "Meth.tbl");
+  EXPECT_EQ(reader.ReadField(), "one\r\ntwo\rthree\nfour");
+  EXPECT_EQ(reader.ReadInt16(), 2);
+  try {
+    reader.ReadInt16();
+    ADD_FAILURE() << "\"x\" is no number";
+  } catch (const RunTimeError& error) {
+    EXPECT_EQ(error.what(), std::string("Type mismatch: Meth.tbl, line 5: \"x\" is not a number"));
+  }
+  EXPECT_EQ(ErrorOf([&] { reader.ReadField(); }), 13);
+}
+
 TEST(TextFile, BytesThatAreNotUtf8AreReadAsWindows1252) {
   EXPECT_EQ(DecodeText("Z\xFCrich \x80"), "Zürich €");
   EXPECT_EQ(DecodeText("Zürich"), "Zürich");
