@@ -35,9 +35,9 @@ public:
 
 std::unique_ptr<AutomationServer> SystemAutomationServer();
 
-// Names `command_line` as what starts the server of this class: for everybody, or for the current user where
-// the system refuses that. Error 440 when the registry cannot be written, and when the ProgID belongs to
-// another class: that program is not pushed aside.
+// Names `command_line` as what starts the server of this class: for everybody, in the place of what the
+// current user alone had, or for the current user where the system refuses that. Error 440 when the registry
+// cannot be written, and when the ProgID belongs to another class: that program is not pushed aside.
 void RegisterServer(const ServedClass& served, const std::string& command_line);
 
 // Takes back all that RegisterServer wrote; nothing there is no error.

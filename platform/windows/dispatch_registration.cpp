@@ -85,11 +85,18 @@ void RegisterServer(const ServedClass& served, const std::string& command_line) 
       throw RunTimeError(kAutomationError, Text(TextId::kClassOfAnother, {served.progId, owner, hive.name}));
     }
   }
-  if (WriteAll(kHives[0].root, served, command_line) == ERROR_SUCCESS) return;
-  // What was written before the refusal does not stay.
-  DeleteAll(kHives[0].root, served);
-  const LSTATUS status = WriteAll(kHives[1].root, served, command_line);
-  if (status != ERROR_SUCCESS) ThrowUnwritable(kHives[1], status);
+  const Hive& everybody = kHives[0];
+  const Hive& user = kHives[1];
+  LSTATUS status = WriteAll(everybody.root, served, command_line);
+  if (status == ERROR_SUCCESS) {
+    // An older registration of the user's own would stay in force.
+    status = DeleteAll(user.root, served);
+  } else {
+    // What was written before the refusal does not stay.
+    DeleteAll(everybody.root, served);
+    status = WriteAll(user.root, served, command_line);
+  }
+  if (status != ERROR_SUCCESS) ThrowUnwritable(user, status);
 }
 
 void UnregisterServer(const ServedClass& served) {

@@ -9,12 +9,8 @@ namespace {
 
 class OpenKey {
 public:
-  explicit OpenKey(const std::string& key) {
-    if (::RegOpenKeyA(HKEY_LOCAL_MACHINE, key.c_str(), &handle_) != ERROR_SUCCESS) handle_ = nullptr;
-    if (handle_ != nullptr) return;
-    // Programs of 32 bits, as the spectrometer's are, have keys of their own, which one of 64 bits has to ask
-    // for.
-    if (::RegOpenKeyExA(HKEY_LOCAL_MACHINE, key.c_str(), 0, KEY_READ | KEY_WOW64_32KEY, &handle_) !=
+  OpenKey(const std::string& key, REGSAM view) {
+    if (::RegOpenKeyExA(HKEY_LOCAL_MACHINE, key.c_str(), 0, KEY_QUERY_VALUE | view, &handle_) !=
         ERROR_SUCCESS) {
       handle_ = nullptr;
     }
@@ -31,11 +27,8 @@ private:
   HKEY handle_ = nullptr;
 };
 
-}  // namespace
-
-std::optional<std::uint32_t> WindowsRegistry::ReadDword(const std::string& key,
-                                                        const std::string& value) const {
-  const OpenKey open(key);
+std::optional<std::uint32_t> DwordIn(const std::string& key, const std::string& value, REGSAM view) {
+  const OpenKey open(key, view);
   if (open.Handle() == nullptr) return std::nullopt;
   DWORD type = REG_NONE;
   if (::RegQueryValueExA(open.Handle(), value.c_str(), nullptr, &type, nullptr, nullptr) != ERROR_SUCCESS ||
@@ -49,6 +42,16 @@ std::optional<std::uint32_t> WindowsRegistry::ReadDword(const std::string& key,
     return std::nullopt;
   }
   return number;
+}
+
+}  // namespace
+
+std::optional<std::uint32_t> WindowsRegistry::ReadDword(const std::string& key,
+                                                        const std::string& value) const {
+  if (const auto own = DwordIn(key, value, 0)) return own;
+  // Programs of 32 bits, as the spectrometer's are, have keys of their own, which one of 64 bits has to ask
+  // for.
+  return DwordIn(key, value, KEY_WOW64_32KEY);
 }
 
 }  // namespace veritane::platform

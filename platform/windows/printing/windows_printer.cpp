@@ -79,7 +79,12 @@ void WindowsPrinter::Print(Printout& printout) const {
   DOCINFOW document{};
   document.cbSize = sizeof document;
   document.lpszDocName = title.c_str();
-  if (::StartDocW(device.Handle(), &document) <= 0) RaisePrinterError(name_);
+  if (::StartDocW(device.Handle(), &document) <= 0) {
+    // Whoever closes the driver's own box, as for a file's name, has changed his mind.
+    const DWORD code = ::GetLastError();
+    if (code == ERROR_CANCELLED || code == ERROR_PRINT_CANCELLED) return;
+    RaisePrinterError(name_);
+  }
   const auto require = [this](int answer) {
     if (answer <= 0) RaisePrinterError(name_);
   };

@@ -13,7 +13,8 @@ public:
   // Nothing where no default printer is installed.
   static std::optional<WindowsPrinter> Default();
 
-  // Error 57, with the printer's name, when it does not take the document.
+  // Error 57, with the printer's name, when it does not take the document. A print that the user gives up in
+  // a box of the driver is none.
   void Print(Printout& printout) const;
 
 private:
