@@ -6,6 +6,7 @@
 #include <ctime>
 
 #include "platform/run_time_error.h"
+#include "platform/text_file.h"
 #include "platform/texts.h"
 
 namespace veritane::platform {
@@ -34,7 +35,8 @@ public:
     broken.tm_isdst = -1;
     std::array<char, 256> buffer{};
     const std::size_t length = ::strftime_l(buffer.data(), buffer.size(), pattern, &broken, locale_);
-    return std::string(buffer.data(), length);
+    // A locale may write in another code than UTF-8.
+    return DecodeText({buffer.data(), length});
   }
 
 private:
