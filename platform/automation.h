@@ -75,8 +75,8 @@ struct AutomationWaiting {
   // answer.
   std::string pendingText;
   // How long an answer may take.
-  std::int32_t pendingMilliseconds = 0;
-  std::int32_t busyMilliseconds = 0;
+  std::int32_t pendingMilliseconds = 999'999'999;
+  std::int32_t busyMilliseconds = 10'000;
 };
 
 // The system's automation.

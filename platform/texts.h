@@ -21,7 +21,7 @@ enum class TextId : int {
   kNoAutomationText = 2511,
   kNoAutomationNumber = 2512,
   kNoAutomationArray = 2513,
-  kArrayOfArrays = 2514,
+  kArrayOfDimensions = 2514,
   kArrayWithoutNumbers = 2515,
   kNoAutomationInterface = 2516,
   kUselessAutomationValue = 2517,

@@ -37,11 +37,6 @@ bool MeansServerGone(HRESULT result) {
   }
 }
 
-bool MeansServerBusy(HRESULT result) {
-  return result == RPC_E_CALL_REJECTED || result == RPC_E_SERVERCALL_RETRYLATER ||
-         result == RPC_E_SERVERCALL_REJECTED;
-}
-
 // The part of a text that the system has given away.
 std::string Taken(BSTR& text) {
   std::string taken = Utf8Text({text, SysStringLen(text)});
@@ -59,6 +54,11 @@ constexpr HRESULT kUpperHalf = static_cast<HRESULT>(0xFFFF0000);
 std::string SystemText(HRESULT result) {
   const std::string words = SystemWords(static_cast<DWORD>(result));
   return words.empty() ? Hexadecimal(result) : words + " (" + Hexadecimal(result) + ")";
+}
+
+bool MeansServerBusy(HRESULT result) {
+  return result == RPC_E_CALL_REJECTED || result == RPC_E_SERVERCALL_RETRYLATER ||
+         result == RPC_E_SERVERCALL_REJECTED;
 }
 
 RunTimeError ErrorOfCall(HRESULT result, const std::string& member) {

@@ -58,7 +58,7 @@ AutomationArray FromArray(SAFEARRAY* array, VARTYPE type, ObjectExchange& object
   LONG upper = -1;
   if (array == nullptr || SafeArrayGetDim(array) != 1 || FAILED(SafeArrayGetLBound(array, 1, &lower)) ||
       FAILED(SafeArrayGetUBound(array, 1, &upper))) {
-    throw RunTimeError(ErrorNumber::kTypeMismatch, Text(TextId::kArrayOfArrays));
+    throw RunTimeError(ErrorNumber::kTypeMismatch, Text(TextId::kArrayOfDimensions));
   }
   const long long count = static_cast<long long>(upper) - lower + 1;
   AutomationArray result{lower, std::vector<double>(static_cast<std::size_t>(std::max(count, 0LL)))};

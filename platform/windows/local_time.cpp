@@ -4,15 +4,11 @@
 #include "platform/run_time_error.h"
 #include "platform/system/system_clock.h"
 #include "platform/texts.h"
-#include "platform/windows/file_time.h"
+#include "platform/windows/windows_time.h"
 
 namespace veritane::platform {
 
 namespace {
-
-WORD Word(int number) {
-  return static_cast<WORD>(number);
-}
 
 DateTime DateTimeOf(const SYSTEMTIME& time) {
   return {.year = time.wYear,
@@ -21,17 +17,6 @@ DateTime DateTimeOf(const SYSTEMTIME& time) {
           .hour = time.wHour,
           .minute = time.wMinute,
           .second = time.wSecond};
-}
-
-SYSTEMTIME SystemTimeOf(const DateTime& moment) {
-  SYSTEMTIME time{};
-  time.wYear = Word(moment.year);
-  time.wMonth = Word(moment.month);
-  time.wDay = Word(moment.day);
-  time.wHour = Word(moment.hour);
-  time.wMinute = Word(moment.minute);
-  time.wSecond = Word(moment.second);
-  return time;
 }
 
 // The rules of the system's time zone in this year.

@@ -6,6 +6,7 @@
 #include "platform/automation_waiting.h"
 #include "platform/run_time_error.h"
 #include "platform/texts.h"
+#include "platform/windows/dispatch_error.h"
 
 namespace veritane::platform {
 
@@ -29,11 +30,6 @@ bool KeepDrawn() {
     DispatchMessageW(&message);
   }
   return input;
-}
-
-bool IsRefusal(HRESULT result) {
-  return result == RPC_E_CALL_REJECTED || result == RPC_E_SERVERCALL_RETRYLATER ||
-         result == RPC_E_SERVERCALL_REJECTED;
 }
 
 }  // namespace
@@ -97,10 +93,7 @@ private:
   ShowWaiting show_;
   bool shown_ = false;
   // What holds until the program has set its own.
-  AutomationWaiting waiting_{.busyServerRaisesError = true,
-                             .pendingText = Text(TextId::kWaitingForServer),
-                             .pendingMilliseconds = 999999999,
-                             .busyMilliseconds = 10000};
+  AutomationWaiting waiting_{.pendingText = Text(TextId::kWaitingForServer)};
 };
 
 AutomationThread::AutomationThread(ShowWaiting show) {
@@ -128,7 +121,7 @@ void AutomationThread::SetWaiting(const AutomationWaiting& waiting) {
 HRESULT AutomationThread::Carry(const std::function<HRESULT()>& call) {
   const ULONGLONG start = GetTickCount64();
   HRESULT result = call();
-  while (IsRefusal(result)) {
+  while (MeansServerBusy(result)) {
     const auto delay = RetryDelay(filter_->Waiting(), static_cast<std::int64_t>(GetTickCount64() - start));
     if (!delay) break;
     filter_->ShowText();

@@ -8,7 +8,7 @@
 #include <utility>
 
 #include "platform/run_time_error.h"
-#include "platform/windows/file_time.h"
+#include "platform/windows/windows_time.h"
 
 namespace veritane::platform {
 

@@ -9,22 +9,11 @@
 #include "platform/run_time_error.h"
 #include "platform/texts.h"
 #include "platform/windows/system_text.h"
+#include "platform/windows/windows_time.h"
 
 namespace veritane::platform {
 
 namespace {
-
-SYSTEMTIME SystemTimeOf(const DateTime& moment) {
-  SYSTEMTIME time{};
-  time.wYear = static_cast<WORD>(moment.year);
-  time.wMonth = static_cast<WORD>(moment.month);
-  time.wDay = static_cast<WORD>(moment.day);
-  time.wDayOfWeek = static_cast<WORD>(DayOfWeek(moment));
-  time.wHour = static_cast<WORD>(moment.hour);
-  time.wMinute = static_cast<WORD>(moment.minute);
-  time.wSecond = static_cast<WORD>(moment.second);
-  return time;
-}
 
 // "de_DE.UTF-8" is "de-DE" here.
 std::wstring WindowsName(const std::string& locale_name) {

@@ -9,7 +9,7 @@
 // Behind the program's own headers, whose names its macros would change.
 #include <windows.h>
 
-#include "platform/windows/file_time.h"
+#include "platform/windows/windows_time.h"
 
 namespace veritane::platform {
 namespace {

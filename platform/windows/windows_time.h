@@ -1,14 +1,19 @@
-// Windows' own count of time, in which its clock and its files tell moments.
+// Windows' own times: the count in which its clock and its files tell moments, and moments in parts.
 #pragma once
 
 #include <windows.h>
 
 #include <chrono>
 
+#include "platform/date_time.h"
+
 namespace veritane::platform {
 
 FILETIME FileTimeOf(std::chrono::system_clock::time_point moment);
 // Error 6 for a time that the clock cannot tell.
 std::chrono::system_clock::time_point MomentOf(FILETIME time);
+
+// The same moment in the system's parts, with the day of the week.
+SYSTEMTIME SystemTimeOf(const DateTime& moment);
 
 }  // namespace veritane::platform

@@ -1,5 +1,5 @@
-// Tenths of microseconds from the year 1601.
-#include "platform/windows/file_time.h"
+// Tenths of microseconds from the year 1601, and moments in parts.
+#include "platform/windows/windows_time.h"
 
 #include <cstdint>
 
@@ -26,6 +26,18 @@ std::chrono::system_clock::time_point MomentOf(FILETIME time) {
   const auto seconds = std::chrono::floor<std::chrono::seconds>(since_epoch);
   return MomentAt(seconds.count()) +
          std::chrono::duration_cast<std::chrono::system_clock::duration>(since_epoch - seconds);
+}
+
+SYSTEMTIME SystemTimeOf(const DateTime& moment) {
+  SYSTEMTIME time{};
+  time.wYear = static_cast<WORD>(moment.year);
+  time.wMonth = static_cast<WORD>(moment.month);
+  time.wDay = static_cast<WORD>(moment.day);
+  time.wDayOfWeek = static_cast<WORD>(DayOfWeek(moment));
+  time.wHour = static_cast<WORD>(moment.hour);
+  time.wMinute = static_cast<WORD>(moment.minute);
+  time.wSecond = static_cast<WORD>(moment.second);
+  return time;
 }
 
 }  // namespace veritane::platform
