@@ -26,6 +26,12 @@ bool HasForm(std::string_view text, std::string_view form) {
                     [](char c, char place) { return place == '0' ? c >= '0' && c <= '9' : c == place; });
 }
 
+std::string Digits(int number, std::size_t width) {
+  std::string digits = std::to_string(number);
+  if (digits.size() < width) digits.insert(0, width - digits.size(), '0');
+  return digits;
+}
+
 int NumberIn(std::string_view digits) {
   int number = 0;
   std::from_chars(digits.data(), digits.data() + digits.size(), number);
@@ -73,6 +79,12 @@ std::optional<DateTime> ParseIsoDateTime(std::string_view text) {
   const bool time_is_real = moment.hour < 24 && moment.minute < 60 && moment.second < 60;
   if (!date.ok() || !time_is_real) return std::nullopt;
   return moment;
+}
+
+std::string MomentText(const DateTime& moment, char date_mark, char between, char time_mark) {
+  return Digits(moment.year, 4) + date_mark + Digits(moment.month, 2) + date_mark + Digits(moment.day, 2) +
+         between + Digits(moment.hour, 2) + time_mark + Digits(moment.minute, 2) + time_mark +
+         Digits(moment.second, 2);
 }
 
 }  // namespace veritane::platform

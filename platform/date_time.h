@@ -5,6 +5,7 @@
 #include <compare>
 #include <cstdint>
 #include <optional>
+#include <string>
 #include <string_view>
 
 namespace veritane::platform {
@@ -36,6 +37,9 @@ std::int64_t HourBoundaries(const DateTime& from, const DateTime& to);
 
 // Reads "2026-11-21T10:59:00" (seconds may be missing); nothing when the text is no such date.
 std::optional<DateTime> ParseIsoDateTime(std::string_view text);
+
+// "2026-11-21 10:59:00" with other marks: MomentText(moment, '-', ' ', ':') is this one.
+std::string MomentText(const DateTime& moment, char date_mark, char between, char time_mark);
 
 // The program's only source of time.
 class Clock {

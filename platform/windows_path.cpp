@@ -42,6 +42,14 @@ std::string UpperCase(std::string_view text) {
       c -= 32;
     } else if ((c >= 0x3B1 && c <= 0x3CB && c != 0x3C2) || (c >= 0x430 && c <= 0x44F)) {
       c -= 32;
+    } else if (c == 0x3AC) {
+      c = 0x386;
+    } else if (c >= 0x3AD && c <= 0x3AF) {
+      c -= 37;
+    } else if (c == 0x3CC) {
+      c = 0x38C;
+    } else if (c == 0x3CD || c == 0x3CE) {
+      c -= 63;
     } else if (c >= 0x450 && c <= 0x45F) {
       c -= 80;
     } else if (c == 0xFF) {
@@ -73,7 +81,7 @@ std::string WhyNotAFileName(std::string_view name) {
   if (name == "." || name == "..") return Text(TextId::kNameIsForbidden, {name});
   for (const char& c : name) {
     if (static_cast<unsigned char>(c) < 0x20 || c == 0x7F) return Text(TextId::kNameHoldsControlCharacter);
-    if (std::string_view("\\/:*?\"<>|").find(c) != std::string_view::npos) {
+    if (kForbiddenInNames.find(c) != std::string_view::npos) {
       return Text(TextId::kNameHoldsCharacter, {std::string_view(&c, 1)});
     }
   }

@@ -17,6 +17,9 @@ std::string FolderOf(std::string_view path);
 // as they are. Used wherever names are compared without regard to case.
 std::string UpperCase(std::string_view text);
 
+// What no name of a file holds, beside control characters.
+inline constexpr std::string_view kForbiddenInNames = "\\/:*?\"<>|";
+
 // Why a text cannot be the name of a file, as a sentence for the user, or "" when it can: empty, "." or "..",
 // one of \ / : * ? " < > |, a control character, a trailing blank or point, a reserved device name.
 std::string WhyNotAFileName(std::string_view name);

@@ -3,8 +3,6 @@
 
 #include <cairo-pdf.h>
 
-#include <array>
-#include <cstdio>
 #include <exception>
 
 #include "platform/pdf/cairo_drawing.h"
@@ -17,13 +15,6 @@ namespace {
 
 // The largest page that PDF 1.x readers open.
 constexpr double kLargestSide = 200 * kPointsPerInch;
-
-std::string IsoText(const DateTime& moment) {
-  std::array<char, 80> text{};
-  std::snprintf(text.data(), text.size(), "%04d-%02d-%02dT%02d:%02d:%02d", moment.year, moment.month,
-                moment.day, moment.hour, moment.minute, moment.second);
-  return text.data();
-}
 
 cairo_status_t Append(void* bytes, const unsigned char* data, unsigned int length) {
   try {
@@ -54,7 +45,7 @@ public:
     cairo_pdf_surface_set_metadata(surface_.get(), CAIRO_PDF_METADATA_TITLE,
                                    Printable(description.title).c_str());
     cairo_pdf_surface_set_metadata(surface_.get(), CAIRO_PDF_METADATA_CREATE_DATE,
-                                   IsoText(description.created).c_str());
+                                   MomentText(description.created, '-', 'T', ':').c_str());
   }
 
   DrawingContext& Drawing() { return drawing_; }

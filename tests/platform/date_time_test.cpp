@@ -37,6 +37,11 @@ TEST(DateTime, SecondsAndBackGiveTheSameMoment) {
   EXPECT_EQ(DayOfWeek(At("2026-11-21T00:00")), 6) << "a Saturday";
 }
 
+TEST(DateTime, MomentsAreWrittenWithTheMarksAskedForAndAllTheirDigits) {
+  EXPECT_EQ(MomentText(At("2026-11-21T10:59:00"), '-', ' ', '-'), "2026-11-21 10-59-00");
+  EXPECT_EQ(MomentText(At("0026-01-02T03:04:05"), '/', 'T', ':'), "0026/01/02T03:04:05");
+}
+
 TEST(DateTime, OnlyRealMomentsAreRead) {
   for (const char* text : {"",
                            "2026-11-21",
