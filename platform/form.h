@@ -3,12 +3,16 @@
 
 #include <functional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace veritane::platform {
 
 class Control;
 class Desktop;
+
+// The form that tells what the program is doing: it comes and goes with the work.
+inline constexpr std::string_view kStatusForm = "frmStatus";
 
 class Form {
 public:

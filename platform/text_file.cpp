@@ -19,8 +19,6 @@ constexpr std::array<char16_t, 32> kWindows1252{
     0x2039, 0x0152, 0x8D,   0x017D, 0x8F,   0x90,   0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
     0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x9D,   0x017E, 0x0178};
 
-constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
-
 bool IsBlank(char c) {
   return c == ' ' || c == '\t';
 }
@@ -31,7 +29,8 @@ bool IsLineEnd(char c) {
 }  // namespace
 
 std::string DecodeText(std::string_view bytes) {
-  if (IsUtf8(bytes)) return std::string(bytes.starts_with(kByteOrderMark) ? bytes.substr(3) : bytes);
+  if (IsUtf8(bytes))
+    return std::string(bytes.starts_with(kByteOrderMark) ? bytes.substr(kByteOrderMark.size()) : bytes);
   std::string text;
   text.reserve(bytes.size() + bytes.size() / 8);
   for (const char c : bytes) {

@@ -6,6 +6,9 @@
 
 namespace veritane::platform {
 
+// What some programs begin a file with; it is no text.
+inline constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+
 std::size_t CharacterCount(std::string_view text);
 
 // At most `length` characters from position `start`, counted from 0; "" when the text ends before.

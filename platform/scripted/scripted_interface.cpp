@@ -9,6 +9,7 @@
 #include "platform/run_time_error.h"
 #include "platform/scripted/control_report.h"
 #include "platform/texts.h"
+#include "platform/utf8.h"
 
 namespace veritane::platform {
 
@@ -16,11 +17,8 @@ using nlohmann::ordered_json;
 
 namespace {
 
-constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
-
 // The line of the status window is reported by itself, each time it comes on screen and when it changes
 // there.
-const std::string kStatusForm = "frmStatus";
 const std::string kStatusLabel = "lblStatus";
 
 const char* KindText(PrintKind kind) {

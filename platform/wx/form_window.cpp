@@ -50,7 +50,7 @@ FormWindow::FormWindow(Form& form, ActionGate& gate, wxWindow* main_window)
     : form_(form),
       gate_(gate),
       is_main_(main_window == nullptr),
-      is_status_(form.Name() == "frmStatus"),
+      is_status_(form.Name() == kStatusForm),
       window_(MakeWindow(form, is_status_, main_window)),
       root_(new wxPanel(window_)),
       alive_(std::make_shared<FormWindow*>(this)) {
