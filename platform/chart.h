@@ -1,5 +1,5 @@
-// A two-dimensional chart: series over an x axis and two y axes, text labels, header and footer lines,
-// markers and marked bands. It holds what is to be seen; chart_drawing.h draws it.
+// A two-dimensional chart: series over an x axis and two y axes, text labels, header lines, markers and
+// marked bands. It holds what is to be seen; chart_drawing.h draws it.
 #pragma once
 
 #include <array>

@@ -1,4 +1,4 @@
-// What a chart needs of a surface to be drawn on: a window, a picture, a printed page.
+// What drawing needs of a surface: a window, a picture, a printed page.
 #pragma once
 
 #include <cstdint>

@@ -17,7 +17,8 @@ namespace veritane::platform {
 class AppendingFile {
 public:
   virtual ~AppendingFile() = default;
-  // Appends the bytes and hands them to the system. Errors 61, 71, 75.
+  // Appends the bytes and hands them to the system. Errors 57, 61, 70, 71, 75, and 76 where its
+  // folder is gone.
   virtual void Append(std::string_view bytes) = 0;
 };
 
@@ -27,9 +28,10 @@ public:
   virtual ~TakenFile() = default;
 };
 
-// All operations raise RunTimeError 52 for a path that names nothing, 53 for a missing file, 76 for a missing
-// folder, 70 or 75 where access is refused, 61 for a full disk, 57 for a device fault, 71 for a
-// network drive that is gone.
+// All operations raise RunTimeError 52 for a path that names nothing, 53 for a missing file or one to be read
+// in a missing folder, 76 for a missing folder to list or to write in, 70 or 75 where access is refused, 61
+// for a full disk, 57 for a device fault, 71 for a network drive that is gone. Questions take a path that no
+// file can have for missing.
 class FileSystem {
 public:
   virtual ~FileSystem() = default;

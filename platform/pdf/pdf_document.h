@@ -26,8 +26,7 @@ public:
   void NextPage();
 
   // Ends the last page and hands over the file's bytes. Nothing can be drawn from then on: a second call is
-  // error
-  // 5. Error 57 when the page could not be made.
+  // error 5. Error 57 when the page could not be made.
   std::string Finish();
 
 private:

@@ -1,6 +1,7 @@
 // Windows paths mapped onto those of a POSIX system.
 #include "platform/system/path_map.h"
 
+#include <algorithm>
 #include <cstdlib>
 
 #include "platform/run_time_error.h"

@@ -9,7 +9,7 @@ namespace veritane::platform {
 
 namespace {
 
-constexpr std::string_view kLettersAndDigits =
+constexpr std::string_view kUniqueCharacters =
     "-0123456789ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz";
 
 }  // namespace
@@ -18,7 +18,7 @@ constexpr std::string_view kLettersAndDigits =
 bool IsNameOfUnfinished(const std::filesystem::path& name) {
   const std::string unique = Utf8Of(name.stem().extension());
   return Utf8Of(name.extension()) == kUnfinished && unique.size() > 1 &&
-         unique.find_first_not_of(kLettersAndDigits, 1) == std::string::npos && !name.stem().stem().empty();
+         unique.find_first_not_of(kUniqueCharacters, 1) == std::string::npos && !name.stem().stem().empty();
 }
 
 NativeFile::NativeFile(Handle handle, std::filesystem::path native, std::string path)
