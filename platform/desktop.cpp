@@ -8,6 +8,22 @@
 
 namespace veritane::platform {
 
+std::vector<MessageAnswer> ButtonsOf(MessageButtons buttons) {
+  switch (buttons) {
+    case MessageButtons::kOkCancel:
+      return {MessageAnswer::kOk, MessageAnswer::kCancel};
+    case MessageButtons::kYesNo:
+      return {MessageAnswer::kYes, MessageAnswer::kNo};
+    case MessageButtons::kOk:
+      break;
+  }
+  return {MessageAnswer::kOk};
+}
+
+MessageAnswer QuietAnswer(MessageButtons buttons) {
+  return ButtonsOf(buttons).back();
+}
+
 void Desktop::Perform(const std::function<void()>& action) {
   if (ended_) return;
   const Restore restore = snapshot_ ? snapshot_() : Restore();
@@ -58,6 +74,10 @@ Form* Desktop::Find(const std::string& form_name) const {
     if (UpperCase(form->Name()) == wanted) return form;
   }
   return nullptr;
+}
+
+Form* Desktop::FrontModalForm() const {
+  return modal_forms_.empty() || !modal_forms_.back()->Shown() ? nullptr : modal_forms_.back();
 }
 
 bool Desktop::IsBlocked(const Form& form) const {

@@ -26,6 +26,11 @@ struct Message {
   MessageButtons buttons = MessageButtons::kOk;
 };
 
+// The buttons of a box from left to right.
+std::vector<MessageAnswer> ButtonsOf(MessageButtons buttons);
+// The answer where nobody is asked: the one that changes nothing.
+MessageAnswer QuietAnswer(MessageButtons buttons);
+
 struct FileChoice {
   std::string title;
   // "(*.clm)|*.clm": a description and a pattern, joined by "|".
@@ -102,6 +107,8 @@ public:
   const std::vector<Form*>& Forms() const { return forms_; }
   // Names are compared without regard to case; nullptr when there is none of this name.
   Form* Find(const std::string& form_name) const;
+  // The modal form that lies over all others, nullptr when there is none on screen.
+  Form* FrontModalForm() const;
   // Whether a modal form lies over `form`.
   bool IsBlocked(const Form& form) const;
 

@@ -172,7 +172,7 @@ ordered_json DescribeScreen(const Desktop& desktop) {
 
 ordered_json MessageEvent(const Message& message) {
   ordered_json buttons = ordered_json::array();
-  for (const MessageAnswer button : ButtonsOf(message)) buttons.push_back(ButtonText(button));
+  for (const MessageAnswer button : ButtonsOf(message.buttons)) buttons.push_back(ButtonText(button));
   return {{"event", "message"},
           {"title", message.title},
           {"text", message.text},
@@ -215,18 +215,6 @@ std::string ButtonText(MessageAnswer button) {
       break;
   }
   return "No";
-}
-
-std::vector<MessageAnswer> ButtonsOf(const Message& message) {
-  switch (message.buttons) {
-    case MessageButtons::kOkCancel:
-      return {MessageAnswer::kOk, MessageAnswer::kCancel};
-    case MessageButtons::kYesNo:
-      return {MessageAnswer::kYes, MessageAnswer::kNo};
-    case MessageButtons::kOk:
-      break;
-  }
-  return {MessageAnswer::kOk};
 }
 
 }  // namespace veritane::platform

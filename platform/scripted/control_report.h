@@ -34,8 +34,7 @@ nlohmann::ordered_json FormEvent(const Form& form);
 std::string DialogName(const Message& message);
 std::string DialogName(const FileChoice& choice);
 
-// What a message box's button says, e.g. "OK", and the buttons of a box from left to right.
+// What a message box's button says, e.g. "OK".
 std::string ButtonText(MessageAnswer button);
-std::vector<MessageAnswer> ButtonsOf(const Message& message);
 
 }  // namespace veritane::platform

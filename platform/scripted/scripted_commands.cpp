@@ -94,7 +94,7 @@ void ScriptedInterface::Start() {
 void ScriptedInterface::Answer(const std::string& button) {
   if (message_ == nullptr) throw RefusedLine("There is no message box to answer.");
   std::string buttons;
-  for (const MessageAnswer known : ButtonsOf(*message_)) {
+  for (const MessageAnswer known : ButtonsOf(message_->buttons)) {
     if (UpperCase(ButtonText(known)) == UpperCase(button)) {
       answer_ = known;
       return;

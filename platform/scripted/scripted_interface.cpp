@@ -178,7 +178,7 @@ void ScriptedInterface::RunModal(Form& form) {
 MessageAnswer ScriptedInterface::ShowMessage(const Message& message) {
   Emit(MessageEvent(message));
   // Nobody is there any more to agree to anything.
-  if (desktop_ != nullptr && desktop_->Ended()) return ButtonsOf(message).back();
+  if (desktop_ != nullptr && desktop_->Ended()) return QuietAnswer(message.buttons);
   answer_.reset();
   message_ = &message;
   while (!answer_) PlayForDialog(DialogName(message));

@@ -43,7 +43,4 @@ void GoToRow(Control& control, int row);
 // Closes a form by its system menu.
 void Close(Form& form);
 
-// The modal form that lies over the other forms, nullptr when there is none.
-const Form* FrontModalForm(const Desktop& desktop);
-
 }  // namespace veritane::platform

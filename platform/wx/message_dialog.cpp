@@ -8,8 +8,8 @@
 #include <wx/statbmp.h>
 
 #include <algorithm>
-#include <cctype>
 
+#include "platform/texts.h"
 #include "platform/wx/layout_parts.h"
 #include "platform/wx/wrapping_text.h"
 #include "platform/wx/wx_text.h"
@@ -33,11 +33,24 @@ wxArtID ArtOf(MessageIcon icon) {
   return wxART_INFORMATION;
 }
 
-// Whether this key is the access key of a caption.
-bool IsAccessKey(int key, const std::string& caption) {
-  const std::size_t mark = caption.find('&');
-  return mark != std::string::npos && mark + 1 < caption.size() &&
-         key == std::toupper(static_cast<unsigned char>(caption[mark + 1]));
+// What a button says, and the name it has among windows, whatever the language.
+struct ButtonFace {
+  TextId caption;
+  const char* name;
+};
+
+ButtonFace FaceOf(MessageAnswer answer) {
+  switch (answer) {
+    case MessageAnswer::kOk:
+      return {TextId::kOk, "OK"};
+    case MessageAnswer::kCancel:
+      return {TextId::kCancel, "Cancel"};
+    case MessageAnswer::kYes:
+      return {TextId::kYes, "Yes"};
+    case MessageAnswer::kNo:
+      break;
+  }
+  return {TextId::kNo, "No"};
 }
 
 }  // namespace
@@ -75,33 +88,16 @@ MessageDialog::MessageDialog(wxWindow* parent, const Message& message)
   });
 }
 
-MessageAnswer MessageDialog::QuietAnswer(MessageButtons buttons) {
-  switch (buttons) {
-    case MessageButtons::kOk:
-      return MessageAnswer::kOk;
-    case MessageButtons::kOkCancel:
-      return MessageAnswer::kCancel;
-    case MessageButtons::kYesNo:
-      break;
-  }
-  return MessageAnswer::kNo;
-}
-
 wxSizer* MessageDialog::Buttons() {
   auto* row = new wxBoxSizer(wxHORIZONTAL);
-  if (buttons_ == MessageButtons::kYesNo) {
-    Add(row, TextId::kYes, "Yes", MessageAnswer::kYes);
-    Add(row, TextId::kNo, "No", MessageAnswer::kNo);
-  } else {
-    Add(row, TextId::kOk, "OK", MessageAnswer::kOk);
-    if (buttons_ == MessageButtons::kOkCancel) Add(row, TextId::kCancel, "Cancel", MessageAnswer::kCancel);
-  }
+  for (const MessageAnswer answer : ButtonsOf(buttons_)) Add(row, answer);
   return row;
 }
 
-void MessageDialog::Add(wxSizer* row, TextId caption, const wxString& name, MessageAnswer answer) {
-  auto* button = new wxButton(this, wxID_ANY, ToWx(Text(caption)));
-  button->SetName(name);
+void MessageDialog::Add(wxSizer* row, MessageAnswer answer) {
+  const ButtonFace face = FaceOf(answer);
+  auto* button = new wxButton(this, wxID_ANY, ToWx(Text(face.caption)));
+  button->SetName(face.name);
   button->SetMinSize({std::max(button->GetBestSize().x, FormBuilder::Columns(this, 12)), -1});
   button->Bind(wxEVT_BUTTON, [this, answer](wxCommandEvent&) { Choose(answer); });
   const bool is_first = row->GetItemCount() == 0;
@@ -112,18 +108,13 @@ void MessageDialog::Add(wxSizer* row, TextId caption, const wxString& name, Mess
   }
 }
 
+// An answer's letter is its key, with Alt or without.
 void MessageDialog::OnKey(wxKeyEvent& event) {
-  const int key = event.GetKeyCode();
-  const bool is_question = buttons_ == MessageButtons::kYesNo;
-  if (key == WXK_ESCAPE) {
-    Dismiss();
-  } else if (is_question && IsAccessKey(key, Text(TextId::kYes))) {
-    Choose(MessageAnswer::kYes);
-  } else if (is_question && IsAccessKey(key, Text(TextId::kNo))) {
-    Choose(MessageAnswer::kNo);
-  } else {
-    event.Skip();
+  if (event.GetKeyCode() == WXK_ESCAPE) return Dismiss();
+  for (const MessageAnswer answer : ButtonsOf(buttons_)) {
+    if (HasAccessKey(Text(FaceOf(answer).caption), event.GetUnicodeKey())) return Choose(answer);
   }
+  event.Skip();
 }
 
 void MessageDialog::Choose(MessageAnswer answer) {
@@ -132,8 +123,7 @@ void MessageDialog::Choose(MessageAnswer answer) {
 }
 
 void MessageDialog::Dismiss() {
-  if (buttons_ == MessageButtons::kOk) Choose(MessageAnswer::kOk);
-  if (buttons_ == MessageButtons::kOkCancel) Choose(MessageAnswer::kCancel);
+  if (buttons_ != MessageButtons::kYesNo) Choose(QuietAnswer(buttons_));
 }
 
 }  // namespace veritane::platform

@@ -4,7 +4,6 @@
 #include <wx/dialog.h>
 
 #include "platform/desktop.h"
-#include "platform/texts.h"
 
 namespace veritane::platform {
 
@@ -13,12 +12,10 @@ public:
   MessageDialog(wxWindow* parent, const Message& message);
 
   MessageAnswer Answer() const { return answer_; }
-  // The answer where nobody is asked: the one that changes nothing.
-  static MessageAnswer QuietAnswer(MessageButtons buttons);
 
 private:
   wxSizer* Buttons();
-  void Add(wxSizer* row, TextId caption, const wxString& name, MessageAnswer answer);
+  void Add(wxSizer* row, MessageAnswer answer);
   void OnKey(wxKeyEvent& event);
   void Choose(MessageAnswer answer);
   // Closing the box, or Escape: OK where there is nothing else, Cancel where it exists, else nothing.

@@ -38,12 +38,12 @@ wxWindow* WxUserInterface::MainWindow() const {
 }
 
 wxWindow* WxUserInterface::FrontWindow() const {
-  for (auto window = windows_.rbegin(); window != windows_.rend(); ++window) {
-    const Form& form = (*window)->Model();
-    if (form.Shown() && form.Modal() && !form.Screen().IsBlocked(form)) return (*window)->Window();
+  if (windows_.empty()) return nullptr;
+  if (const Form* modal = windows_.front()->Model().Screen().FrontModalForm()) {
+    if (const FormWindow* window = WindowOf(*modal)) return window->Window();
   }
   wxWindow* main = MainWindow();
-  return main != nullptr && main->IsShown() ? main : nullptr;
+  return main->IsShown() ? main : nullptr;
 }
 
 FormWindow* WxUserInterface::WindowOf(const Form& form) const {
@@ -59,7 +59,7 @@ void WxUserInterface::RunModal(Form& form) {
 }
 
 MessageAnswer WxUserInterface::ShowMessage(const Message& message) {
-  if (ended_) return MessageDialog::QuietAnswer(message.buttons);
+  if (ended_) return QuietAnswer(message.buttons);
   const ActionGate::NestedLoop loop(gate_, ActionGate::Allow::kBoxOnly);
   MessageDialog dialog(FrontWindow(), message);
   open_boxes_.push_back(&dialog);
