@@ -57,12 +57,8 @@ void TextBox::SetText(const std::string& text) {
   highlight_length_ = 0;
   std::string shown = text;
   if (!isMultiLine) std::erase_if(shown, [](char c) { return static_cast<unsigned char>(c) < 0x20; });
-  ReplaceText(shown);
-}
-
-void TextBox::ReplaceText(const std::string& text) {
-  if (text == text_) return;
-  text_ = text;
+  if (shown == text_) return;
+  text_ = shown;
   Changed(Property::kText);
   Raise(OnChange);
 }
@@ -87,19 +83,19 @@ std::string ItemList::SelectedItem() const {
   return selected_ < 0 ? "" : items_[static_cast<std::size_t>(selected_)];
 }
 
-void ListBox::Clear() {
+void ItemList::Clear() {
   items_.clear();
   selected_ = -1;
-  Changed(Property::kItems);
+  ItemsChanged();
 }
 
-void ListBox::Add(const std::string& item) {
+void ItemList::Add(const std::string& item) {
   AddAll({item});
 }
 
-void ListBox::AddAll(const std::vector<std::string>& items) {
+void ItemList::AddAll(const std::vector<std::string>& items) {
   items_.insert(items_.end(), items.begin(), items.end());
-  Changed(Property::kItems);
+  ItemsChanged();
 }
 
 void ListBox::Remove(int index) {
@@ -122,19 +118,8 @@ void ListBox::Select(int index) {
 }
 
 void ComboBox::Clear() {
-  items_.clear();
-  selected_ = -1;
-  Changed(Property::kItems);
+  ItemList::Clear();
   TextBox::SetText("");
-}
-
-void ComboBox::Add(const std::string& item) {
-  AddAll({item});
-}
-
-void ComboBox::AddAll(const std::vector<std::string>& items) {
-  items_.insert(items_.end(), items.begin(), items.end());
-  Changed(Property::kItems);
 }
 
 void ComboBox::Select(int index) {

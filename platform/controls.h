@@ -86,7 +86,7 @@ public:
 
   const std::string& Text() const { return text_; }
   // A box of one line takes no control characters: they are dropped.
-  void SetText(const std::string& text);
+  virtual void SetText(const std::string& text);
 
   // Raises KeyPress; the caller inserts the character when the answer is true.
   bool KeyPress(int key) const;
@@ -104,8 +104,6 @@ public:
 
 protected:
   TextBox(Form& form, std::string name, ControlKind kind) : Control(form, std::move(name), kind) {}
-  // Changes the text without the rest of SetText's work; raises Change when it differs.
-  void ReplaceText(const std::string& text);
 
 private:
   std::string text_;
@@ -116,6 +114,8 @@ private:
 // The entries of a list, of which one or none is selected.
 class ItemList {
 public:
+  virtual ~ItemList() = default;
+
   const std::vector<std::string>& Items() const { return items_; }
   int Count() const { return static_cast<int>(items_.size()); }
   // -1 for none.
@@ -123,7 +123,14 @@ public:
   // The selected entry's text, "" for none.
   std::string SelectedItem() const;
 
+  virtual void Clear();
+  void Add(const std::string& item);
+  void AddAll(const std::vector<std::string>& items);
+
 protected:
+  // Called when entries came or went.
+  virtual void ItemsChanged() = 0;
+
   std::vector<std::string> items_;
   int selected_ = -1;
 };
@@ -133,14 +140,14 @@ public:
   ListBox(Form& form, std::string name) : Control(form, std::move(name), ControlKind::kListBox) {}
 
   Handler OnClick;
-  void Clear();
-  void Add(const std::string& item);
-  void AddAll(const std::vector<std::string>& items);
   // Removes the entry; a selection of it is lost, one behind it moves up. Raises nothing.
   void Remove(int index);
   // Selects an entry (-1 for none) and raises Click, also when it was selected already. Error 5 outside the
   // list.
   void Select(int index);
+
+private:
+  void ItemsChanged() override { Changed(Property::kItems); }
 };
 
 // A list that drops down from a text. An editable one takes any text; the other only its entries.
@@ -153,15 +160,16 @@ public:
   bool isEditable = false;
 
   // Empties list and text.
-  void Clear();
-  void Add(const std::string& item);
-  void AddAll(const std::vector<std::string>& items);
+  void Clear() override;
   // Selects an entry (-1 for none), shows it as the text, raises Click. Error 5 outside the list.
   void Select(int index);
   // Types into an editable box; the entry of just this text becomes the selected one, else none is. In a box
   // that is not editable only an entry's text is taken, and selecting it raises Click (error 5 for any other
   // text).
-  void SetText(const std::string& text);
+  void SetText(const std::string& text) override;
+
+private:
+  void ItemsChanged() override { Changed(Property::kItems); }
 };
 
 // Pages of which one is in front.

@@ -20,7 +20,7 @@ void CheckReachable(const Form& form, const std::string& name) {
                       (name == form.Name() ? "." : ": the form " + form.Name() + " is not shown."));
   }
   if (!form.Screen().IsBlocked(form)) return;
-  const Form* modal = FrontModalForm(form.Screen());
+  const Form* modal = form.Screen().FrontModalForm();
   throw RefusedLine(name + " is behind the modal form " + (modal == nullptr ? "" : modal->Name()) + ".");
 }
 
@@ -62,27 +62,19 @@ TextBox& WritableTextBox(Control& control) {
   return box;
 }
 
-void PutText(TextBox& box, const std::string& text) {
-  if (box.Kind() == ControlKind::kComboBox) {
-    static_cast<ComboBox&>(box).SetText(text);
-  } else {
-    box.SetText(text);
-  }
-}
-
 // Puts the characters in the place of the highlighted ones, or behind the text when none are.
 void Insert(TextBox& box, const std::string& characters) {
   const std::string text = box.Text();
   const std::size_t length = static_cast<std::size_t>(box.HighlightLength());
   const std::size_t start =
       length > 0 ? static_cast<std::size_t>(box.HighlightStart()) : CharacterCount(text);
-  PutText(box, Characters(text, 0, start) + characters + Characters(text, start + length, std::string::npos));
+  box.SetText(Characters(text, 0, start) + characters + Characters(text, start + length, std::string::npos));
 }
 
 void DeleteBackwards(TextBox& box) {
   if (box.HighlightLength() > 0) return Insert(box, "");
   const std::size_t count = CharacterCount(box.Text());
-  if (count > 0) PutText(box, Characters(box.Text(), 0, count - 1));
+  if (count > 0) box.SetText(Characters(box.Text(), 0, count - 1));
 }
 
 int IndexOf(const Control& control, const ItemList& list, const ScriptWord& entry) {
@@ -215,13 +207,6 @@ void PressKeyNow(Control& control, int key) {
 
 }  // namespace
 
-const Form* FrontModalForm(const Desktop& desktop) {
-  for (const Form* form : desktop.Forms()) {
-    if (form->Shown() && form->Modal() && !desktop.IsBlocked(*form)) return form;
-  }
-  return nullptr;
-}
-
 void Click(Control& control) {
   CheckUsable(control);
   switch (control.Kind()) {
@@ -243,7 +228,7 @@ void Click(Control& control) {
 void Type(Control& control, const std::string& text) {
   TextBox& box = WritableTextBox(control);
   if (IsDropDownList(control)) return Choose(control, {.text = text, .isQuoted = true});
-  Perform(control, [&] { PutText(box, ""); });
+  Perform(control, [&] { box.SetText(""); });
   for (const char32_t character : DecodeUtf8(text)) {
     if (control.Owner().Screen().Ended()) return;
     // A handler may have hidden the box meanwhile: the rest of the text has nowhere to go.
@@ -257,7 +242,7 @@ void Type(Control& control, const std::string& text) {
 void Paste(Control& control, const std::string& text) {
   TextBox& box = WritableTextBox(control);
   if (IsDropDownList(control)) return Choose(control, {.text = text, .isQuoted = true});
-  Perform(control, [&] { PutText(box, text); });
+  Perform(control, [&] { box.SetText(text); });
 }
 
 void Highlight(Control& control, int start, int length) {

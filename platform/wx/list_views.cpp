@@ -5,16 +5,6 @@
 
 namespace veritane::platform {
 
-namespace {
-
-wxArrayString EntriesOf(const ItemList& list) {
-  wxArrayString entries;
-  for (const std::string& item : list.Items()) entries.push_back(ToWx(item));
-  return entries;
-}
-
-}  // namespace
-
 ListBoxView::ListBoxView(ListBox& list, ViewOwner& owner, wxWindow* parent, Choose choose)
     : ControlView(list, owner),
       list_(list),
@@ -65,7 +55,7 @@ void ListBoxView::Select(int index) {
 }
 
 void ListBoxView::ShowState() {
-  widget_->Set(EntriesOf(list_));
+  widget_->Set(ToWx(list_.Items()));
   ShowSelection();
 }
 
@@ -95,7 +85,7 @@ ChoiceView::ChoiceView(ComboBox& combo, ViewOwner& owner, wxWindow* parent)
 }
 
 void ChoiceView::ShowState() {
-  widget_->Set(EntriesOf(combo_));
+  widget_->Set(ToWx(combo_.Items()));
   ShowSelection();
 }
 

@@ -61,7 +61,7 @@ void TypedTextView::OnChar(wxKeyEvent& event) {
 void TypedTextView::OnText() {
   const wxString text = entry_->GetValue();
   if (text == ShownText(box_.Text())) return;
-  Perform([&] { PassText(FromWx(text)); });
+  Perform([&] { box_.SetText(FromWx(text)); });
   // The box may have refused the text, or dropped a part of it.
   ShowText();
 }
@@ -162,9 +162,7 @@ EditableComboView::EditableComboView(ComboBox& combo, ViewOwner& owner, wxWindow
 }
 
 void EditableComboView::ShowState() {
-  wxArrayString items;
-  for (const std::string& item : combo_.Items()) items.push_back(ToWx(item));
-  widget_->Set(items);
+  widget_->Set(ToWx(combo_.Items()));
   ShowText();
 }
 

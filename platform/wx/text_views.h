@@ -24,8 +24,6 @@ protected:
   void Follow(Property property) override;
   void ShowText();
   void ShowHighlight();
-  virtual void PassText(const std::string& text) { box_.SetText(text); }
-  wxTextEntry* Entry() const { return entry_; }
 
 private:
   void OnChar(wxKeyEvent& event);
@@ -62,7 +60,6 @@ public:
 protected:
   void ShowState() override;
   void Follow(Property property) override;
-  void PassText(const std::string& text) override { combo_.SetText(text); }
 
 private:
   ComboBox& combo_;

@@ -13,6 +13,13 @@ wxString ToWx(const std::string& text) {
   return {text.c_str(), wxCSConv(wxFONTENCODING_CP1252), text.size()};
 }
 
+wxArrayString ToWx(const std::vector<std::string>& texts) {
+  wxArrayString all;
+  all.reserve(texts.size());
+  for (const std::string& text : texts) all.push_back(ToWx(text));
+  return all;
+}
+
 std::string FromWx(const wxString& text) {
   return text.utf8_string();
 }
