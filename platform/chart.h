@@ -96,10 +96,6 @@ public:
   const std::vector<ChartRegion>& Regions() const { return regions_; }
   void SetRegions(std::vector<ChartRegion> regions);
 
-  // While batching, changes are collected and shown once at the end. Calls nest.
-  void BeginBatch() { ++batches_; }
-  void EndBatch();
-
   // The part of the axes that is in view; the same as the limits until the user zooms. Setting limits ends a
   // zoom.
   const AxisLimits& ViewX() const { return view_x_; }
@@ -124,6 +120,9 @@ public:
   std::string SpokenContent() const override;
 
 private:
+  friend class ChartBatch;
+  void BeginBatch() { ++batches_; }
+  void EndBatch();
   void ChartChanged();
 
   std::vector<ChartSeries> series_;
@@ -144,7 +143,7 @@ private:
   bool changed_in_batch_ = false;
 };
 
-// Batches changes for as long as it lives.
+// For as long as it lives changes are collected, and shown once at the end. Batches nest.
 class ChartBatch {
 public:
   explicit ChartBatch(Chart& chart) : chart_(chart) { chart_.BeginBatch(); }

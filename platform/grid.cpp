@@ -28,9 +28,8 @@ void Grid::Resize(int rows, int columns) {
   Changed(Property::kCells);
 }
 
-void Grid::SetFixed(int rows, int columns) {
+void Grid::SetFixedRows(int rows) {
   fixed_rows_ = rows;
-  fixed_columns_ = columns;
   Changed(Property::kCells);
 }
 

@@ -11,7 +11,7 @@ namespace veritane::platform {
 
 enum class GridAlignment { kLeft, kRight, kCentre };
 
-// Rows and columns count from 0; the first FixedRows() rows and FixedColumns() columns are headings.
+// Rows and columns count from 0; the first FixedRows() rows are headings.
 class Grid : public Control {
 public:
   Grid(Form& form, std::string name);
@@ -25,8 +25,7 @@ public:
   void Resize(int rows, int columns);
 
   int FixedRows() const { return fixed_rows_; }
-  int FixedColumns() const { return fixed_columns_; }
-  void SetFixed(int rows, int columns);
+  void SetFixedRows(int rows);
 
   // Error 9 outside the table.
   const std::string& Cell(int row, int column) const;
@@ -56,7 +55,6 @@ private:
   std::vector<GridAlignment> alignments_;
   int column_count_ = 0;
   int fixed_rows_ = 1;
-  int fixed_columns_ = 0;
   int row_ = 1;
   int column_ = 1;
 };

@@ -53,7 +53,7 @@ void FrmVeritane::Form_Load() {
     if (!LoadCalibrationMethod()) return;
     Calibrate();
   }
-  grid.SetFixed(1, 0);
+  grid.SetFixedRows(1);
   FillAlgorithmLists();
   LoadMethods();
   chart.SetTitles(Text(TextId::kWavenumberAxis), Text(TextId::kIntensityAxis));

@@ -26,9 +26,6 @@ public:
   // Runs the program's own start in the place of a handler; any exception ends the program in the same way.
   void RunStart(UserInterface& screen, const std::function<void()>& start);
 
-  // Whether an action of the user would be refused, whatever form it is on.
-  bool Busy() const { return busy_; }
-
   // Repaints and answers the system, while input is thrown away.
   void ProcessPendingEvents();
 
