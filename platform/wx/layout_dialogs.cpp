@@ -14,8 +14,6 @@ void AddNamedField(FormBuilder& builder, wxFlexGridSizer* table, wxWindow* paren
   AddField(table, text, builder.Add(field, parent), FormBuilder::Columns(parent, columns));
 }
 
-}  // namespace
-
 wxSizer* LayOutSample(FormBuilder& builder, wxWindow* root) {
   wxFlexGridSizer* table = FieldTable(root);
   AddNamedField(builder, table, root, "lblProductID", "cmbStandards", 42);
@@ -56,9 +54,11 @@ wxSizer* LayOutNullRegion(FormBuilder& builder, wxWindow* root) {
   wxFlexGridSizer* table = FieldTable(box);
   AddNamedField(builder, table, box, "lblNullStart", "txtNullStart", 12);
   AddNamedField(builder, table, box, "lblNullEnd", "txtNullEnd", 12);
-  group->Add(table, wxSizerFlags().Expand().Border(wxALL, Gap(root)));
-  group->Add(ButtonRow(box, {builder.Add("cmdAddNullRegion", box)}),
-             wxSizerFlags().Right().Border(wxALL, Gap(root)));
+  auto* entry = new wxBoxSizer(wxVERTICAL);
+  entry->Add(table, wxSizerFlags().Expand());
+  entry->Add(ButtonRow(box, {builder.Add("cmdAddNullRegion", box)}),
+             wxSizerFlags().Right().Border(wxTOP, WideGap(box)));
+  Fill(group, entry);
 
   wxWindow* list = builder.Add("lstNulls", root);
   list->SetMinSize({-1, FormBuilder::Line(root) * 8});
@@ -147,6 +147,8 @@ wxSizer* LayOutPrediction(FormBuilder& builder, wxWindow* root) {
 wxSizer* LayOutInOrder(FormBuilder&, wxWindow*) {
   return new wxBoxSizer(wxVERTICAL);
 }
+
+}  // namespace
 
 LayoutFunction LayoutOf(const std::string& form_name) {
   static const std::map<std::string, LayoutFunction> kLayouts = {

@@ -34,8 +34,6 @@ wxWindow* TitleBand(FormBuilder& builder, wxWindow* parent) {
   return band;
 }
 
-}  // namespace
-
 wxWindow* LayOutOperatorPanel(FormBuilder& builder, wxWindow* parent) {
   const auto [panel, heading] = builder.AddPanel("fraMainMenu", parent);
   wxWindow* band = TitleBand(builder, panel);
@@ -94,6 +92,8 @@ wxWindow* LayOutSpectrumPanel(FormBuilder& builder, wxWindow* parent) {
   panel->SetSizer(Padded(inside, WideGap(panel)));
   return panel;
 }
+
+}  // namespace
 
 wxSizer* LayOutMainWindow(FormBuilder& builder, wxWindow* root) {
   auto* sizer = new wxBoxSizer(wxVERTICAL);

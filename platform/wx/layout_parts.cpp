@@ -80,6 +80,10 @@ wxSizer* Dialog(const wxWindow* window, wxSizer* content, wxSizer* buttons) {
   return Padded(inside, WideGap(window));
 }
 
+void Fill(wxStaticBoxSizer* group, wxSizer* content) {
+  group->Add(content, wxSizerFlags(1).Expand().Border(wxALL, Gap(group->GetStaticBox())));
+}
+
 wxSizer* Padded(wxSizer* content, int gap) {
   auto* outer = new wxBoxSizer(wxVERTICAL);
   outer->Add(content, wxSizerFlags(1).Expand().Border(wxALL, gap));

@@ -30,6 +30,8 @@ wxSizer* WrappingButtons(const wxWindow* window, std::initializer_list<wxWindow*
 wxSizer* ButtonColumn(const wxWindow* window, std::initializer_list<wxWindow*> buttons);
 // The content with the room around it that a dialog has, and its buttons below on the right.
 wxSizer* Dialog(const wxWindow* window, wxSizer* content, wxSizer* buttons);
+// The content of a group with its caption's box around it.
+void Fill(wxStaticBoxSizer* group, wxSizer* content);
 // The content with room around it.
 wxSizer* Padded(wxSizer* content, int gap);
 

@@ -28,7 +28,7 @@ void AddPair(FormBuilder& builder, wxWindow* box, wxSizer* sizer, const std::str
 
 wxSizer* Inside(wxStaticBoxSizer* group) {
   auto* column = new wxBoxSizer(wxVERTICAL);
-  group->Add(column, wxSizerFlags(1).Expand().Border(wxALL, Gap(group->GetStaticBox())));
+  Fill(group, column);
   return column;
 }
 

@@ -18,10 +18,6 @@ wxSizer* Stacked(const wxWindow* window, std::initializer_list<wxWindow*> widget
   return column;
 }
 
-void Fill(wxStaticBoxSizer* group, wxSizer* content) {
-  group->Add(content, wxSizerFlags(1).Expand().Border(wxALL, Gap(group->GetStaticBox())));
-}
-
 wxSizer* LayOutSecurity(FormBuilder& builder, wxWindow* page) {
   wxStaticBoxSizer* group = builder.AddGroup("fraPassword", page);
   wxWindow* box = group->GetStaticBox();
