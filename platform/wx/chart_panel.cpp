@@ -3,8 +3,8 @@
 
 #include <wx/dcbuffer.h>
 #include <wx/graphics.h>
-#include <wx/settings.h>
 
+#include <algorithm>
 #include <memory>
 
 #include "platform/chart_drawing.h"
@@ -43,6 +43,7 @@ ChartView::ChartView(Chart& chart, ViewOwner& owner, wxWindow* parent)
   panel_->Bind(wxEVT_LEFT_DOWN, &ChartView::BeginDrag, this);
   panel_->Bind(wxEVT_LEFT_UP, &ChartView::EndDrag, this);
   panel_->Bind(wxEVT_LEFT_DCLICK, [this](wxMouseEvent&) {
+    // The presses that it is made of have begun to drag.
     CancelDrag();
     Perform([this] { chart_.Zoom(chart_.X(), chart_.Y()); });
   });
@@ -86,7 +87,6 @@ void ChartView::OnLeave() {
 }
 
 void ChartView::BeginDrag(wxMouseEvent& event) {
-  // A double click ends with a press of its own.
   if (!ToRect(chart_.Area()).Contains(event.GetPosition())) return;
   drag_from_ = event.GetPosition();
   drag_to_ = *drag_from_;

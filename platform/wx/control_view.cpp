@@ -1,8 +1,6 @@
 // What all drawn controls share.
 #include "platform/wx/control_view.h"
 
-#include <wx/tooltip.h>
-
 #include "platform/wx/spoken_name.h"
 #include "platform/wx/wx_text.h"
 

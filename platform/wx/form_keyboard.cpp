@@ -1,6 +1,5 @@
 // What the keyboard does on a form: focus, Enter, Escape and access keys.
 #include <algorithm>
-#include <cctype>
 
 #include "platform/controls.h"
 #include "platform/wx/form_window.h"

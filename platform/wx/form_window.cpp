@@ -143,11 +143,8 @@ void FormWindow::FitToContent() {
   }
   wxSize size = needed;
   if (is_main_) size.IncTo({FormBuilder::Columns(root_, 110), FormBuilder::Line(root_) * 42});
-  // A window that does not fit on the screen could not even be moved.
-  const wxSize screen =
-      wxDisplay(window_).GetClientArea().GetSize() - wxSize(0, FormBuilder::Line(root_) * 2);
-  needed.DecTo(screen);
-  size.DecTo(screen);
+  needed.DecTo(LargestSize());
+  size.DecTo(LargestSize());
   window_->SetMinClientSize(needed);
   window_->SetClientSize(size);
   window_->Layout();

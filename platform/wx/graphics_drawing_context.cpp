@@ -14,7 +14,7 @@ namespace veritane::platform {
 
 namespace {
 
-wxColour ToWx(Colour colour) {
+wxColour WxColour(Colour colour) {
   return {colour.red, colour.green, colour.blue, colour.alpha};
 }
 
@@ -45,30 +45,30 @@ GraphicsDrawingContext::GraphicsDrawingContext(wxGraphicsContext& graphics, doub
 
 void GraphicsDrawingContext::UseFont(double height, TextWeight weight, Colour colour) const {
   const int flags = weight == TextWeight::kBold ? wxFONTFLAG_BOLD : wxFONTFLAG_DEFAULT;
-  graphics_.SetFont(graphics_.CreateFont(height, face_, flags, ToWx(colour)));
+  graphics_.SetFont(graphics_.CreateFont(height, face_, flags, WxColour(colour)));
 }
 
 void GraphicsDrawingContext::UsePen(double width, Colour colour) {
   graphics_.SetPen(
-      graphics_.CreatePen(wxGraphicsPenInfo(ToWx(colour), width).Join(wxJOIN_ROUND).Cap(wxCAP_ROUND)));
+      graphics_.CreatePen(wxGraphicsPenInfo(WxColour(colour), width).Join(wxJOIN_ROUND).Cap(wxCAP_ROUND)));
 }
 
 TextSize GraphicsDrawingContext::Measure(const std::string& text, double height, TextWeight weight) const {
   UseFont(height, weight, {});
   TextSize size;
-  graphics_.GetTextExtent(platform::ToWx(text), &size.width, &size.height);
+  graphics_.GetTextExtent(ToWx(text), &size.width, &size.height);
   return size;
 }
 
 void GraphicsDrawingContext::Text(const std::string& text, Point at, double height, TextWeight weight,
                                   Colour colour) {
   UseFont(height, weight, colour);
-  graphics_.DrawText(platform::ToWx(text), at.x, at.y);
+  graphics_.DrawText(ToWx(text), at.x, at.y);
 }
 
 void GraphicsDrawingContext::TextUpwards(const std::string& text, Point at, double height, Colour colour) {
   UseFont(height, TextWeight::kNormal, colour);
-  graphics_.DrawText(platform::ToWx(text), at.x, at.y, std::numbers::pi / 2);
+  graphics_.DrawText(ToWx(text), at.x, at.y, std::numbers::pi / 2);
 }
 
 void GraphicsDrawingContext::Line(Point from, Point to, double width, Colour colour) {
@@ -87,7 +87,7 @@ void GraphicsDrawingContext::Polyline(std::span<const Point> points, double widt
 
 void GraphicsDrawingContext::FillRectangle(Point corner, double width, double height, Colour colour) {
   graphics_.SetPen(wxNullGraphicsPen);
-  graphics_.SetBrush(graphics_.CreateBrush(wxBrush(ToWx(colour))));
+  graphics_.SetBrush(graphics_.CreateBrush(wxBrush(WxColour(colour))));
   graphics_.DrawRectangle(corner.x, corner.y, width, height);
 }
 

@@ -129,22 +129,25 @@ void GridView::ShowCurrentRow() {
   is_following_ = false;
 }
 
-void GridView::FitColumns() {
+int GridView::FittingWidth(int column) const {
+  std::vector<std::string> texts;
+  for (int row = grid_.FixedRows(); row < grid_.RowCount(); ++row) texts.push_back(grid_.Cell(row, column));
+  const std::size_t measured = std::min(kMeasuredTexts, texts.size());
+  std::partial_sort(texts.begin(), texts.begin() + static_cast<std::ptrdiff_t>(measured), texts.end(),
+                    [](const auto& a, const auto& b) { return a.size() > b.size(); });
   wxClientDC dc(widget_);
+  dc.SetFont(widget_->GetLabelFont());
+  int width = dc.GetTextExtent(widget_->GetColLabelValue(column)).x;
+  dc.SetFont(widget_->GetDefaultCellFont());
+  for (std::size_t i = 0; i < measured; ++i) width = std::max(width, dc.GetTextExtent(ToWx(texts[i])).x);
   const int margin = widget_->GetCharHeight();
-  for (int column = 0; column < grid_.ColumnCount(); ++column) {
-    std::vector<std::string> texts;
-    for (int row = grid_.FixedRows(); row < grid_.RowCount(); ++row) texts.push_back(grid_.Cell(row, column));
-    const std::size_t measured = std::min(kMeasuredTexts, texts.size());
-    std::partial_sort(texts.begin(), texts.begin() + static_cast<std::ptrdiff_t>(measured), texts.end(),
-                      [](const auto& a, const auto& b) { return a.size() > b.size(); });
-    dc.SetFont(widget_->GetLabelFont());
-    int width = dc.GetTextExtent(widget_->GetColLabelValue(column)).x;
-    dc.SetFont(widget_->GetDefaultCellFont());
-    for (std::size_t i = 0; i < measured; ++i) width = std::max(width, dc.GetTextExtent(ToWx(texts[i])).x);
-    last_column_width_ = std::max(width + margin, margin * 5);
-    widget_->SetColSize(column, last_column_width_);
-  }
+  return std::max(width + margin, margin * 5);
+}
+
+void GridView::FitColumns() {
+  const int last = grid_.ColumnCount() - 1;
+  for (int column = 0; column < last; ++column) widget_->SetColSize(column, FittingWidth(column));
+  if (last >= 0) last_column_width_ = FittingWidth(last);
   StretchLastColumn();
 }
 

@@ -21,6 +21,7 @@ protected:
 private:
   void ShowCells();
   void ShowCurrentRow();
+  int FittingWidth(int column) const;
   void FitColumns();
   void StretchLastColumn();
   void OnSelectCell(wxGridEvent& event);
