@@ -5,8 +5,8 @@
 #include <memory>
 
 #include "apps/simulator_panel/frm_simulator.h"
-#include "platform/scripted/script_run.h"
 #include "platform/system/system_machine.h"
+#include "tests/support/script_run.h"
 #include "tests/support/temporary_folder.h"
 
 namespace veritane::simulator_panel {

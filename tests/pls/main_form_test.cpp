@@ -6,9 +6,9 @@
 
 #include <cmath>
 
-#include "platform/scripted/script_run.h"
 #include "platform/system/system_machine.h"
 #include "tests/pls/scripted_library.h"
+#include "tests/support/script_run.h"
 #include "tests/support/temporary_folder.h"
 
 namespace veritane::pls {

@@ -10,7 +10,7 @@
 #include "platform/form.h"
 #include "platform/grid.h"
 #include "platform/run_time_error.h"
-#include "platform/scripted/script_run.h"
+#include "tests/support/script_run.h"
 
 namespace veritane::platform {
 

@@ -11,10 +11,10 @@
 
 #include "apps/simulated_bench.h"
 #include "platform/pdf/pdf_printer.h"
-#include "platform/scripted/script_run.h"
 #include "platform/system/system_machine.h"
 #include "shell/frm_veritane.h"
 #include "tests/support/automation_connection.h"
+#include "tests/support/script_run.h"
 #include "tests/support/temporary_folder.h"
 #include "tests/support/test_folders.h"
 

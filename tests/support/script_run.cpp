@@ -1,5 +1,5 @@
 // Scripts from C++ and their events.
-#include "platform/scripted/script_run.h"
+#include "tests/support/script_run.h"
 
 #include <stdexcept>
 
