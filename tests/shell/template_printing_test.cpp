@@ -99,11 +99,26 @@ protected:
     EXPECT_EQ(run_.Screen().MousePointer(), platform::Pointer::kDefault);
     EXPECT_FALSE(Exists(Data("Prints")));
   }
-  std::string TextOfLastPrint(const platform::Events& events) {
-    const auto print = events.Last("print");
-    if (print.is_null()) return "nothing printed";
-    EXPECT_EQ(print["kind"], "template");
-    return TextOfPdf(machine_.paths.ToNative(print["file"].get<std::string>()));
+  platform::Events MeasurePeaks() {
+    Write(Standard("polystyrene peaks.txt"), "3026;2849\r\n1601.5\r\n1493 1452\r\n");
+    accessory_ = simulator::kAtrAccessory;
+    return MeasureFirst("POLYSTYRENE-PEAKS", "polystyrene");
+  }
+  platform::Events MeasureBlend() {
+    accessory_ = simulator::kAtrAccessory;
+    return MeasureFirst("PS-PE-BLEND", "polystyrene 0.3 + polyethylene 0.7");
+  }
+  // The third of three samples of ASA-100, reprocessed and on display.
+  platform::Events ReprocessTheThird() {
+    MeasureFirst("ASA-100", "acetylsalicylic acid");
+    MeasureNext("ASA-100", "Lot 8");
+    MeasureNext("ASA-100", "Lot 9");
+    return Play({"click frmVeritane.cmdBacktoMainMenu", "click frmVeritane.cmdSupervisor",
+                 "tab frmVeritane.SSTab1 5", "click frmVeritane.cmdStandard",
+                 "file \"" + Standard("PET.bsp") + "\"", "click frmVeritane.cmdSamp",
+                 "file \"" + Sample("ASA-100.bsp") + "\"", "choose frmSelectSpectrum.lstSpectrum #2",
+                 "click frmVeritane.cmdStandard", "file \"" + Standard("ASA-100.bsp") + "\"",
+                 "choose frmVeritane.cmbAlg \"Fourier\"", "click frmVeritane.cmdNow"});
   }
 
   static const std::string kTemplate;
@@ -125,7 +140,7 @@ TEST_F(TemplatePrintingTest, ASampleRunPrintsOnceItsRecordsAreSafe) {
   ASSERT_GE(calls.size(), expected.size());
   EXPECT_THAT(std::vector(calls.end() - static_cast<std::ptrdiff_t>(expected.size()), calls.end()),
               ElementsAreArray(expected));
-  EXPECT_THAT(TextOfLastPrint(events), AllOf(HasSubstr("Lot 7"), HasSubstr("ASA-100.bsp")));
+  EXPECT_EQ(events.Last("print")["kind"], "template");
 
   // The same by the button, of what is on display.
   const auto again = Play({"click frmVeritane.cmdPrint"});
@@ -138,9 +153,8 @@ TEST_F(TemplatePrintingTest, ASampleRunPrintsOnceItsRecordsAreSafe) {
 TEST_F(TemplatePrintingTest, ASampleRunPrintsTheFirstSpectrumOfItsFile) {
   MeasureFirst("ASA-100", "acetylsalicylic acid");
   Calls();
-  const auto events = MeasureNext("ASA-100", "Lot 8");
+  MeasureNext("ASA-100", "Lot 8");
   EXPECT_THAT(CallsOfPrint(), AllOf(Contains("SelectSpectrum(1)"), Not(Contains("SelectSpectrum(2)"))));
-  EXPECT_THAT(TextOfLastPrint(events), AllOf(HasSubstr("Lot 7"), Not(HasSubstr("Lot 8"))));
 }
 
 TEST_F(TemplatePrintingTest, FourierAndLumivarPrintAlike) {
@@ -156,9 +170,7 @@ TEST_F(TemplatePrintingTest, FourierAndLumivarPrintAlike) {
 }
 
 TEST_F(TemplatePrintingTest, MarkPeaksMarksEveryPeakOnTheStandardBeforePrinting) {
-  Write(Standard("polystyrene peaks.txt"), "3026;2849\r\n1601.5\r\n1493 1452\r\n");
-  accessory_ = simulator::kAtrAccessory;
-  const auto events = MeasureFirst("POLYSTYRENE-PEAKS", "polystyrene");
+  MeasurePeaks();
   std::vector<std::string> marking{"ActiveDocument", "GetSpectrumAt(1)", "GetMarkerList"};
   for (const char* peak : {"3026", "2849", "1601.5", "1493", "1452"}) {
     marking.insert(marking.end(), {"AddMarker(" + std::string(peak) + ")", "SetKind(2)", "SetStyle(0)",
@@ -170,40 +182,28 @@ TEST_F(TemplatePrintingTest, MarkPeaksMarksEveryPeakOnTheStandardBeforePrinting)
   ASSERT_GE(calls.size(), expected.size());
   EXPECT_THAT(std::vector(calls.begin(), calls.begin() + static_cast<std::ptrdiff_t>(expected.size())),
               ElementsAreArray(expected));
-  EXPECT_THAT(TextOfLastPrint(events), AllOf(HasSubstr("3026"), HasSubstr("1601.5")));
 }
 
 TEST_F(TemplatePrintingTest, PlsOpensNoStandardAndShowsNoDocument) {
-  accessory_ = simulator::kAtrAccessory;
-  EXPECT_THAT(MeasureFirst("PS-PE-BLEND", "polystyrene 0.3 + polyethylene 0.7").Named("print"), SizeIs(1));
+  EXPECT_THAT(MeasureBlend().Named("print"), SizeIs(1));
   Calls();
-  const auto events = Play({"click frmVeritane.cmdPrint"});
+  Play({"click frmVeritane.cmdPrint"});
   EXPECT_THAT(Calls(), ElementsAre("Interactive(false)", "OpenDocument(" + Sample("PS-PE-BLEND.bsp") + ")",
                                    "SelectSpectrum(1)", "PrepareSampleView", "PrepareStandardView",
                                    "BeginPrint", "OpenPrintTemplate(" + kTemplate + ")", "Interactive(false)",
                                    "PrintDoc", "Interactive(false)", "CloseDoc", "Interactive(false)",
                                    "CloseDocument(false)", "Interactive(false)", "Interactive(true)"));
-  EXPECT_THAT(TextOfLastPrint(events), AllOf(HasSubstr("PS-PE-BLEND.bsp"), HasSubstr("Lot 7")));
 }
 
 TEST_F(TemplatePrintingTest, ReprocessingPrintsTheChosenSpectrumAndNothingByItself) {
-  MeasureFirst("ASA-100", "acetylsalicylic acid");
-  MeasureNext("ASA-100", "Lot 8");
-  MeasureNext("ASA-100", "Lot 9");
-  const auto events = Play(
-      {"click frmVeritane.cmdBacktoMainMenu", "click frmVeritane.cmdSupervisor", "tab frmVeritane.SSTab1 5",
-       "click frmVeritane.cmdStandard", "file \"" + Standard("PET.bsp") + "\"", "click frmVeritane.cmdSamp",
-       "file \"" + Sample("ASA-100.bsp") + "\"", "choose frmSelectSpectrum.lstSpectrum #2",
-       "click frmVeritane.cmdStandard", "file \"" + Standard("ASA-100.bsp") + "\"",
-       "choose frmVeritane.cmbAlg \"Fourier\"", "click frmVeritane.cmdNow"});
+  const auto events = ReprocessTheThird();
   ASSERT_TRUE(IsVisible("frmVeritane.fraSpectrum"));
   EXPECT_THAT(events.Named("print"), IsEmpty());
   Calls();
-  const auto printed = Play({"click frmVeritane.cmdPrint"});
+  Play({"click frmVeritane.cmdPrint"});
   auto expected = Printing(Sample("ASA-100.bsp"), 3, Standard("ASA-100.bsp"));
   expected.push_back("Interactive(true)");
   EXPECT_THAT(Calls(), ElementsAreArray(expected));
-  EXPECT_THAT(TextOfLastPrint(printed), AllOf(HasSubstr("Lot 9"), Not(HasSubstr("Lot 7"))));
 }
 
 TEST_F(TemplatePrintingTest, AMissingOrDamagedTemplateIsToldOverASafeResult) {
@@ -258,6 +258,37 @@ TEST_F(TemplatePrintingTest, TheSupervisorChoosesTheTemplateAndDefaultPrintingEn
   steps.emplace_back("answer OK");
   EXPECT_THAT(Play(steps).Named("print"), IsEmpty());
   EXPECT_THAT(Calls(), Not(Contains("BeginPrint")));
+}
+
+// What another program reads on the pages.
+class TemplatePrintingPdfTest : public TemplatePrintingTest {
+protected:
+  std::string TextOfLastPrint(const platform::Events& events) {
+    const auto print = events.Last("print");
+    if (print.is_null()) return "nothing printed";
+    return TextOfPdf(machine_.paths.ToNative(print["file"].get<std::string>()));
+  }
+};
+
+TEST_F(TemplatePrintingPdfTest, ASampleRunPrintsTheFirstSpectrumOfItsFile) {
+  const auto first = MeasureFirst("ASA-100", "acetylsalicylic acid");
+  EXPECT_THAT(TextOfLastPrint(first), AllOf(HasSubstr("Lot 7"), HasSubstr("ASA-100.bsp")));
+  const auto second = MeasureNext("ASA-100", "Lot 8");
+  EXPECT_THAT(TextOfLastPrint(second), AllOf(HasSubstr("Lot 7"), Not(HasSubstr("Lot 8"))));
+}
+
+TEST_F(TemplatePrintingPdfTest, MarkedPeaksAreNamed) {
+  EXPECT_THAT(TextOfLastPrint(MeasurePeaks()), AllOf(HasSubstr("3026"), HasSubstr("1601.5")));
+}
+
+TEST_F(TemplatePrintingPdfTest, PlsPrintsItsSampleAlone) {
+  EXPECT_THAT(TextOfLastPrint(MeasureBlend()), AllOf(HasSubstr("PS-PE-BLEND.bsp"), HasSubstr("Lot 7")));
+}
+
+TEST_F(TemplatePrintingPdfTest, ReprocessingPrintsTheChosenSpectrum) {
+  ReprocessTheThird();
+  EXPECT_THAT(TextOfLastPrint(Play({"click frmVeritane.cmdPrint"})),
+              AllOf(HasSubstr("Lot 9"), Not(HasSubstr("Lot 7"))));
 }
 
 }  // namespace
