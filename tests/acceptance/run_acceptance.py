@@ -7,9 +7,9 @@ there, and the lines printed must be those of NAME.expected beside it, one for o
 A script can ask for more in comments of its own:
 
     #! console --locale en_GB          options for veritane-console
-    #! root settings.ini C:\\ProgramData\\Veritane\\settings.ini
+    #! root settings.ini C:\\ProgramData\\Kestrova\\Veritane\\settings.ini
                                        copies a file beside the script into the data folder before the run
-    #! show C:\\ProgramData\\Veritane\\log.txt
+    #! show C:\\ProgramData\\Kestrova\\Veritane\\log.txt
                                        prints that file behind the events, so that it is compared too
 
 With --launcher the programs are those of another system: the launcher (Wine) starts them, and paths are handed to them
