@@ -176,13 +176,16 @@ TEST_F(ChartDrawingTest, AZoomedLineCrossesThePlotBetweenItsPoints) {
   Recorder surface;
   const ChartLayout layout = DrawChart(chart_, surface);
   ASSERT_EQ(surface.lines.size(), 1U);
+  auto [first, last] = std::pair(surface.lines[0].points.front(), surface.lines[0].points.back());
+  if (first.x > last.x) std::swap(first, last);
+  const double right = layout.plot.left + layout.plot.width;
+  EXPECT_TRUE(first.x <= layout.plot.left && last.x >= right) << first.x << " to " << last.x;
   // On a straight line y = (x - 400) / 3600.
-  const Point first = surface.lines[0].points.front();
-  const Point last = surface.lines[0].points.back();
-  const double slope = (last.y - first.y) / (last.x - first.x);
-  const double expected =
-      (layout.PixelY(1, false) - layout.PixelY(0, false)) / (layout.PixelX(4000) - layout.PixelX(400));
-  EXPECT_NEAR(slope, expected, 1e-9);
+  chart_.SetPlotArea(layout.plot);
+  for (const Point& end : {first, last}) {
+    const auto [x, y] = chart_.PixelToData(end.x, end.y);
+    EXPECT_NEAR(y, (x - 400) / 3600, 1e-9);
+  }
 }
 
 TEST_F(ChartDrawingTest, TheLegendNamesOnlySeriesWithTitleAndPoints) {

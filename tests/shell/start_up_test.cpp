@@ -104,9 +104,14 @@ TEST_F(StartUpTest, WithoutItsCalibrationMethodTheProgramSaysSoAndEnds) {
   EXPECT_EQ(run_.Finish(), 0);
 }
 
-TEST_F(StartUpTest, AMissingAlignmentSpectrumOrTableStopsTheStartWithFileNotFound) {
+TEST_F(StartUpTest, AMissingAlignmentSpectrumStopsTheStart) {
   WriteSettings(false);
-  EXPECT_EQ(Play({"start"}).Last("error")["number"], 53);
+  WriteMeasuringMethod();
+  machine_.files.DeleteFile(Standard("Autoalign.bsp"));
+  const auto error = Play({"start"}).Last("error");
+  ASSERT_FALSE(error.is_null());
+  EXPECT_EQ(error["number"], 53);
+  EXPECT_THAT(std::string(error["text"]), HasSubstr(Standard("Autoalign.bsp")));
   EXPECT_EQ(run_.Finish(), 1);
 }
 
@@ -164,7 +169,7 @@ TEST_F(StartUpTest, AStalePrintViewBesideTheProgramIsDeleted) {
   EXPECT_FALSE(Exists("C:\\Program\\current.pv"));
 }
 
-TEST_F(StartUpTest, ListsAndGridArePreparedBeforeAnythingIsLoaded) {
+TEST_F(StartUpTest, ListsAndGridAreFilledAtTheStart) {
   WriteSettings(true);
   Play({"start"});
   EXPECT_THAT(run_.Get("frmVeritane.cmbAlg")["items"],
@@ -176,6 +181,11 @@ TEST_F(StartUpTest, ListsAndGridArePreparedBeforeAnythingIsLoaded) {
   EXPECT_EQ(grid["rows"][0][1], "Col 1");
   EXPECT_EQ(grid["rows"][1][0], "Row 1");
   EXPECT_EQ(grid["row"], 1);
+}
+
+TEST_F(StartUpTest, TheNullRegionWindowHasItsCaptions) {
+  WriteSettings(true);
+  Play({"start"});
   EXPECT_EQ(Caption("frmNullRegion.lblNullEnd"), "End of Null Region (low wavenumber");
 }
 

@@ -173,7 +173,7 @@ void DamageEverywhere(const std::string& text, std::size_t spectra, std::size_t 
   }
 }
 
-TEST(JcampDamage, EveryTruncationAndEveryChangedByteOfAWrittenFileIsNoticedOrHarmless) {
+TEST(JcampDamage, NoTruncationOrChangedByteOfAWrittenFileGivesAHalfSpectrumInSilence) {
   StoredSpectrum spectrum;
   spectrum.name = "a";
   spectrum.time = "2026/11/21 10:59:00";
@@ -185,7 +185,7 @@ TEST(JcampDamage, EveryTruncationAndEveryChangedByteOfAWrittenFileIsNoticedOrHar
   DamageEverywhere(WriteJcamp(two), 2, 24);
 }
 
-TEST(JcampDamage, EveryTruncationAndEveryChangedByteOfADifferenceFileIsNoticedOrHarmless) {
+TEST(JcampDamage, NoTruncationOrChangedByteOfADifferenceFileGivesAHalfSpectrumInSilence) {
   SampleBlock block{.firstX = "10", .lastX = "1", .points = "10"};
   block.table = "(X++(Y..Y))\n10A00J1TkU\n5A16%Tj2\n2A04i8\n";
   ASSERT_THAT(OnlySpectrum(block.Text()).ordinates, SizeIs(10));

@@ -34,6 +34,9 @@ TEST_F(ScreensWindowTest, NothingIsClippedInTheSmallestWindow) {
     main_.SSTab1.SetTab(page);
     ExpectNothingClipped("tab " + std::to_string(page));
   }
+  main_.fraSupervisorMode.SetVisible(false);
+  main_.fraSpectrum.SetVisible(true);
+  ExpectNothingClipped("spectrum");
 }
 
 }  // namespace

@@ -11,6 +11,7 @@
 
 #include "platform/controls.h"
 #include "platform/run_time_error.h"
+#include "platform/wx/file_filter.h"
 #include "tests/window/window_test.h"
 
 namespace veritane::platform {
@@ -308,6 +309,10 @@ TEST_F(WxControlsTest, EndingTheProgramClosesItsDialogs) {
   Click("okay");
   EXPECT_EQ(ui_.ExitStatus(), 3);
   EXPECT_FALSE(dialog.Shown());
+}
+
+TEST(FileFilter, NamesMatchWithoutRegardToCase) {
+  EXPECT_EQ(NativeFilter("(*.clm)|*.clm"), "(*.clm)|*.[cC][lL][mM]");
 }
 
 }  // namespace

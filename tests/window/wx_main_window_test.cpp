@@ -1,9 +1,7 @@
 // Real keys and a real mouse on the main window's tabs, grid, panels and chart.
 #include <wx/grid.h>
 #include <wx/notebook.h>
-#include <wx/toplevel.h>
 
-#include "platform/wx/file_filter.h"
 #include "shell/main_controls.h"
 #include "tests/window/window_test.h"
 
@@ -129,31 +127,6 @@ TEST_F(WxMainWindowTest, ThePointersPlaceInTheChartIsReadInPixels) {
   Point(Widget("chart"), wxPoint(123, 80));
   ASSERT_FALSE(seen.empty());
   EXPECT_EQ(seen.back(), 123);
-}
-
-TEST_F(WxMainWindowTest, NothingIsClippedInTheSmallestWindow) {
-  Open(main_);
-  auto& window = dynamic_cast<wxTopLevelWindow&>(*Widget("frmVeritane"));
-  window.SetClientSize(window.GetMinClientSize());
-  Settle();
-  for (Frame* panel : {&main_.fraMainMenu, &main_.fraSupervisorMode, &main_.fraSpectrum}) {
-    ShowOnly(*panel);
-    for (const Control* control : main_.Controls()) {
-      if (!control->IsShown()) continue;
-      const wxWindow* widget = Widget(control->Name());
-      const wxSize room = widget->GetParent()->GetSize();
-      EXPECT_LE(widget->GetRect().GetRight(), room.x) << control->Name();
-      EXPECT_LE(widget->GetRect().GetBottom(), room.y) << control->Name();
-    }
-  }
-}
-
-TEST(FileFilter, NamesMatchWithoutRegardToCase) {
-#ifdef _WIN32
-  EXPECT_EQ(NativeFilter("(*.clm)|*.clm"), "(*.clm)|*.clm");
-#else
-  EXPECT_EQ(NativeFilter("(*.clm)|*.clm"), "(*.clm)|*.[cC][lL][mM]");
-#endif
 }
 
 }  // namespace
