@@ -1,6 +1,7 @@
 """What a laboratory has on disk, and what must hold of it after a fault, whatever the fault was."""
 
 import collections
+import contextlib
 
 import records
 import scenarios
@@ -25,6 +26,15 @@ def require(condition, text):
         raise Finding(text)
 
 
+@contextlib.contextmanager
+def finding_in(name):
+    """A file that turns out to be damaged is a finding."""
+    try:
+        yield
+    except records.Damaged as damage:
+        raise Finding(f"{name} is damaged: {damage}") from damage
+
+
 def identity_of(spectrum):
     """A spectrum without its labels: it may get named values when it is filed already."""
     return spectrum.title, spectrum.ordinates
@@ -44,10 +54,8 @@ class Archive:
         found = {}
         for name, data in self.of_kind(".bsp").items():
             if name.startswith(folder + "/"):
-                try:
+                with finding_in(name):
                     found[name] = records.spectra_of(data)
-                except records.Damaged as damage:
-                    raise Finding(f"{name} is damaged: {damage}") from damage
         return found
 
     def samples(self):
@@ -72,10 +80,8 @@ class ArchiveCheck:
         self.check_records(archive)
         self.check_announced(archive, announced)
         for name, data in archive.of_kind(".pdf").items():
-            try:
+            with finding_in(name):
                 records.check_print(data)
-            except records.Damaged as damage:
-                raise Finding(f"{name}: {damage}") from damage
 
     def check_names(self, archive):
         known = self.before.files.keys() | self.after.files.keys() | {PENDING}
@@ -141,7 +147,8 @@ class ArchiveCheck:
         titles = collections.Counter(spectrum.title for spectrum in archive.samples())
         for name in archive.of_kind(".his"):
             lines = self.check_lines(archive, name)
-            records.check_histogram(lines)
+            with finding_in(name):
+                records.check_histogram(lines)
             rows = collections.Counter(line.split(",")[0] for line in lines[1:]
                                        if line.count(",") == records.HISTOGRAM_FIELDS - 1)
             require(rows <= titles, f"{name} speaks of spectra that are not filed: {rows - titles}")
@@ -149,7 +156,7 @@ class ArchiveCheck:
         require(sum(line.startswith("Ann,") for line in lines) <= titles.total(), "log.txt speaks of too many samples")
         if self.has_next_sample:
             require(LINES_OF_NEXT_SAMPLE[1] in archive.lines("Samples/SURVEY.his")[0],
-                    f"the next sample has no line of its own: {archive.files['Samples/SURVEY.his']}")
+                    f"the next sample has no line of its own: {archive.files.get('Samples/SURVEY.his')}")
 
     def check_lines(self, archive, name):
         """The lines filed before, then lines of this scenario, of which a kill may have torn one."""

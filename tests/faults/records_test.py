@@ -1,10 +1,14 @@
 #!/usr/bin/env python3
-"""The readers that the fault tests lean on take what is whole and notice what is not."""
+"""The readers and checks that the fault tests lean on take what is whole and notice what is not."""
 
+import tempfile
+import types
 import unittest
+from pathlib import Path
 
 import records
 import scenarios
+from archive import Archive, ArchiveCheck, Finding
 
 DOCUMENT = (scenarios.ROLLOVER / "SURVEY 49 samples.bsp").read_bytes()
 SINGLE = (scenarios.ROLLOVER / "SURVEY standard.bsp").read_bytes()
@@ -53,6 +57,31 @@ class Records(unittest.TestCase):
         self.assertTrue(records.is_temporary("Samples/A.bsp.x7Gh2K.unfinished"))
         for name in ("Samples/A.bsp", "Samples/A.bsp.x7Gh2K", "Samples/A.unfinished"):
             self.assertFalse(records.is_temporary(name))
+
+
+class Checks(unittest.TestCase):
+    FAULT = types.SimpleNamespace(kind="full", lasts=False)
+
+    @staticmethod
+    def archive_of(files):
+        with tempfile.TemporaryDirectory() as folder:
+            for name, text in files.items():
+                path = Path(folder) / scenarios.DATA / name
+                path.parent.mkdir(parents=True, exist_ok=True)
+                path.write_bytes(text.encode())
+            return Archive(Path(folder))
+
+    def test_a_damaged_histogram_file_is_a_finding(self):
+        archive = self.archive_of({"Samples/SURVEY.his": f"{records.HISTOGRAM_HEADER}\r\n" * 2})
+        with self.assertRaisesRegex(Finding, "Samples/SURVEY.his is damaged: a second header"):
+            ArchiveCheck(archive, archive, {}, self.FAULT).check_records(archive)
+
+    def test_a_lost_histogram_file_is_a_finding(self):
+        archive = self.archive_of({})
+        check = ArchiveCheck(archive, archive, {}, self.FAULT)
+        check.has_next_sample = True
+        with self.assertRaisesRegex(Finding, "no line of its own"):
+            check.check_records(archive)
 
 
 if __name__ == "__main__":
