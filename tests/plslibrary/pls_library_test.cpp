@@ -6,13 +6,13 @@
 
 #include <cmath>
 #include <cstring>
-#include <filesystem>
 #include <fstream>
 #include <map>
 
 #include "plslibrary/calibration_file.h"
 #include "plslibrary/prediction.h"
 #include "tests/plslibrary/gasoline.h"
+#include "tests/support/temporary_folder.h"
 
 namespace veritane::plslibrary {
 namespace {
@@ -34,9 +34,6 @@ std::int32_t VERITANE_PLS_CALL ReadClipboard(char* text, std::int32_t capacity) 
 class PlsLibrary : public ::testing::Test {
 protected:
   PlsLibrary() {
-    const auto* test = ::testing::UnitTest::GetInstance()->current_test_info();
-    folder_ = std::filesystem::path(::testing::TempDir()) / (std::string("pls_library_") + test->name());
-    std::filesystem::create_directories(folder_);
     Write("gas.cal", CalibrationFileText(calibrations_));
     handle_ = LoadCalFile(PathOf("gas.cal").c_str());
   }
@@ -44,13 +41,12 @@ protected:
   ~PlsLibrary() override {
     SetPlsClipboardReader(nullptr);
     UnLoadCalFile(handle_);
-    std::filesystem::remove_all(folder_);
   }
 
-  std::string PathOf(const std::string& name) const { return (folder_ / name).string(); }
+  std::string PathOf(const std::string& name) const { return (folder_.Path() / name).string(); }
 
   void Write(const std::string& name, const std::string& bytes) const {
-    std::ofstream(folder_ / name, std::ios::binary) << bytes;
+    std::ofstream(folder_.Path() / name, std::ios::binary) << bytes;
   }
 
   // As text of two columns.
@@ -89,7 +85,7 @@ protected:
   const Gasoline gasoline_;
   const std::vector<Calibration> calibrations_{gasoline_.Calibrate(3).calibration,
                                                gasoline_.TwoConstituents()};
-  std::filesystem::path folder_;
+  tests::TemporaryFolder folder_;
   std::int32_t handle_ = 0;
 };
 
@@ -245,7 +241,7 @@ TEST_F(PlsLibrary, AFailedLoadLeavesNoSpectrumThatCouldBeTakenForIt) {
   ASSERT_EQ(PredictSpectrum(gasoline_.Measured(0)), 0);
   const std::vector<double> concentration = Item("concentration");
   EXPECT_EQ(LoadSpcDiskFile(handle_, PathOf("missing.spc").c_str()), 4);
-  EXPECT_EQ(LoadSpcDiskFile(handle_, folder_.string().c_str()), 4);
+  EXPECT_EQ(LoadSpcDiskFile(handle_, folder_.Path().string().c_str()), 4);
   EXPECT_EQ(LoadSpcDiskFile(handle_, PathOf("gas.cal").c_str()), 5);
   EXPECT_EQ(Item("concentration"), concentration) << "an earlier prediction stays until the next one";
   EXPECT_EQ(PlsIqPredic(handle_, 1), 5);
@@ -301,7 +297,7 @@ TEST_F(PlsLibrary, SeveralFilesAreOpenAtOnce) {
 TEST_F(PlsLibrary, CallsThatMakeNoSenseAreAnsweredByACode) {
   EXPECT_EQ(LoadCalFile(nullptr), 0);
   EXPECT_EQ(LoadCalFile(PathOf("missing.cal").c_str()), 0);
-  EXPECT_EQ(LoadCalFile(folder_.string().c_str()), 0);
+  EXPECT_EQ(LoadCalFile(folder_.Path().string().c_str()), 0);
   Write("foreign.cal", "something else");
   EXPECT_EQ(LoadCalFile(PathOf("foreign.cal").c_str()), 0);
   double value = 0;

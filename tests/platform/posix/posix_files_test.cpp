@@ -79,6 +79,7 @@ TEST_F(PosixFilesTest, AProgramThatDiesDuringARewriteLeavesTheOldTableOrTheNewOn
   files_.WriteBytes(path, old_table);
   int new_ones = 0;
   for (int trial = 0; trial < 150; ++trial) {
+    const auto before = fs::last_write_time(paths_.ToNative(path));
     const pid_t writer = ::fork();
     ASSERT_GE(writer, 0);
     if (writer == 0) {
@@ -87,8 +88,11 @@ TEST_F(PosixFilesTest, AProgramThatDiesDuringARewriteLeavesTheOldTableOrTheNewOn
         files_.WriteBytes(path, old_table);
       }
     }
-    // Each trial ends at another moment of the rewrites.
-    ::usleep(static_cast<useconds_t>(500 + trial * 37));
+    // Each trial ends at another moment of the rewrites, once they have begun.
+    for (int waited = 0; waited < 50000 && fs::last_write_time(paths_.ToNative(path)) == before; ++waited) {
+      ::usleep(100);
+    }
+    ::usleep(static_cast<useconds_t>(trial * 37));
     ::kill(writer, SIGKILL);
     ::waitpid(writer, nullptr, 0);
     const std::string found = files_.ReadBytes(path);
