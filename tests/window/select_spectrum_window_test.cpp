@@ -13,7 +13,7 @@ protected:
   int ChooseBy(const std::function<void()>& act) {
     dialog_.lstSpectrum.Clear();
     dialog_.lstSpectrum.AddAll({"Lot 1", "Lot 2", "Lot 3"});
-    Later(act);
+    PlayAlong({{"the list", [] { return FocusIsIn("lstSpectrum"); }, act}});
     dialog_.ShowModal();
     EXPECT_FALSE(dialog_.Shown());
     return dialog_.lstSpectrum.Selected();

@@ -3,15 +3,16 @@
 #pragma once
 
 #include <wx/app.h>
+#include <wx/dialog.h>
 #include <wx/evtloop.h>
 #include <wx/timer.h>
 #include <wx/uiaction.h>
 #include <wx/window.h>
 
+#include <deque>
 #include <functional>
-#include <memory>
 #include <string>
-#include <vector>
+#include <utility>
 
 #include <gtest/gtest.h>
 
@@ -21,9 +22,28 @@
 
 namespace veritane::platform {
 
+inline bool ShowsText(const wxWindow* window, const std::string& text) {
+  if (window->GetLabel().utf8_string().find(text) != std::string::npos) return true;
+  for (const wxWindow* child : window->GetChildren()) {
+    if (ShowsText(child, text)) return true;
+  }
+  return false;
+}
+
+// Whether a dialog with this text in it is in front.
+inline bool DialogShows(const std::string& text) {
+  for (const wxWindow* window : wxTopLevelWindows) {
+    const auto* dialog = dynamic_cast<const wxDialog*>(window);
+    if (dialog != nullptr && dialog->IsShown() && dialog->IsModal() && ShowsText(dialog, text)) return true;
+  }
+  return false;
+}
+
 class WindowTest : public ::testing::Test {
 protected:
-  WindowTest() : ui_({.toNative = Same, .toWindows = Same}), desktop_(ui_) {}
+  WindowTest() : ui_({.toNative = Same, .toWindows = Same}), desktop_(ui_) {
+    timer_.Bind(wxEVT_TIMER, [this](wxTimerEvent&) { TryNextStep(); });
+  }
 
   // Lets everything that is under way arrive.
   static void Settle(int milliseconds = 250) {
@@ -72,11 +92,33 @@ protected:
     Settle();
   }
 
-  // Runs `step` while a modal loop is on screen.
-  void Later(std::function<void()> step) {
-    timers_.push_back(std::make_unique<wxTimer>());
-    timers_.back()->Bind(wxEVT_TIMER, [step = std::move(step)](wxTimerEvent&) { step(); });
-    timers_.back()->StartOnce(500 * static_cast<int>(timers_.size()));
+  static bool FocusIsIn(const char* name) {
+    const wxWindow* focused = wxWindow::FindFocus();
+    for (; focused != nullptr; focused = focused->GetParent()) {
+      if (focused->GetName() == name) return true;
+    }
+    return false;
+  }
+
+  // Does each step once its condition holds, also while dialogs are open.
+  struct Step {
+    std::string name;
+    std::function<bool()> isTime;
+    std::function<void()> act;
+  };
+  void PlayAlong(std::deque<Step> steps) {
+    steps_ = std::move(steps);
+    was_time_ = false;
+    timer_.Start(150);
+  }
+  void WaitForTheLastStep() {
+    constexpr int kLongest = 60000;
+    for (int waited = 0; !steps_.empty() && waited < kLongest; waited += 250) Settle(250);
+    EXPECT_TRUE(steps_.empty()) << "still waiting for: " << (steps_.empty() ? "" : steps_.front().name);
+    Settle(500);
+  }
+  Step AnswerBox(const std::string& text, int key = WXK_RETURN) {
+    return {text, [text] { return DialogShows(text); }, [this, key] { mouse_and_keys_.Char(key); }};
   }
 
   wxUIActionSimulator mouse_and_keys_;
@@ -86,7 +128,26 @@ protected:
 private:
   static std::string Same(const std::string& path) { return path; }
 
-  std::vector<std::unique_ptr<wxTimer>> timers_;
+  // A window that has just come up takes keys a moment later, so that the condition must hold twice.
+  void TryNextStep() {
+    if (acting_ || steps_.empty()) return;
+    const bool is_time = steps_.front().isTime();
+    if (!is_time || !was_time_) {
+      was_time_ = is_time;
+      return;
+    }
+    was_time_ = false;
+    acting_ = true;
+    const Step step = std::move(steps_.front());
+    steps_.pop_front();
+    step.act();
+    acting_ = false;
+  }
+
+  std::deque<Step> steps_;
+  bool was_time_ = false;
+  bool acting_ = false;
+  wxTimer timer_;
 };
 
 }  // namespace veritane::platform

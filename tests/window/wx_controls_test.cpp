@@ -221,13 +221,14 @@ TEST_F(WxControlsTest, AMessageBoxIsAnsweredByKeys) {
     answers.push_back(desktop_.ShowMessage({.text = "b", .title = ""}));
   };
   OpenEntry();
-  Later([&] {
-    EXPECT_EQ(dynamic_cast<wxTopLevelWindow&>(*Widget("message")).GetTitle(), " Notice");
-    EXPECT_EQ(Widget("text")->GetLabel(), " a");
-    mouse_and_keys_.Char(WXK_ESCAPE);
-  });
-  Later([&] { mouse_and_keys_.Char('n'); });
-  Later([&] { mouse_and_keys_.Char(WXK_RETURN); });
+  PlayAlong({{"the first box", [] { return DialogShows(" a"); },
+              [&] {
+                EXPECT_EQ(dynamic_cast<wxTopLevelWindow&>(*Widget("message")).GetTitle(), " Notice");
+                EXPECT_EQ(Widget("text")->GetLabel(), " a");
+                mouse_and_keys_.Char(WXK_ESCAPE);
+              }},
+             AnswerBox("Delete R", 'n'),
+             AnswerBox("b")});
   Click("okay");
   EXPECT_THAT(answers, ElementsAre(MessageAnswer::kCancel, MessageAnswer::kNo, MessageAnswer::kOk));
 }
@@ -241,13 +242,15 @@ TEST_F(WxControlsTest, AModalFormBlocksTheOthersUntilItHides) {
     has_returned = true;
   };
   OpenEntry();
-  Later([&] {
-    EXPECT_FALSE(has_returned);
-    // The close button of the window underneath.
-    dynamic_cast<wxTopLevelWindow&>(*Widget("frmEntry")).Close();
-    mouse_and_keys_.Text("abc");
-  });
-  Later([&] { mouse_and_keys_.Char(WXK_RETURN); });
+  PlayAlong({{"the dialog", [&] { return dialog.Shown() && FocusIsIn("product"); },
+              [&] {
+                EXPECT_FALSE(has_returned);
+                // The close button of the window underneath.
+                dynamic_cast<wxTopLevelWindow&>(*Widget("frmEntry")).Close();
+                mouse_and_keys_.Text("abc");
+              }},
+             {"the text", [&] { return dialog.product.Text() == "abc"; },
+              [&] { mouse_and_keys_.Char(WXK_RETURN); }}});
   Click("okay");
   EXPECT_TRUE(has_returned);
   EXPECT_TRUE(form_.Shown());
@@ -278,7 +281,7 @@ TEST_F(WxControlsTest, InputDuringARunningHandlerStartsNothing) {
 TEST_F(WxControlsTest, ARunTimeErrorIsShownAndTheProgramGoesOn) {
   form_.okay.OnClick = [] { throw RunTimeError(ErrorNumber::kFileNotFound); };
   OpenEntry();
-  Later([&] { mouse_and_keys_.Char(WXK_RETURN); });
+  PlayAlong({AnswerBox("Run-time error 53")});
   Click("okay");
   EXPECT_FALSE(ui_.Ended());
   Click("cancel");
@@ -305,7 +308,8 @@ TEST_F(WxControlsTest, EndingTheProgramClosesItsDialogs) {
   dialog.okay.OnClick = [&] { desktop_.End(3); };
   form_.okay.OnClick = [&] { dialog.ShowModal(); };
   OpenEntry();
-  Later([&] { mouse_and_keys_.Char(WXK_RETURN); });
+  PlayAlong({{"the dialog", [&] { return dialog.Shown() && FocusIsIn("product"); },
+              [&] { mouse_and_keys_.Char(WXK_RETURN); }}});
   Click("okay");
   EXPECT_EQ(ui_.ExitStatus(), 3);
   EXPECT_FALSE(dialog.Shown());
