@@ -120,7 +120,7 @@ TEST_F(MeasuredRunTest, GivingUpOnTheAccessoryOrAnInstrumentErrorFilesNothing) {
   const auto events = Measure(2);
   EXPECT_EQ(events.Last("message")["text"], " Spectrometer reported an error. Error #5");
   EXPECT_EQ(events.Last("message")["title"], " Warning");
-  EXPECT_EQ(Calls().back(), "Interactive(true)");
+  EXPECT_EQ(LastCall(), "Interactive(true)");
   EXPECT_THAT(machine_.files.ListFiles(Data("Samples")), IsEmpty());
   EXPECT_EQ(Read(Data("log.txt")), "");
   EXPECT_TRUE(IsVisible("frmVeritane.fraMainMenu"));

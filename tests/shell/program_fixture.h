@@ -75,6 +75,11 @@ protected:
   std::string Verdict() { return run_.Get("frmVeritane.chart")["labels"][platform::Chart::kVerdictLabel]; }
   bool IsVisible(const std::string& control) { return run_.Get(control)["visible"]; }
   std::vector<std::string> Calls() { return bench_.Calls().Take(); }
+  // The last of the calls, "" when there were none.
+  std::string LastCall() {
+    const std::vector<std::string> calls = Calls();
+    return calls.empty() ? "" : calls.back();
+  }
 
   TemporaryFolder folder_;
   platform::SystemMachine machine_{folder_.Path(), "C"};

@@ -25,7 +25,7 @@ TEST_F(ReprocessingTest, ASampleFileThatCannotBeReadIsNotChosen) {
       Play({"click frmVeritane.cmdSamp", "file \"" + Sample("damaged.bsp") + "\"", "answer OK"});
   EXPECT_THAT(damaged.Messages(), ElementsAre(HasSubstr("damaged.bsp")));
   EXPECT_EQ(State().SampSelected, 0);
-  EXPECT_EQ(Calls().back(), "Interactive(true)");
+  EXPECT_EQ(LastCall(), "Interactive(true)");
   ExpectNoResult();
 }
 
@@ -48,7 +48,7 @@ TEST_F(ReprocessingTest, BothMustBeChosenButPlsNeedsOnlyTheSample) {
   Steps steps{"file \"C:\\octane.cal\""};
   steps.insert(steps.end(), 6, "answer OK");
   events = Reprocess("PLS", steps);
-  EXPECT_EQ(events.Messages().front(), "Calibration file did not load. It cannot be read only.");
+  EXPECT_EQ(events.Messages().at(0), "Calibration file did not load. It cannot be read only.");
   EXPECT_TRUE(IsVisible("frmVeritane.fraSpectrum")) << "the prediction was under way, without a Standard";
   Play(
       {"click frmVeritane.cmdBacktoMainMenu", "click frmVeritane.cmdSupervisor", "tab frmVeritane.SSTab1 5"});
@@ -143,7 +143,7 @@ TEST_F(ReprocessingTest, AFileThatIsGoneOrATableThatIsDamagedIsNamed) {
   machine_.files.DeleteFile(Sample("lots.bsp"));
   EXPECT_THAT(Reprocess("Euclidean", {"answer OK"}).Messages(), ElementsAre(HasSubstr(Sample("lots.bsp"))));
   ExpectNoResult();
-  EXPECT_EQ(Calls().back(), "Interactive(true)");
+  EXPECT_EQ(LastCall(), "Interactive(true)");
 
   Write(Data("Meth.tbl"), " 3 \r\nOTHER,Film,Fourier,\r\n");
   EXPECT_THAT(Reprocess("Euclidean", {"answer OK"}).Messages(), ElementsAre(HasSubstr(Data("Meth.tbl"))));

@@ -209,7 +209,7 @@ TEST_F(SampleRunTest, SpectraMeasuredDifferentlyAreRefusedBeforeAnythingIsFiled)
   EXPECT_EQ(events.Last("message")["title"], "Notice");
   EXPECT_EQ(events.Last("message")["icon"], "critical");
   ExpectNothingHappened();
-  EXPECT_THAT(Calls().back(), "Interactive(true)");
+  EXPECT_EQ(LastCall(), "Interactive(true)");
 }
 
 TEST_F(SampleRunTest, ALongerSampleThanItsStandardIsAnErrorAndAShorterOneIsComparedAsFarAsItGoes) {
@@ -225,7 +225,7 @@ TEST_F(SampleRunTest, ALongerSampleThanItsStandardIsAnErrorAndAShorterOneIsCompa
   EXPECT_FALSE(run_.Screen().Find("frmStatus")->Shown());
   EXPECT_EQ(Verdict(), "");
   EXPECT_FALSE(Exists(Sample("ASPIRIN-1.his"))) << "no verdict, no record of one";
-  EXPECT_THAT(Calls().back(), "Interactive(true)");
+  EXPECT_EQ(LastCall(), "Interactive(true)");
 
   WriteSpectrum(Standard("aspirin.bsp"), 100, 4, Bands(kPoints - 50));
   RunDemonstration("ASPIRIN-1", "Lot 8");

@@ -182,7 +182,7 @@ TEST_F(StandardTest, AnAbandonedCollectionLeavesNoStandardAndNoRow) {
                              "in correct accessory and click OK to continue.");
       EXPECT_FALSE(Exists(Standard("PS.bsp")));
       EXPECT_EQ(Table(), " 1 \r\nASPIRIN-1,Disc,Euclidean,\r\n");
-      EXPECT_EQ(Calls().back(), "Interactive(true)");
+      EXPECT_EQ(LastCall(), "Interactive(true)");
       EXPECT_TRUE(IsVisible("frmVeritane.fraSupervisorMode"));
     }
   }
@@ -240,7 +240,8 @@ TEST_F(StandardTest, AProductThatIsInTheTableAlreadyIsToldOf) {
   EnterStandardsTab();
   Steps steps = Measured(Describe("aspirin-1", "Fourier"));
   steps.emplace_back("answer OK");
-  EXPECT_THAT(Play(steps).Messages().back(), HasSubstr("earlier row for Product ID: aspirin-1"));
+  EXPECT_THAT(std::string(Play(steps).Last("message")["text"]),
+              HasSubstr("earlier row for Product ID: aspirin-1"));
   EXPECT_EQ(Table(), " 2 \r\nASPIRIN-1,Disc,Euclidean,\r\naspirin-1,Disc,Fourier,\r\n");
 }
 

@@ -100,7 +100,7 @@ TEST_F(StartUpTest, WithoutItsCalibrationMethodTheProgramSaysSoAndEnds) {
       ElementsAre("A file required by Veritane is not present (Initial.clm). Please re-install Veritane."));
   EXPECT_EQ(events.Last("message")["title"], "Notice");
   EXPECT_TRUE(run_.Screen().Ended());
-  EXPECT_THAT(Calls().back(), "QuitApplication");
+  EXPECT_EQ(LastCall(), "QuitApplication");
   EXPECT_EQ(run_.Finish(), 0);
 }
 

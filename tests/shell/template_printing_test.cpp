@@ -210,7 +210,7 @@ TEST_F(TemplatePrintingTest, AMissingOrDamagedTemplateIsToldOverASafeResult) {
   const std::string not_completed = "\r\nPrinting through the template " + kTemplate + " was not completed.";
   machine_.files.DeleteFile(kTemplate);
   const auto missing = MeasureFirst("ASA-100", "acetylsalicylic acid", {"answer OK"});
-  EXPECT_THAT(missing.Messages().back(),
+  EXPECT_THAT(std::string(missing.Last("message")["text"]),
               AllOf(HasSubstr("Run-time error 53: File not found"), HasSubstr(not_completed)));
   ExpectOnlyRecords("ASA-100");
   ExpectEveryDocumentClosed(Calls());
@@ -226,7 +226,7 @@ TEST_F(TemplatePrintingTest, AFolderThatTakesNoPrintIsToldOverASafeResult) {
   // A file lies where the folder should be.
   Write(Data("Prints"), "in the way");
   const auto events = MeasureFirst("ASA-100", "acetylsalicylic acid", {"answer OK"});
-  EXPECT_THAT(events.Messages().back(),
+  EXPECT_THAT(std::string(events.Last("message")["text"]),
               AllOf(HasSubstr("Run-time error 75"), HasSubstr("was not completed")));
   EXPECT_THAT(events.Named("print"), IsEmpty());
   machine_.files.DeleteFile(Data("Prints"));
