@@ -4,7 +4,6 @@
 #include <locale>
 #include <regex>
 
-#include "simulator/spectrum_file.h"
 #include "tests/shell/program_fixture.h"
 
 namespace veritane::tests {
@@ -39,14 +38,6 @@ protected:
     std::locale::global(std::locale::classic());
     std::setlocale(LC_ALL, "C");
   }
-
-  platform::Events MeasureFirst(const std::string& product, const std::string& material) {
-    SetInstrument("empty");
-    Steps steps = EnterSample(product);
-    steps.insert(steps.end(),
-                 {"answer OK", "answer OK", [=, this] { SetInstrument(material); }, "answer OK"});
-    return Play(steps);
-  }
 };
 
 TEST_P(LocaleTest, NumbersKeepTheirPointOnScreenAndInFiles) {
@@ -59,7 +50,7 @@ TEST_P(LocaleTest, NumbersKeepTheirPointOnScreenAndInFiles) {
   EXPECT_THAT(Caption("frmVeritane.lblResult"), FitsPattern("Sample Name: Lot 7  [0-9.]+%\\. .*"));
   EXPECT_THAT(Read(Sample("asa-100.his")),
               FitsPattern("[^\r]*\r\nLot 7,11/21/26 10:59:00,asa-100,Euclidean,Fail, [0-9.]+,Ann\r\n"));
-  const auto filed = simulator::ReadSpectrumFile("", Read(Sample("asa-100.bsp"))).spectra.at(0);
+  const auto filed = Spectra(Sample("asa-100.bsp")).at(0);
   EXPECT_EQ(filed.ordinates.values.size(), 3601U);
   Play({"click frmVeritane.cmdExit"});
   EXPECT_THAT(Read(Data("settings.ini")), HasSubstr("\r\n85.5\r\n"));
@@ -68,20 +59,8 @@ TEST_P(LocaleTest, NumbersKeepTheirPointOnScreenAndInFiles) {
 TEST_P(LocaleTest, APredictionGoesThroughExportLibraryAndCalibrationUnchanged) {
   WriteSettings(false);
   Play({"start"});
-  bench_.SampleCompartment().Write(
-      {.sample = "empty", .accessory = "ATR", .noise = 0, .duration = 0, .seed = 1});
-  Steps steps = EnterSample("ps-pe-blend");
-  steps.insert(steps.end(),
-               {"answer OK", "answer OK",
-                [this] {
-                  bench_.SampleCompartment().Write({.sample = "polystyrene 0.3 + polyethylene 0.7",
-                                                    .accessory = "ATR",
-                                                    .noise = 0,
-                                                    .duration = 0,
-                                                    .seed = 1});
-                },
-                "answer OK"});
-  Play(steps);
+  accessory_ = simulator::kAtrAccessory;
+  MeasureFirst("ps-pe-blend", "polystyrene 0.3 + polyethylene 0.7");
   const std::vector<std::string> header = run_.Get("frmVeritane.chart")["header"];
   EXPECT_THAT(header, ::testing::ElementsAre(FitsPattern("Polystyrene = (29|30)\\.[0-9]+ %"),
                                              FitsPattern("Polyethylene = (69|70)\\.[0-9]+ %")));

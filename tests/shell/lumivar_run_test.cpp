@@ -1,7 +1,6 @@
 // A product that is judged by Lumivar, through the whole program.
 #include <cmath>
 
-#include "simulator/spectrum_file.h"
 #include "tests/identification/lumivar_reference.h"
 #include "tests/identification/reference.h"
 #include "tests/shell/program_fixture.h"
@@ -35,7 +34,7 @@ protected:
 
   // The spectrum of a file as the program reads it.
   state::SpectrumBuffer Stored(const std::string& path) {
-    const auto spectrum = simulator::ReadSpectrumFile(path, Read(path)).spectra.at(0);
+    const auto spectrum = Spectra(path).at(0);
     return {.Data = spectrum.ordinates,
             .Res = spectrum.spacing,
             .NumPts = static_cast<double>(spectrum.ordinates.Size())};
@@ -143,9 +142,7 @@ TEST_F(LumivarRunTest, TheReportGoesWithItsSpectrum) {
 TEST_F(LumivarRunTest, ASpectrumTooShortForABandIsAnErrorAndNoVerdict) {
   WriteSpectrum(Standard("PS.bsp"), 100, 4, Bands(30));
   WriteSpectrum(Standard("aspirin.bsp"), 100, 4, Bands(30));
-  Steps steps = EnterSample("PS");
-  for (int box = 0; box < 4; ++box) steps.push_back("answer OK");
-  const auto events = Play(steps);
+  const auto events = Play(WithOkays(EnterSample("PS"), 4));
   EXPECT_EQ(events.Last("error")["number"], 9);
   EXPECT_THAT(std::string(events.Last("message")["text"]), HasSubstr("too short for a single Lumivar band"));
   EXPECT_FALSE(Exists(Sample("PS.his")));
@@ -158,7 +155,7 @@ TEST_F(LumivarRunTest, AMeasuredSampleIsJudgedAlikeAndCarriesItsQuality) {
   WriteSettings(false);
   WriteMeasuringMethod();
   WriteSpectrum(Standard("PS.bsp"), 100, 4, Bands(301));
-  bench_.SampleCompartment().Write({.sample = "polystyrene", .noise = 0, .duration = 0, .seed = 1});
+  SetInstrument("polystyrene");
   RunDemonstration("PS");
   ASSERT_TRUE(IsVisible("frmVeritane.fraSpectrum"));
   ExpectBands(reference::Lumivar(Stored(Standard("PS.bsp")), Stored(Sample("PS.bsp"))));

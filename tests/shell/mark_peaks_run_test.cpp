@@ -2,7 +2,6 @@
 #include <algorithm>
 #include <cmath>
 
-#include "simulator/spectrum_file.h"
 #include "tests/shell/program_fixture.h"
 
 namespace veritane::tests {
@@ -27,11 +26,7 @@ protected:
   }
 
   // A run that ends in an error.
-  platform::Events RunToError(const std::string& product) {
-    Steps steps = EnterSample(product);
-    steps.push_back("answer OK");
-    return Play(steps);
-  }
+  platform::Events RunToError(const std::string& product) { return Play(WithOkays(EnterSample(product))); }
   void ExpectNoResult() {
     EXPECT_EQ(Read(Data("log.txt")), "") << "nothing was measured and filed without a result";
     EXPECT_THAT(machine_.files.ListFiles(Data("Samples")), IsEmpty());
@@ -61,20 +56,15 @@ TEST_F(MarkPeaksRunTest, MeasuredSamplesAreFiledOneAfterAnotherAndNoDocumentStay
   WriteSettings(false);
   WriteMeasuringMethod();
   WriteSpectrum(Standard("PS.bsp"), 100, 4, Bands(301));
-  bench_.SampleCompartment().Write({.sample = "polystyrene", .noise = 0, .duration = 0, .seed = 1});
+  SetInstrument("polystyrene");
   RunDemonstration("PS");
   Calls();
-  Steps steps{"click frmVeritane.cmdBacktoMainMenu"};
-  for (const auto& step : EnterSample("PS", "Lot 8")) steps.push_back(step);
-  steps.push_back("answer OK");
-  Play(steps);
+  Play({"click frmVeritane.cmdBacktoMainMenu"});
+  Play(WithOkays(EnterSample("PS", "Lot 8")));
   ASSERT_TRUE(IsVisible("frmVeritane.fraSpectrum"));
   const auto calls = Calls();
-  const auto is_opening = [](const std::string& call) { return call.starts_with("OpenDocument("); };
-  const auto is_closing = [](const std::string& call) { return call.starts_with("CloseDocument("); };
-  EXPECT_EQ(std::count_if(calls.begin(), calls.end(), is_opening),
-            std::count_if(calls.begin(), calls.end(), is_closing));
-  const auto filed = simulator::ReadSpectrumFile(Sample("PS.bsp"), Read(Sample("PS.bsp"))).spectra;
+  ExpectHandedBack(calls);
+  const auto filed = Spectra(Sample("PS.bsp"));
   ASSERT_EQ(filed.size(), 2U);
   EXPECT_EQ(filed[1].name, "Lot 8");
   EXPECT_THAT(calls, Contains("SetValue()")) << "no number stands for what was not compared";
@@ -107,11 +97,10 @@ TEST_F(MarkPeaksRunTest, ADamagedOrMissingPeakFileIsNamedBeforeAnythingIsMeasure
 TEST_F(MarkPeaksRunTest, AFileThatBreaksWhileTheSampleIsMeasuredLeavesNoPeakOfTheRunBefore) {
   RunDemonstration("PS");
   ASSERT_FALSE(program_->State().peakPositions.empty());
-  Steps steps{"click frmVeritane.cmdBacktoMainMenu"};
-  for (const auto& step : EnterSample("PS")) steps.push_back(step);
+  Play({"click frmVeritane.cmdBacktoMainMenu"});
+  Steps steps = EnterSample("PS");
   steps.push_back([this] { Write(Data("peaks.txt"), "none"); });
-  for (int box = 0; box < 4; ++box) steps.push_back("answer OK");
-  EXPECT_EQ(Play(steps).Last("error")["number"], 13);
+  EXPECT_EQ(Play(WithOkays(steps, 4)).Last("error")["number"], 13);
   EXPECT_THAT(program_->State().peakPositions, IsEmpty());
   EXPECT_THAT(run_.Get("frmVeritane.chart")["markers"], IsEmpty());
   EXPECT_FALSE(IsVisible("frmVeritane.fraSpectrum"));

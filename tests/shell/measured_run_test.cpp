@@ -3,7 +3,6 @@
 #include <fstream>
 
 #include "platform/number_text.h"
-#include "simulator/spectrum_file.h"
 #include "tests/shell/program_fixture.h"
 
 namespace veritane::tests {
@@ -36,21 +35,13 @@ protected:
   }
   platform::Events MeasureAsItIs(int boxes) {
     if (program_->fraSpectrum.Visible()) Play({"click frmVeritane.cmdBacktoMainMenu"});
-    Steps steps = EnterSample("PS");
-    for (int box = 0; box < boxes; ++box) steps.push_back("answer OK");
-    return Play(steps);
+    return Play(WithOkays(EnterSample("PS"), boxes));
   }
-  std::size_t CountIn(const std::string& path) {
-    return simulator::ReadSpectrumFile(path, Read(path)).spectra.size();
-  }
+  std::size_t CountIn(const std::string& path) { return Spectra(path).size(); }
 };
 
 TEST_F(MeasuredRunTest, EveryCallComesInItsOrder) {
-  SetInstrument("empty");
-  Steps steps = EnterSample("PS");
-  steps.insert(steps.end(),
-               {"answer OK", "answer OK", [this] { SetInstrument("polystyrene"); }, "answer OK"});
-  const auto events = Play(steps);
+  const auto events = MeasureFirst("PS", "polystyrene");
   EXPECT_THAT(events.Messages(),
               ElementsAre(" A new Background is required. Empty it. Click on OK when ready to collect "
                           "the background spectrum.",
@@ -88,10 +79,8 @@ TEST_F(MeasuredRunTest, AnInstrumentOfTheYoungerFamilyGetsItsOptionBeforeEveryCo
   std::unique_ptr<shell::FrmVeritane> program;
   program_.reset();
   second.program.start = Starter(second, program);
-  Steps steps = EnterSample("PS");
-  for (int box = 0; box < 3; ++box) steps.push_back("answer OK");
   Calls();
-  second.Lines(steps);
+  second.Lines(WithOkays(EnterSample("PS"), 3));
   const auto calls = Calls();
   EXPECT_EQ(std::count(calls.begin(), calls.end(), "SetCollectOption(NI)"), 3)
       << "calibration, background, sample";
@@ -234,9 +223,7 @@ TEST_F(MeasuredRunTest, ADemonstrationDestroysNothingThatWasMeasured) {
   std::unique_ptr<shell::FrmVeritane> program;
   program_.reset();
   second.program.start = Starter(second, program);
-  Steps steps = EnterSample("PS", "shown");
-  steps.push_back("answer OK");
-  second.Lines(steps);
+  second.Lines(WithOkays(EnterSample("PS", "shown")));
   EXPECT_EQ(Read(Sample("PS-1.bsp")), measured);
   EXPECT_EQ(CountIn(Sample("PS.bsp")), 1U);
 }

@@ -3,7 +3,6 @@
 
 #include "plslibrary/calibration_file.h"
 #include "simulator/collect_method.h"
-#include "simulator/spectrum_file.h"
 #include "tests/shell/program_fixture.h"
 
 namespace veritane::tests {
@@ -30,12 +29,10 @@ protected:
     bench_.SampleCompartment().Write(
         {.sample = sample, .accessory = simulator::kAtrAccessory, .duration = 0, .seed = 7});
   }
-  platform::Events MeasureBlend(Steps more = {}) {
-    Steps steps = EnterSample("ps-pe-blend");
-    steps.insert(steps.end(), {"answer OK", "answer OK",
-                               [this] { Measured("polystyrene 0.3 + polyethylene 0.7"); }, "answer OK"});
-    steps.insert(steps.end(), more.begin(), more.end());
-    return Play(steps);
+  platform::Events MeasureBlend() {
+    Steps steps = WithOkays(EnterSample("ps-pe-blend"), 2);
+    steps.emplace_back([this] { Measured("polystyrene 0.3 + polyethylene 0.7"); });
+    return Play(WithOkays(std::move(steps)));
   }
   std::vector<std::string> Header() { return run_.Get("frmVeritane.chart")["header"]; }
 };
@@ -60,7 +57,7 @@ TEST_F(PlsRunTest, ABlendIsPredictedWithinTheErrorThatItsCrossValidationPromises
   EXPECT_THAT(Read(Sample("ps-pe-blend.his")), HasSubstr(",ps-pe-blend,PLS,Fail,,Ann\r\n"));
   EXPECT_FALSE(run_.Screen().Find("MainForm")->Shown());
 
-  const auto filed = simulator::ReadSpectrumFile("", Read(Sample("ps-pe-blend.bsp"))).spectra.at(0);
+  const auto filed = Spectra(Sample("ps-pe-blend.bsp")).at(0);
   EXPECT_TRUE(std::any_of(filed.parameters.begin(), filed.parameters.end(), [&](const auto& parameter) {
     return parameter.name == "Polystyrene [%]" &&
            std::get<double>(parameter.value) == state.PLSConcentrations[1];
@@ -71,14 +68,12 @@ TEST_F(PlsRunTest, TheSampleUnderJudgementIsPredictedNotTheFirstOfItsFile) {
   MeasureBlend();
   Play({"click frmVeritane.cmdBacktoMainMenu"});
   Measured("polystyrene 0.8 + polyethylene 0.2");
-  Steps steps = EnterSample("ps-pe-blend");
-  steps.emplace_back("answer OK");
-  Play(steps);
+  Play(WithOkays(EnterSample("ps-pe-blend")));
   EXPECT_NEAR(program_->State().PLSConcentrations[1], 80, 4);
 
   // Reprocessing predicts the chosen one, and needs no Standard for it.
-  Play({"click frmVeritane.cmdBacktoMainMenu", "click frmVeritane.cmdSupervisor", "tab frmVeritane.SSTab1 5",
-        "click frmVeritane.cmdSamp", "file \"" + Sample("ps-pe-blend.bsp") + "\"",
+  Play(BackToTab(5));
+  Play({"click frmVeritane.cmdSamp", "file \"" + Sample("ps-pe-blend.bsp") + "\"",
         "choose frmSelectSpectrum.lstSpectrum #0", "choose frmVeritane.cmbAlg \"PLS\"",
         "click frmVeritane.cmdNow", "file \"" + Standard("polymer blend.cal") + "\""});
   EXPECT_NEAR(program_->State().PLSConcentrations[1], 30, 4);
@@ -93,9 +88,7 @@ TEST_F(PlsRunTest, APredictionThatFailsIsToldAndLeavesNoValues) {
   MeasureBlend();
   Play({"click frmVeritane.cmdBacktoMainMenu"});
   machine_.files.DeleteFile(Standard("polymer blend.cal"));
-  Steps steps = EnterSample("ps-pe-blend");
-  steps.insert(steps.end(), 7, "answer OK");
-  const auto messages = Play(steps).Messages();
+  const auto messages = Play(WithOkays(EnterSample("ps-pe-blend"), 7)).Messages();
   EXPECT_EQ(messages.at(1), "Calibration file did not load. It cannot be read only.");
   EXPECT_THAT(std::vector(messages.begin() + 2, messages.end()),
               Each(AnyOf("No Calibration file Loaded", "No prediction structure present")));

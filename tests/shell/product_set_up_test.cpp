@@ -99,8 +99,8 @@ TEST_F(SetUpTest, ABandOutsideTheStandardFailsASampleUntilANullRegionExcludesIt)
   Play({"start"});
   RunDemonstration("A");
   EXPECT_EQ(Verdict(), "FAIL");
-  Play({"click frmVeritane.cmdBacktoMainMenu", "click frmVeritane.cmdSupervisor", "tab frmVeritane.SSTab1 2",
-        "choose frmVeritane.lstMeths #0", "click frmVeritane.cmdNullRegions",
+  Play(BackToTab(2));
+  Play({"choose frmVeritane.lstMeths #0", "click frmVeritane.cmdNullRegions",
         "type frmNullRegion.txtNullStart \"1280\"", "type frmNullRegion.txtNullEnd \"1180\"",
         "click frmNullRegion.cmdAddNullRegion", "click frmNullRegion.cmdDone",
         "click frmVeritane.cmdMainMenu"});

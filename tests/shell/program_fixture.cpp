@@ -1,6 +1,7 @@
 // Setting up the program for the tests.
 #include "tests/shell/program_fixture.h"
 
+#include <algorithm>
 #include <cmath>
 #include <fstream>
 #include <iterator>
@@ -104,8 +105,13 @@ void ProgramTest::CopyTestData(const std::string& name, const std::string& path)
 }
 
 void ProgramTest::SetInstrument(const std::string& sample, int fault, int count) {
-  bench_.SampleCompartment().Write(
-      {.sample = sample, .fault = fault, .faultCount = count, .noise = 0, .duration = 0, .seed = 1});
+  bench_.SampleCompartment().Write({.sample = sample,
+                                    .accessory = accessory_,
+                                    .fault = fault,
+                                    .faultCount = count,
+                                    .noise = 0,
+                                    .duration = 0,
+                                    .seed = 1});
 }
 
 ProgramTest::Steps ProgramTest::EnterSample(const std::string& product, const std::string& name,
@@ -115,11 +121,39 @@ ProgramTest::Steps ProgramTest::EnterSample(const std::string& product, const st
           "type frmSamp.txtOperatorName \"" + operator_name + "\"", "click frmSamp.cmdProductIDOkay"};
 }
 
-platform::Events ProgramTest::RunDemonstration(const std::string& product, const std::string& name) {
-  Steps steps = EnterSample(product, name);
-  // The background is announced, shown as done, and the sample is asked for.
-  for (int box = 0; box < 3; ++box) steps.push_back("answer OK");
+ProgramTest::Steps ProgramTest::WithOkays(Steps steps, int boxes) {
+  steps.insert(steps.end(), static_cast<std::size_t>(boxes), "answer OK");
+  return steps;
+}
+
+ProgramTest::Steps ProgramTest::BackToTab(int tab) {
+  return {"click frmVeritane.cmdBacktoMainMenu", "click frmVeritane.cmdSupervisor",
+          "tab frmVeritane.SSTab1 " + std::to_string(tab)};
+}
+
+platform::Events ProgramTest::MeasureFirst(const std::string& product, const std::string& material,
+                                           Steps more) {
+  SetInstrument("empty");
+  Steps steps = WithOkays(EnterSample(product), 2);
+  steps.insert(steps.end(), {[this, material] { SetInstrument(material); }, "answer OK"});
+  steps.insert(steps.end(), more.begin(), more.end());
   return Play(std::move(steps));
+}
+
+platform::Events ProgramTest::RunDemonstration(const std::string& product, const std::string& name) {
+  // The background is announced, shown as done, and the sample is asked for.
+  return Play(WithOkays(EnterSample(product, name), 3));
+}
+
+void ProgramTest::ExpectHandedBack(const std::vector<std::string>& calls) {
+  const auto begins = [&](const std::string& start) {
+    return std::count_if(calls.begin(), calls.end(),
+                         [&](const std::string& call) { return call.starts_with(start); });
+  };
+  EXPECT_EQ(begins("OpenDocument(") + begins("NewDocument("), begins("CloseDocument"))
+      << ::testing::PrintToString(calls);
+  ASSERT_FALSE(calls.empty());
+  EXPECT_EQ(calls.back(), "Interactive(true)");
 }
 
 std::vector<double> Bands(std::size_t points, double shift) {

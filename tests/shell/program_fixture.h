@@ -13,6 +13,7 @@
 #include "platform/pdf/pdf_printer.h"
 #include "platform/system/system_machine.h"
 #include "shell/frm_veritane.h"
+#include "simulator/spectrum_file.h"
 #include "tests/support/automation_connection.h"
 #include "tests/support/script_run.h"
 #include "tests/support/temporary_folder.h"
@@ -34,6 +35,10 @@ protected:
 
   void Write(const std::string& path, const std::string& text) { machine_.files.WriteBytes(path, text); }
   std::string Read(const std::string& path) const { return machine_.files.ReadBytes(path); }
+  // The spectra in a file.
+  std::vector<simulator::StoredSpectrum> Spectra(const std::string& path) const {
+    return simulator::ReadSpectrumFile(path, Read(path)).spectra;
+  }
   bool Exists(const std::string& path) const { return machine_.files.FileExists(path); }
 
   // Ten lines of settings; the threshold and whether the program demonstrates.
@@ -60,7 +65,7 @@ protected:
   std::function<void()> Starter(platform::ScriptRun& run, std::unique_ptr<shell::FrmVeritane>& program);
 
   // What lies in the simulated instrument, and the fault that the next `count` collections report. It
-  // measures at once and without noise.
+  // measures at once and without noise, with the accessory that is in it.
   void SetInstrument(const std::string& sample, int fault = 0, int count = 0);
 
   // Starts the program with the machine as it is and plays the steps.
@@ -68,6 +73,12 @@ protected:
   // The steps of one sample of a product, up to and with the OK of the dialog.
   static Steps EnterSample(const std::string& product, const std::string& name = "Lot 7",
                            const std::string& operator_name = "Ann");
+  // The steps, and behind them OK for as many boxes.
+  static Steps WithOkays(Steps steps, int boxes = 1);
+  // From the spectrum on display to a tab of the supervisor's.
+  static Steps BackToTab(int tab);
+  // A first sample of a product takes a background, too; further steps answer what comes behind the result.
+  platform::Events MeasureFirst(const std::string& product, const std::string& material, Steps more = {});
   // A sample in demonstration mode, all boxes answered.
   platform::Events RunDemonstration(const std::string& product, const std::string& name = "Lot 7");
 
@@ -81,6 +92,11 @@ protected:
     return calls.empty() ? "" : calls.back();
   }
 
+  // Of the operations called, what opened and closed documents: each one opened must be closed again, and
+  // the application is the user's.
+  static void ExpectHandedBack(const std::vector<std::string>& calls);
+
+  std::string accessory_ = simulator::kTransmissionAccessory;
   TemporaryFolder folder_;
   platform::SystemMachine machine_{folder_.Path(), "C"};
   TestFolders folders_;

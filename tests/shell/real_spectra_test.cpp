@@ -74,8 +74,7 @@ TEST_F(RealSpectraTest, IdenticalSpectraGiveExactlyOneHundredAndOthersWhatTheirD
 }
 
 TEST_F(RealSpectraTest, SpectraOfAnotherStartOrSpacingAreRefused) {
-  Steps steps = EnterSample("PS");
-  for (int box = 0; box < 4; ++box) steps.push_back("answer OK");
+  const Steps steps = WithOkays(EnterSample("PS"), 4);
   CopyTestData("ftir/ldpe.jdx", Standard("aspirin.bsp"));
   EXPECT_THAT(std::string(Play(steps).Last("message")["text"]), HasSubstr("have different starting points"));
   CopyTestData("jcamp/pacdec1.jdx", Standard("aspirin.bsp"));
@@ -87,9 +86,7 @@ TEST_F(RealSpectraTest, SpectraOfAnotherStartOrSpacingAreRefused) {
 TEST_F(RealSpectraTest, ADamagedStandardIsNamedAndEndsTheRun) {
   const std::string whole = Read(Standard("PS.bsp"));
   Write(Standard("PS.bsp"), whole.substr(0, 4000));
-  Steps steps = EnterSample("PS");
-  steps.push_back("answer OK");
-  const auto events = Play(steps);
+  const auto events = Play(WithOkays(EnterSample("PS")));
   ASSERT_FALSE(events.Last("error").is_null());
   EXPECT_THAT(std::string(events.Last("message")["text"]), HasSubstr("PS.bsp"));
   EXPECT_TRUE(IsVisible("frmVeritane.cmdSample"));

@@ -2,7 +2,6 @@
 // samples.
 #pragma once
 
-#include <algorithm>
 #include <cmath>
 #include <map>
 #include <string>
@@ -20,12 +19,9 @@ protected:
   static constexpr const char* kChooseBoth = " Please select a Standard and a Sample Spectrum.";
 
   void SetUp() override {
-    const std::string method = "From = 400\r\nTo = 1600\r\nSpacing = 4\r\n";
     WriteSettings(false);
     WriteProducts({"OTHER,Film,Fourier,", "Tablet-1,Disc,Euclidean,"});
-    Write(Standard("Disc.clm"), method);
-    Write(Standard("Initial.clm"), method);
-    WriteSpectrum(Standard("Autoalign.bsp"), 100, 4, Bands(kPoints));
+    WriteMeasuringMethod();
     WriteSpectrum(Standard("TABLET-1.bsp"), 100, 4, Bands(kPoints));
     WriteSamples({Bands(kPoints, 3), Bands(kPoints), Bands(kPoints, -5)});
     Write(Data("peaks.txt"), "640\r\n1000\r\n1440\r\n");
@@ -64,10 +60,7 @@ protected:
   }
   // Compares the chosen two; the further steps answer what the run asks.
   platform::Events Reprocess(const std::string& algorithm, const Steps& answers = {}) {
-    if (IsVisible("frmVeritane.fraSpectrum")) {
-      Play({"click frmVeritane.cmdBacktoMainMenu", "click frmVeritane.cmdSupervisor",
-            "tab frmVeritane.SSTab1 5"});
-    }
+    if (IsVisible("frmVeritane.fraSpectrum")) Play(BackToTab(5));
     Steps steps{"choose frmVeritane.cmbAlg \"" + algorithm + "\"", "click frmVeritane.cmdNow"};
     steps.insert(steps.end(), answers.begin(), answers.end());
     return Play(steps);
@@ -83,16 +76,6 @@ protected:
     EXPECT_EQ(run_.Screen().MousePointer(), platform::Pointer::kDefault);
     EXPECT_EQ(Verdict(), "");
     EXPECT_TRUE(std::isnan(State().comparison));
-  }
-  // Of the operations called, what opened and closed documents; each one opened must be closed again.
-  void ExpectHandedBack(const std::vector<std::string>& calls) {
-    const auto begins = [&](const std::string& start) {
-      return std::count_if(calls.begin(), calls.end(),
-                           [&](const std::string& call) { return call.starts_with(start); });
-    };
-    EXPECT_EQ(begins("OpenDocument"), begins("CloseDocument")) << ::testing::PrintToString(calls);
-    ASSERT_FALSE(calls.empty());
-    EXPECT_EQ(calls.back(), "Interactive(true)");
   }
   // All files of the data folder with their bytes.
   std::map<std::string, std::string> AllFiles() const {

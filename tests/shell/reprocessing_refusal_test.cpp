@@ -45,13 +45,10 @@ TEST_F(ReprocessingTest, BothMustBeChosenButPlsNeedsOnlyTheSample) {
   Play({"click frmVeritane.cmdStandard", "cancel"});
   Play(ChooseSample(Sample("lots.bsp"), "#0"));
   EXPECT_THAT(Reprocess("Mark Peaks", {"answer OK"}).Messages(), ElementsAre(kChooseBoth));
-  Steps steps{"file \"C:\\octane.cal\""};
-  steps.insert(steps.end(), 6, "answer OK");
-  events = Reprocess("PLS", steps);
+  events = Reprocess("PLS", WithOkays({"file \"C:\\octane.cal\""}, 6));
   EXPECT_EQ(events.Messages().at(0), "Calibration file did not load. It cannot be read only.");
   EXPECT_TRUE(IsVisible("frmVeritane.fraSpectrum")) << "the prediction was under way, without a Standard";
-  Play(
-      {"click frmVeritane.cmdBacktoMainMenu", "click frmVeritane.cmdSupervisor", "tab frmVeritane.SSTab1 5"});
+  Play(BackToTab(5));
   EXPECT_EQ(events.Last("file-dialog")["title"], "Select calibration file");
   EXPECT_EQ(events.Last("file-dialog")["filter"], "(*.cal)|*.cal");
   EXPECT_EQ(State().calfilename, "C:\\octane.cal");

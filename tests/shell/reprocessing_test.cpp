@@ -135,8 +135,7 @@ TEST_F(ReprocessingTest, TheChosenSpectrumIsTheOneComparedAndAChoiceSurvivesARun
   }
   EXPECT_EQ(Verdict(), "PASS");
   for (const char* entry : {"#0", "#2"}) {
-    Play({"click frmVeritane.cmdBacktoMainMenu", "click frmVeritane.cmdSupervisor",
-          "tab frmVeritane.SSTab1 5"});
+    Play(BackToTab(5));
     Play(ChooseSample(Sample("lots.bsp"), entry));
     Reprocess("Euclidean");
     EXPECT_LT(State().comparison, 90) << entry;
@@ -145,19 +144,14 @@ TEST_F(ReprocessingTest, TheChosenSpectrumIsTheOneComparedAndAChoiceSurvivesARun
 }
 
 TEST_F(ReprocessingTest, MeasuredSamplesAreFoundAgainInTheirFile) {
-  const auto put_in = [this](const char* material) {
-    return [this, material] {
-      bench_.SampleCompartment().Write(
-          {.sample = material, .fault = 0, .faultCount = 0, .noise = 0, .duration = 0, .seed = 1});
-    };
-  };
   Play({"click frmVeritane.cmdMainMenu"});
   WriteProducts({"PS,Disc,Euclidean,"});
   WriteSpectrum(Standard("PS.bsp"), 100, 4, Bands(kPoints));
   WriteSpectrum(Standard("backDisc.bsp"), 100, 4, std::vector<double>(kPoints, 50.0));
   const auto measure = [&](const char* material, const char* name) {
     Steps steps = EnterSample("PS", name);
-    steps.insert(steps.end(), {put_in(material), "answer OK", "click frmVeritane.cmdBacktoMainMenu"});
+    steps.insert(steps.end(), {[=, this] { SetInstrument(material); }, "answer OK",
+                               "click frmVeritane.cmdBacktoMainMenu"});
     Play(steps);
     return State().comparison;
   };
@@ -170,8 +164,7 @@ TEST_F(ReprocessingTest, MeasuredSamplesAreFoundAgainInTheirFile) {
   Play(ChooseSample(Sample("PS.bsp"), "\"Drum 1 Collected on 2026/11/21 10:59:00\""));
   Reprocess("Euclidean");
   EXPECT_EQ(State().comparison, caffeine) << "what the sample run found";
-  Play(
-      {"click frmVeritane.cmdBacktoMainMenu", "click frmVeritane.cmdSupervisor", "tab frmVeritane.SSTab1 5"});
+  Play(BackToTab(5));
   Play(ChooseSample(Sample("PS.bsp"), "#0"));
   Reprocess("Euclidean");
   EXPECT_EQ(State().comparison, polystyrene);
@@ -186,9 +179,8 @@ TEST_F(ReprocessingTest, AMatchEqualToTheThresholdPassesAndOneBelowFails) {
   Reprocess("Euclidean");
   const double quality = State().comparison;
   const auto judge_at = [&](double threshold) {
-    Play({"click frmVeritane.cmdBacktoMainMenu", "click frmVeritane.cmdSupervisor",
-          "tab frmVeritane.SSTab1 4",
-          "set frmVeritane.txtThreshold \"" + platform::FormatPattern(threshold, "0.00") + "\"",
+    Play(BackToTab(4));
+    Play({"set frmVeritane.txtThreshold \"" + platform::FormatPattern(threshold, "0.00") + "\"",
           "click frmVeritane.cmdMainMenu", "click frmVeritane.cmdSupervisor", "tab frmVeritane.SSTab1 5",
           "click frmVeritane.cmdNow"});
     EXPECT_EQ(State().comparison, quality);
@@ -198,9 +190,8 @@ TEST_F(ReprocessingTest, AMatchEqualToTheThresholdPassesAndOneBelowFails) {
   EXPECT_EQ(program_->chart.Verdict(), platform::VerdictColour::kPass);
   EXPECT_EQ(judge_at(quality + 0.01), "FAIL");
 
-  Play({"click frmVeritane.cmdBacktoMainMenu", "click frmVeritane.cmdSupervisor", "tab frmVeritane.SSTab1 4",
-        "click frmVeritane.chkPrintPassFail"});
-  Play({"tab frmVeritane.SSTab1 5", "click frmVeritane.cmdNow"});
+  Play(BackToTab(4));
+  Play({"click frmVeritane.chkPrintPassFail", "tab frmVeritane.SSTab1 5", "click frmVeritane.cmdNow"});
   EXPECT_EQ(Verdict(), "") << "the option is off";
   EXPECT_EQ(State().comparison, quality);
 }

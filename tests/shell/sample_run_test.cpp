@@ -1,7 +1,6 @@
 // The sample run through its forms: what is shown, what is filed, what is recorded, and every early end.
 #include <cmath>
 
-#include "simulator/spectrum_file.h"
 #include "tests/shell/program_fixture.h"
 
 namespace veritane::tests {
@@ -35,9 +34,6 @@ protected:
     EXPECT_FALSE(IsVisible("frmVeritane.fraSpectrum"));
     EXPECT_TRUE(IsVisible("frmVeritane.fraMainMenu"));
     EXPECT_EQ(run_.Screen().MousePointer(), platform::Pointer::kDefault);
-  }
-  std::vector<simulator::StoredSpectrum> Spectra(const std::string& path) {
-    return simulator::ReadSpectrumFile(path, Read(path)).spectra;
   }
 };
 
@@ -99,9 +95,8 @@ TEST_F(SampleRunTest, AValueEqualToTheThresholdPassesAndOneBelowFails) {
   const auto judge_at = [&](double threshold) {
     char text[32];
     std::snprintf(text, sizeof text, "%.2f", threshold);
-    Play({"click frmVeritane.cmdBacktoMainMenu", "click frmVeritane.cmdSupervisor",
-          "tab frmVeritane.SSTab1 4", "set frmVeritane.txtThreshold \"" + std::string(text) + "\"",
-          "click frmVeritane.cmdMainMenu"});
+    Play(BackToTab(4));
+    Play({"set frmVeritane.txtThreshold \"" + std::string(text) + "\"", "click frmVeritane.cmdMainMenu"});
     RunDemonstration("ASPIRIN-1");
     EXPECT_EQ(program_->State().comparison, quality);
     return Verdict();
@@ -173,9 +168,8 @@ TEST_F(SampleRunTest, AScannersEnterGoesOnToTheSampleNameAndThereConfirms) {
 }
 
 TEST_F(SampleRunTest, AnAlgorithmThatIsNotThereSaysSoBeforeAnythingIsMeasured) {
-  Steps steps = EnterSample("ODD");
-  steps.push_back("answer OK");
-  EXPECT_THAT(Play(steps).Messages(), ElementsAre(HasSubstr("is not available in this version")));
+  EXPECT_THAT(Play(WithOkays(EnterSample("ODD"))).Messages(),
+              ElementsAre(HasSubstr("is not available in this version")));
   ExpectNothingHappened();
 }
 
@@ -191,8 +185,7 @@ TEST_F(SampleRunTest, OneKeyAfterAResultTheNextSampleCanBeEntered) {
 
 TEST_F(SampleRunTest, SpectraMeasuredDifferentlyAreRefusedBeforeAnythingIsFiled) {
   WriteSpectrum(Standard("aspirin.bsp"), 200, 2, Bands(kPoints));
-  Steps steps = EnterSample("ASPIRIN-1");
-  for (int box = 0; box < 4; ++box) steps.push_back("answer OK");
+  const Steps steps = WithOkays(EnterSample("ASPIRIN-1"), 4);
   auto events = Play(steps);
   EXPECT_EQ(events.Last("message")["text"],
             "Sample and Standard have been collected using different spectral resolutions (different Collect "
@@ -214,9 +207,7 @@ TEST_F(SampleRunTest, SpectraMeasuredDifferentlyAreRefusedBeforeAnythingIsFiled)
 
 TEST_F(SampleRunTest, ALongerSampleThanItsStandardIsAnErrorAndAShorterOneIsComparedAsFarAsItGoes) {
   WriteSpectrum(Standard("aspirin.bsp"), 100, 4, Bands(kPoints + 1));
-  Steps steps = EnterSample("ASPIRIN-1");
-  for (int box = 0; box < 4; ++box) steps.push_back("answer OK");
-  const auto events = Play(steps);
+  const auto events = Play(WithOkays(EnterSample("ASPIRIN-1"), 4));
   EXPECT_EQ(events.Last("error")["number"], 9);
   EXPECT_THAT(std::string(events.Last("message")["text"]),
               StartsWith("Run-time error 9: Subscript out of range"));
@@ -249,9 +240,7 @@ TEST_F(SampleRunTest, AComparisonThatCannotBeMadeEndsInAnErrorAndNeverInAPass) {
     WriteSpectrum(Standard("aspirin.bsp"), 100, 4, each.values);
     WriteSpectrum(Standard(std::string(each.product) + ".bsp"), 100, 4, each.values);
     // A Standard at fault ends the run at once; a sample, after the boxes that ask for it.
-    Steps steps = EnterSample(each.product);
-    for (int box = 0; box < each.boxes; ++box) steps.push_back("answer OK");
-    const auto events = Play(steps);
+    const auto events = Play(WithOkays(EnterSample(each.product), each.boxes));
     ASSERT_FALSE(events.Last("error").is_null()) << each.product << " " << each.error;
     EXPECT_EQ(events.Last("error")["number"], each.error);
     EXPECT_THAT(events.Refusals(), IsEmpty());
@@ -261,9 +250,7 @@ TEST_F(SampleRunTest, AComparisonThatCannotBeMadeEndsInAnErrorAndNeverInAPass) {
 
 TEST_F(SampleRunTest, AResultThatCannotBeRecordedStaysOnScreenAndTheOperatorIsTold) {
   machine_.files.CreateFolder(Sample("ASPIRIN-1.his"));
-  Steps steps = EnterSample("ASPIRIN-1");
-  for (int box = 0; box < 4; ++box) steps.push_back("answer OK");
-  const auto events = Play(steps);
+  const auto events = Play(WithOkays(EnterSample("ASPIRIN-1"), 4));
   EXPECT_EQ(events.Last("error")["number"], 75);
   EXPECT_THAT(std::string(events.Last("message")["text"]),
               HasSubstr("The sample is filed in " + Sample("ASPIRIN-1.bsp") +
@@ -275,9 +262,9 @@ TEST_F(SampleRunTest, AResultThatCannotBeRecordedStaysOnScreenAndTheOperatorIsTo
 TEST_F(SampleRunTest, TextThatIsNoNameOrBreaksARecordDoesNotGetIn) {
   WriteProducts({"ASPIRIN-1,..\\evil,Euclidean,", "A:B,Disc,Euclidean,"});
   for (const char* product : {"ASPIRIN-1", "A:B"}) {
-    Steps steps = EnterSample(product);
-    steps.push_back("answer OK");
-    EXPECT_THAT(Play(steps).Messages(), ElementsAre(HasSubstr("cannot name the product's files"))) << product;
+    EXPECT_THAT(Play(WithOkays(EnterSample(product))).Messages(),
+                ElementsAre(HasSubstr("cannot name the product's files")))
+        << product;
   }
   Play({"click frmVeritane.cmdSample", "set frmSamp.txtOperatorName \"Ann\rforged\"",
         "get frmSamp.txtOperatorName",

@@ -1,5 +1,4 @@
 // A supervisor's new product, from the dialog to the first sample of it.
-#include "simulator/spectrum_file.h"
 #include "tests/shell/program_fixture.h"
 
 namespace veritane::tests {
@@ -72,9 +71,7 @@ TEST_F(StandardTest, AMeasuredStandardBecomesAProductThatTheOperatorsSamplePasse
   EXPECT_TRUE(IsVisible("frmVeritane.fraSupervisorMode"));
 
   Play({"click frmVeritane.cmdMainMenu"});
-  Steps sample = EnterSample("PS");
-  sample.emplace_back("answer OK");
-  Play(sample);
+  Play(WithOkays(EnterSample("PS")));
   EXPECT_EQ(Verdict(), "PASS");
   EXPECT_EQ(program_->State().comparison, 100) << "without noise the sample is the Standard";
 }
@@ -121,9 +118,7 @@ TEST_F(StandardTest, AScannersEnterBehindTheProductIdLeadsOnInsteadOfMeasuring) 
 TEST_F(StandardTest, AnExistingStandardIsNeverMeasuredAgain) {
   Write(Standard("ps.bsp"), "as it was");
   EnterStandardsTab();
-  Steps steps = Describe("PS");
-  steps.emplace_back("answer OK");
-  const auto events = Play(steps);
+  const auto events = Play(WithOkays(Describe("PS")));
   EXPECT_THAT(events.Messages(), ElementsAre(" Standard already exists. Please delete Standard before "
                                              "collecting a new Standard with the same name."));
   EXPECT_EQ(events.Last("message")["icon"], "critical");
@@ -205,11 +200,8 @@ TEST_F(StandardTest, ADemonstrationFilesTheStoredSpectrumOfTheAlgorithm) {
                    {"click frmCollectStd.cmdChooseCalFile", "file \"" + Data("cal.cal") + "\""});
     }
     // A calibration that is of no use is told of six times, and the Standard is filed all the same.
-    steps.insert(steps.end(), algorithm == "PLS" ? 10 : 4, "answer OK");
-    Play(steps);
-    const auto values = [this](const std::string& path) {
-      return simulator::ReadSpectrumFile(path, Read(path)).spectra.at(0).ordinates.values;
-    };
+    Play(WithOkays(steps, algorithm == "PLS" ? 10 : 4));
+    const auto values = [this](const std::string& path) { return Spectra(path).at(0).ordinates.values; };
     EXPECT_EQ(values(Standard("P " + algorithm + ".bsp")), values(Standard(file))) << algorithm;
   }
   EXPECT_EQ(Table(),

@@ -2,7 +2,6 @@
 // what is left when it fails. On the data that ship.
 #include <algorithm>
 
-#include "simulator/spectrum_file.h"
 #include "tests/shell/program_fixture.h"
 #include "tests/support/pdf_text.h"
 
@@ -24,27 +23,13 @@ protected:
     LayOutShippedData();
     // Template printing, by the template that ships.
     Write(Data("settings.ini"), "0\r\n0\r\n\r\n1\r\n0\r\n90\r\n1\r\n" + kTemplate + "\r\n1\r\n1\r\n");
-    Compartment("empty");
+    SetInstrument("empty");
     Play({"start"});
   }
 
-  void Compartment(const std::string& sample) {
-    bench_.SampleCompartment().Write(
-        {.sample = sample, .accessory = accessory_, .noise = 0, .duration = 0, .seed = 1});
-  }
-  // A first sample of a product takes a background, too; further steps answer what comes behind the result.
-  platform::Events MeasureFirst(const std::string& product, const std::string& material, Steps more = {}) {
-    Compartment("empty");
-    Steps steps = EnterSample(product);
-    steps.insert(steps.end(), {"answer OK", "answer OK", [=, this] { Compartment(material); }, "answer OK"});
-    steps.insert(steps.end(), more.begin(), more.end());
-    return Play(steps);
-  }
   platform::Events MeasureNext(const std::string& product, const std::string& name) {
     Play({"click frmVeritane.cmdBacktoMainMenu"});
-    Steps steps = EnterSample(product, name);
-    steps.emplace_back("answer OK");
-    return Play(steps);
+    return Play(WithOkays(EnterSample(product, name)));
   }
 
   // The calls from the opening of the print's first document on.
@@ -82,17 +67,8 @@ protected:
     }
     return calls;
   }
-  void ExpectEveryDocumentClosed(const std::vector<std::string>& calls) {
-    const auto begins = [&](const std::string& start) {
-      return std::count_if(calls.begin(), calls.end(),
-                           [&](const std::string& call) { return call.starts_with(start); });
-    };
-    EXPECT_EQ(begins("OpenDocument(") + begins("NewDocument("), begins("CloseDocument("))
-        << ::testing::PrintToString(calls);
-    EXPECT_EQ(calls.back(), "Interactive(true)");
-  }
   void ExpectOnlyRecords(const std::string& product) {
-    EXPECT_EQ(simulator::ReadSpectrumFile("", Read(Sample(product + ".bsp"))).spectra.size(), 1U);
+    EXPECT_EQ(Spectra(Sample(product + ".bsp")).size(), 1U);
     EXPECT_THAT(Read(Sample(product + ".his")), HasSubstr("Lot 7,"));
     EXPECT_THAT(Read(Data("log.txt")), HasSubstr("Ann,"));
     EXPECT_TRUE(IsVisible("frmVeritane.fraSpectrum"));
@@ -113,16 +89,15 @@ protected:
     MeasureFirst("ASA-100", "acetylsalicylic acid");
     MeasureNext("ASA-100", "Lot 8");
     MeasureNext("ASA-100", "Lot 9");
-    return Play({"click frmVeritane.cmdBacktoMainMenu", "click frmVeritane.cmdSupervisor",
-                 "tab frmVeritane.SSTab1 5", "click frmVeritane.cmdStandard",
-                 "file \"" + Standard("PET.bsp") + "\"", "click frmVeritane.cmdSamp",
-                 "file \"" + Sample("ASA-100.bsp") + "\"", "choose frmSelectSpectrum.lstSpectrum #2",
-                 "click frmVeritane.cmdStandard", "file \"" + Standard("ASA-100.bsp") + "\"",
-                 "choose frmVeritane.cmbAlg \"Fourier\"", "click frmVeritane.cmdNow"});
+    Play(BackToTab(5));
+    return Play({"click frmVeritane.cmdStandard", "file \"" + Standard("PET.bsp") + "\"",
+                 "click frmVeritane.cmdSamp", "file \"" + Sample("ASA-100.bsp") + "\"",
+                 "choose frmSelectSpectrum.lstSpectrum #2", "click frmVeritane.cmdStandard",
+                 "file \"" + Standard("ASA-100.bsp") + "\"", "choose frmVeritane.cmbAlg \"Fourier\"",
+                 "click frmVeritane.cmdNow"});
   }
 
   static const std::string kTemplate;
-  std::string accessory_ = simulator::kTransmissionAccessory;
 };
 
 const std::string TemplatePrintingTest::kTemplate =
@@ -132,7 +107,7 @@ TEST_F(TemplatePrintingTest, ASampleRunPrintsOnceItsRecordsAreSafe) {
   const auto events = MeasureFirst("ASA-100", "acetylsalicylic acid");
   EXPECT_THAT(events.Messages(), SizeIs(3)) << "no word beyond the run's own";
   const auto calls = Calls();
-  ExpectEveryDocumentClosed(calls);
+  ExpectHandedBack(calls);
   auto expected = Printing(Sample("ASA-100.bsp"), 1, Standard("ASA-100.bsp"));
   // The result was named in the sample file, and that was saved.
   expected.insert(expected.begin(), "CloseDocument(true)");
@@ -213,13 +188,13 @@ TEST_F(TemplatePrintingTest, AMissingOrDamagedTemplateIsToldOverASafeResult) {
   EXPECT_THAT(std::string(missing.Last("message")["text"]),
               AllOf(HasSubstr("Run-time error 53: File not found"), HasSubstr(not_completed)));
   ExpectOnlyRecords("ASA-100");
-  ExpectEveryDocumentClosed(Calls());
+  ExpectHandedBack(Calls());
 
   Write(kTemplate, "a letter to the editor\r\n");
   const auto damaged = Play({"click frmVeritane.cmdPrint", "answer OK"});
   EXPECT_THAT(damaged.Messages(), ElementsAre(AllOf(HasSubstr("line 1"), HasSubstr(not_completed))));
   ExpectOnlyRecords("ASA-100");
-  ExpectEveryDocumentClosed(Calls());
+  ExpectHandedBack(Calls());
 }
 
 TEST_F(TemplatePrintingTest, AFolderThatTakesNoPrintIsToldOverASafeResult) {
@@ -231,7 +206,7 @@ TEST_F(TemplatePrintingTest, AFolderThatTakesNoPrintIsToldOverASafeResult) {
   EXPECT_THAT(events.Named("print"), IsEmpty());
   machine_.files.DeleteFile(Data("Prints"));
   ExpectOnlyRecords("ASA-100");
-  ExpectEveryDocumentClosed(Calls());
+  ExpectHandedBack(Calls());
   EXPECT_THAT(Play({"click frmVeritane.cmdPrint"}).Named("print"), SizeIs(1)) << "the next print works again";
 }
 
@@ -252,11 +227,9 @@ TEST_F(TemplatePrintingTest, TheSupervisorChoosesTheTemplateAndDefaultPrintingEn
   Calls();
   MeasureFirst("ASA-100", "acetylsalicylic acid");
   EXPECT_THAT(Calls(), Contains("OpenPrintTemplate(" + Data("Overlay.bpt") + ")"));
-  Play({"click frmVeritane.cmdBacktoMainMenu", "click frmVeritane.cmdSupervisor", "tab frmVeritane.SSTab1 4",
-        "click frmVeritane.optDefaultPrint", "click frmVeritane.cmdMainMenu"});
-  Steps steps = EnterSample("ASA-100", "Lot 8");
-  steps.emplace_back("answer OK");
-  EXPECT_THAT(Play(steps).Named("print"), IsEmpty());
+  Play(BackToTab(4));
+  Play({"click frmVeritane.optDefaultPrint", "click frmVeritane.cmdMainMenu"});
+  EXPECT_THAT(Play(WithOkays(EnterSample("ASA-100", "Lot 8"))).Named("print"), IsEmpty());
   EXPECT_THAT(Calls(), Not(Contains("BeginPrint")));
 }
 
