@@ -4,36 +4,25 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <limits>
 #include <vector>
 
 #include "identification/baseline.h"
 #include "identification/correlation.h"
 #include "identification/normalisation.h"
 #include "identification/null_regions_applied.h"
-#include "platform/run_time_error.h"
 #include "tests/identification/reference.h"
+#include "tests/support/errors.h"
 
 namespace veritane::identification {
 namespace {
 
-using platform::RunTimeError;
 using reference::MeasuredSpectrum;
 using reference::TwoBands;
 using state::NullRegion;
 using state::Ordinates;
 using state::SpectrumBuffer;
 using ::testing::ElementsAre;
-
-template <typename Step>
-int ErrorOf(Step step) {
-  try {
-    step();
-  } catch (const RunTimeError& error) {
-    return error.Number();
-  }
-  return 0;
-}
+using tests::ErrorOf;
 
 double Compare(SpectrumBuffer standard, SpectrumBuffer sample, const std::vector<NullRegion>& regions = {}) {
   PrepareForEuclidean(standard, regions);
@@ -183,12 +172,7 @@ TEST(FourierComparison, LeavesBothTransformsAloneWhenOneIsTooShort) {
 }
 
 TEST(MeasuredSpectra, CompareAsTheirDefinitionInLongDouble) {
-  // Groups of one first wavenumber each: 400, 620 and 720 cm⁻¹.
-  const std::vector<std::vector<std::string>> groups{
-      {"polystyrene", "pet", "phenoxy-resin", "pmma", "polybutadiene", "polycarbonate"},
-      {"ldpe", "polyacetal", "polyvinyl-acetate", "polyvinyl-alcohol", "tpu"},
-      {"abs", "cellulose-acetate", "pa66", "pvc"}};
-  for (const auto& group : groups) {
+  for (const auto& group : reference::MaterialsByFirstWavenumber()) {
     for (const std::string& standard_name : group) {
       const SpectrumBuffer standard = MeasuredSpectrum(standard_name);
       for (const std::string& sample_name : group) {

@@ -8,13 +8,12 @@
 #include <utility>
 
 #include "identification/correlation.h"
-#include "platform/run_time_error.h"
 #include "tests/identification/reference.h"
+#include "tests/support/errors.h"
 
 namespace veritane::identification {
 namespace {
 
-using platform::RunTimeError;
 using reference::TwoBands;
 using state::SpectrumBuffer;
 
@@ -44,12 +43,7 @@ double Fourier(SpectrumBuffer standard, SpectrumBuffer sample) {
 
 // The number of the error that `compare` ends with, 0 when it returns a value.
 int ErrorOf(const Comparison& comparison, const SpectrumBuffer& standard, const SpectrumBuffer& sample) {
-  try {
-    comparison.compare(standard, sample);
-  } catch (const RunTimeError& error) {
-    return error.Number();
-  }
-  return 0;
+  return tests::ErrorOf([&] { comparison.compare(standard, sample); });
 }
 
 SpectrumBuffer Constant(double value, std::size_t points = 800) {

@@ -14,6 +14,7 @@
 namespace veritane::identification {
 namespace {
 
+using reference::MaterialsByFirstWavenumber;
 using reference::MeasuredSpectrum;
 using reference::Resampled;
 using state::SpectrumBuffer;
@@ -21,12 +22,6 @@ using tests::ErrorOf;
 
 constexpr double kNoNumber = std::numeric_limits<double>::quiet_NaN();
 constexpr double kInfinite = std::numeric_limits<double>::infinity();
-
-// Measured polymers by the wavenumber that their spectra begin at.
-const std::vector<std::vector<std::string>> kSameStart{
-    {"polystyrene", "pet", "phenoxy-resin", "pmma", "polybutadiene", "polycarbonate"},  // 400
-    {"ldpe", "polyacetal", "polyvinyl-acetate", "polyvinyl-alcohol", "tpu"},            // 620
-    {"abs", "cellulose-acetate", "pa66", "pvc"}};                                       // 720
 
 LumivarComparison Compare(const SpectrumBuffer& standard, const SpectrumBuffer& sample) {
   return CompareByLumivar(standard.Data, sample.Data, standard.Res);
@@ -54,7 +49,7 @@ SpectrumBuffer Times(SpectrumBuffer spectrum, double factor) {
 TEST(Lumivar, AgreesWithItsDefinitionOnMeasuredSpectraOfEverySpacing) {
   // 5 is the grid that they were measured on; the others do not divide 100, 8 and 40 round half to even.
   for (const double spacing : {5.0, 1.928474, 0.96424, 3.857, 7.7, 8.0, 33.0, 40.0}) {
-    for (const std::vector<std::string>& materials : kSameStart) {
+    for (const std::vector<std::string>& materials : MaterialsByFirstWavenumber()) {
       const SpectrumBuffer standard = Resampled(MeasuredSpectrum(materials.front()), spacing);
       for (const std::string& material : materials) {
         const SpectrumBuffer sample = Resampled(MeasuredSpectrum(material), spacing);
@@ -139,7 +134,7 @@ TEST(Lumivar, LaterBandsWeighMoreInTheQuality) {
 }
 
 TEST(Lumivar, IdenticalSpectraGiveExactly100) {
-  for (const std::vector<std::string>& materials : kSameStart) {
+  for (const std::vector<std::string>& materials : MaterialsByFirstWavenumber()) {
     for (const std::string& material : materials) {
       for (const double spacing : {5.0, 1.928474}) {
         const SpectrumBuffer spectrum = Resampled(MeasuredSpectrum(material), spacing);

@@ -3,16 +3,14 @@
 
 #include <gmock/gmock.h>
 
-#include "platform/run_time_error.h"
+#include "tests/support/errors.h"
 
 namespace veritane::identification {
 namespace {
 
-using platform::RunTimeError;
 using ::testing::AllOf;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
-using ::testing::Not;
 
 TEST(PeakFile, IsOneNumberAfterAnotherWhateverSeparatesThem) {
   for (const std::string text :
@@ -29,14 +27,9 @@ TEST(PeakFile, IsOneNumberAfterAnotherWhateverSeparatesThem) {
 
 // The text of the error that this file ends with.
 std::string Complaint(const std::string& bytes, int number) {
-  try {
-    ReadPeakFile(bytes, "C:\\peaks.txt");
-  } catch (const RunTimeError& error) {
-    EXPECT_EQ(error.Number(), number) << error.what();
-    return error.what();
-  }
-  ADD_FAILURE() << "accepted: " << bytes;
-  return "";
+  const std::string text = tests::ErrorTextOf([&] { ReadPeakFile(bytes, "C:\\peaks.txt"); }, number);
+  EXPECT_NE(text, "") << "accepted: " << bytes;
+  return text;
 }
 
 TEST(PeakFile, WhatIsNoNumberIsNamedWithItsFileAndLine) {

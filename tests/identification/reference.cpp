@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cmath>
 #include <fstream>
+#include <numbers>
 #include <sstream>
 #include <stdexcept>
 
@@ -84,6 +85,29 @@ double EuclideanQuality(const state::SpectrumBuffer& standard, const state::Spec
 
 double FourierQuality(const state::Ordinates& standard, const state::Ordinates& sample) {
   return static_cast<double>(Quality(FourierSpan(standard), FourierSpan(sample)));
+}
+
+std::vector<long double> FourierTransform(const std::vector<double>& values) {
+  const std::size_t size = values.size();
+  // k n is reduced modulo N so that the cosine's argument stays small.
+  std::vector<long double> cosine(size);
+  for (std::size_t i = 0; i < size; ++i) {
+    cosine[i] = std::cos(2 * std::numbers::pi_v<long double> * static_cast<long double>(i) /
+                         static_cast<long double>(size));
+  }
+  std::vector<long double> sums(size);
+  for (std::size_t k = 0; k < size; ++k) {
+    for (std::size_t n = 0; n < size; ++n) sums[k] += values[n] * cosine[k * n % size];
+  }
+  return sums;
+}
+
+const std::vector<std::vector<std::string>>& MaterialsByFirstWavenumber() {
+  static const std::vector<std::vector<std::string>> materials{
+      {"polystyrene", "pet", "phenoxy-resin", "pmma", "polybutadiene", "polycarbonate"},
+      {"ldpe", "polyacetal", "polyvinyl-acetate", "polyvinyl-alcohol", "tpu"},
+      {"abs", "cellulose-acetate", "pa66", "pvc"}};
+  return materials;
 }
 
 state::SpectrumBuffer MeasuredSpectrum(const std::string& name) {

@@ -9,85 +9,14 @@
 
 #include "platform/chart_shading.h"
 #include "platform/chart_trace.h"
-#include "platform/desktop.h"
 #include "platform/form.h"
-#include "platform/utf8.h"
+#include "tests/support/noting_screen.h"
+#include "tests/support/recording_surface.h"
 
 namespace veritane::platform {
 namespace {
 
-class NoInterface : public UserInterface {
-public:
-  void Attach(Form&) override {}
-  void RunModal(Form&) override {}
-  MessageAnswer ShowMessage(const Message&) override { return MessageAnswer::kOk; }
-  std::optional<std::string> ChooseFile(const FileChoice&) override { return std::nullopt; }
-  void ShowPointer(Pointer) override {}
-  void ProcessPendingEvents() override {}
-  void NotePrint(PrintKind, const std::string&) override {}
-  void CopyPicture(const Control&) override {}
-  std::optional<std::string> ClipboardText() override { return std::nullopt; }
-  void NoteError(const RunTimeError&) override {}
-  void End(int) override {}
-};
-
-// Every character is half as wide as it is high.
-class Recorder : public DrawingContext {
-public:
-  struct DrawnText {
-    std::string text;
-    Point at;
-    double height;
-    TextWeight weight;
-    Colour colour;
-  };
-  struct DrawnLine {
-    std::vector<Point> points;
-    Colour colour;
-  };
-
-  explicit Recorder(double width = 1000, double height = 600, double font = 16)
-      : width_(width), height_(height), font_(font) {}
-
-  double Width() const override { return width_; }
-  double Height() const override { return height_; }
-  double FontHeight() const override { return font_; }
-  TextSize Measure(const std::string& text, double height, TextWeight) const override {
-    return {static_cast<double>(CharacterCount(text)) * height / 2, height};
-  }
-  void Text(const std::string& text, Point at, double height, TextWeight weight, Colour colour) override {
-    texts.push_back({text, at, height, weight, colour});
-  }
-  void TextUpwards(const std::string& text, Point at, double height, Colour colour) override {
-    texts.push_back({text, at, height, TextWeight::kNormal, colour});
-  }
-  void Line(Point from, Point to, double, Colour colour) override { strokes.push_back({{from, to}, colour}); }
-  void Polyline(std::span<const Point> points, double, Colour colour) override {
-    lines.push_back({{points.begin(), points.end()}, colour});
-  }
-  void FillRectangle(Point corner, double width, double height, Colour colour) override {
-    areas.push_back({{corner, {corner.x + width, corner.y + height}}, colour});
-  }
-  void BeginClip(Point, double, double) override { ++open_clips; }
-  void EndClip() override { --open_clips; }
-
-  const DrawnText* Find(const std::string& text) const {
-    const auto found =
-        std::find_if(texts.begin(), texts.end(), [&](const auto& drawn) { return drawn.text == text; });
-    return found == texts.end() ? nullptr : &*found;
-  }
-
-  std::vector<DrawnText> texts;
-  std::vector<DrawnLine> lines;
-  std::vector<DrawnLine> strokes;
-  std::vector<DrawnLine> areas;  // two opposite corners
-  int open_clips = 0;
-
-private:
-  double width_;
-  double height_;
-  double font_;
-};
+using tests::RecordingSurface;
 
 class ChartDrawingTest : public ::testing::Test {
 protected:
@@ -96,14 +25,14 @@ protected:
     chart_.SetY({0, 1});
   }
 
-  NoInterface no_interface_;
-  Desktop desktop_{no_interface_};
+  tests::NotingScreen screen_;
+  Desktop desktop_{screen_};
   Form form_{desktop_, "form"};
   Chart chart_{form_, "chart"};
 };
 
 TEST_F(ChartDrawingTest, WavenumbersFallFromLeftToRightAndPixelsReadBackAsData) {
-  Recorder surface;
+  RecordingSurface surface;
   const ChartLayout layout = DrawChart(chart_, surface);
   EXPECT_EQ(layout.PixelX(4000), layout.plot.left);
   EXPECT_NEAR(layout.PixelX(400), layout.plot.left + layout.plot.width, 1e-9);
@@ -123,7 +52,7 @@ TEST_F(ChartDrawingTest, NoPeakOfALongTraceIsLost) {
     series.y.push_back(i == 12345 ? 0.95 : i == 23456 ? 0.05 : 0.5);
   }
   chart_.SetSeries(0, series);
-  Recorder surface;
+  RecordingSurface surface;
   const ChartLayout layout = DrawChart(chart_, surface);
   ASSERT_EQ(surface.lines.size(), 1U);
   const auto& points = surface.lines[0].points;
@@ -143,7 +72,7 @@ TEST_F(ChartDrawingTest, AValueThatIsNotANumberBreaksTheLine) {
   const double infinite = std::numeric_limits<double>::infinity();
   chart_.SetSeries(
       0, {.title = "a", .x = {500, 1000, 1500, 2000, 2500, 3000}, .y = {0.1, 0.2, nan, 0.3, infinite, 0.4}});
-  Recorder surface;
+  RecordingSurface surface;
   DrawChart(chart_, surface);
   ASSERT_EQ(surface.lines.size(), 3U);
   EXPECT_EQ(surface.lines[0].points.size(), 2U);
@@ -155,7 +84,7 @@ TEST_F(ChartDrawingTest, AValueThatIsNotANumberBreaksTheLine) {
 TEST_F(ChartDrawingTest, LinesEndAtThePlotHoweverFarTheValuesLie) {
   chart_.SetSeries(0, {.title = "a", .x = {-1e9, 1000, 2000, 1e9}, .y = {0.5, 1e300, -1e300, 0.5}});
   chart_.SetSeries(1, {.title = "b", .x = {5000, 6000}, .y = {0.5, 0.5}});
-  Recorder surface;
+  RecordingSurface surface;
   const ChartLayout layout = DrawChart(chart_, surface);
   const double margin = surface.FontHeight();
   ASSERT_FALSE(surface.lines.empty());
@@ -173,7 +102,7 @@ TEST_F(ChartDrawingTest, LinesEndAtThePlotHoweverFarTheValuesLie) {
 TEST_F(ChartDrawingTest, AZoomedLineCrossesThePlotBetweenItsPoints) {
   chart_.SetSeries(0, {.title = "a", .x = {400, 4000}, .y = {0, 1}});
   chart_.Zoom({2000, 2400}, {0.4, 0.6});
-  Recorder surface;
+  RecordingSurface surface;
   const ChartLayout layout = DrawChart(chart_, surface);
   ASSERT_EQ(surface.lines.size(), 1U);
   auto [first, last] = std::pair(surface.lines[0].points.front(), surface.lines[0].points.back());
@@ -192,7 +121,7 @@ TEST_F(ChartDrawingTest, TheLegendNamesOnlySeriesWithTitleAndPoints) {
   chart_.SetSeries(0, {.title = "Standard", .x = {500, 600}, .y = {0, 1}});
   chart_.SetSeries(1, {.title = "", .x = {500, 600}, .y = {0, 1}});
   chart_.SetSeries(2, {.title = "Empty", .x = {}, .y = {}});
-  Recorder surface;
+  RecordingSurface surface;
   const ChartLayout layout = DrawChart(chart_, surface);
   ASSERT_EQ(layout.legend.size(), 1U);
   EXPECT_NE(surface.Find("Standard"), nullptr);
@@ -202,7 +131,7 @@ TEST_F(ChartDrawingTest, TheLegendNamesOnlySeriesWithTitleAndPoints) {
 TEST_F(ChartDrawingTest, TheVerdictIsAWordInLargeBoldLettersOfItsColour) {
   chart_.SetLabel(Chart::kVerdictLabel, "FAIL");
   chart_.SetVerdictColour(VerdictColour::kFail);
-  Recorder failed;
+  RecordingSurface failed;
   DrawChart(chart_, failed);
   const auto* fail = failed.Find("FAIL");
   ASSERT_NE(fail, nullptr);
@@ -211,7 +140,7 @@ TEST_F(ChartDrawingTest, TheVerdictIsAWordInLargeBoldLettersOfItsColour) {
   EXPECT_GT(fail->colour.red, 2 * fail->colour.green);
   chart_.SetLabel(Chart::kVerdictLabel, "PASS");
   chart_.SetVerdictColour(VerdictColour::kPass);
-  Recorder passed;
+  RecordingSurface passed;
   DrawChart(chart_, passed);
   ASSERT_NE(passed.Find("PASS"), nullptr);
   EXPECT_GT(passed.Find("PASS")->colour.green, 2 * passed.Find("PASS")->colour.red);
@@ -230,9 +159,9 @@ TEST_F(ChartDrawingTest, NoTwoTextsAboveThePlotOverlap) {
     chart_.SetSeries(static_cast<std::size_t>(i),
                      {.title = "A series with a long name " + std::to_string(i), .x = {500}, .y = {1}});
   }
-  Recorder surface;
+  RecordingSurface surface;
   const ChartLayout layout = DrawChart(chart_, surface);
-  std::vector<Recorder::DrawnText> above;
+  std::vector<RecordingSurface::DrawnText> above;
   for (const auto& text : surface.texts) {
     if (text.at.y + text.height <= layout.plot.top) above.push_back(text);
   }
@@ -255,20 +184,20 @@ TEST_F(ChartDrawingTest, MarkedBandsAreToldApartByColourAndWithoutAndTheLegendNa
                      {600, 700, "0", RegionShade::kFaint, "departs < .0001"},
                      {700, 800, "0", RegionShade::kFaint, "departs < .0001"},
                      {2300, 2400, "left out"}});
-  Recorder surface;
+  RecordingSurface surface;
   const ChartLayout layout = DrawChart(chart_, surface);
   ASSERT_EQ(layout.shades.size(), 2U) << "a band without a meaning is not in the legend";
   EXPECT_EQ(layout.shades[0].meaning.text, "departs < .0001") << "from faint to strong";
   EXPECT_NE(surface.Find("departs ≥ .01"), nullptr);
   EXPECT_EQ(surface.Find("left out"), nullptr) << "the band is too narrow for its text";
   chart_.Zoom({2200, 2500}, {0, 1});
-  Recorder zoomed;
+  RecordingSurface zoomed;
   DrawChart(chart_, zoomed);
   EXPECT_NE(zoomed.Find("left out"), nullptr);
 
   // Each shade on the same area: another colour, and another number of lines.
   const auto drawn = [](RegionShade shade) {
-    Recorder area;
+    RecordingSurface area;
     PaintShade(area, {{100, 100}, 300, 200}, shade, 16);
     EXPECT_EQ(area.areas.size(), 1U);
     for (const auto& line : area.strokes) {
@@ -313,7 +242,7 @@ TEST_F(ChartDrawingTest, HatchingsRunOnAcrossNeighbouringBands) {
 TEST_F(ChartDrawingTest, TheSecondAxisShowsWhenASeriesUsesItAndFollowsTheZoom) {
   chart_.SetSeries(0, {.title = "a", .x = {500, 600}, .y = {0, 1}});
   chart_.SetY2({0, 10});
-  Recorder surface;
+  RecordingSurface surface;
   EXPECT_FALSE(LayOutChart(chart_, surface).has_second_axis);
   chart_.SetSeries(1, {.title = "b", .x = {500, 600}, .y = {0, 10}, .onSecondAxis = true});
   EXPECT_TRUE(LayOutChart(chart_, surface).has_second_axis);
@@ -335,13 +264,14 @@ TEST_F(ChartDrawingTest, AnyLimitsAndAnySurfaceCanBeDrawn) {
     chart_.SetY(limits);
     chart_.SetY2(limits);
     for (const double size : {1.0, 40.0, 3000.0}) {
-      Recorder surface(size, size, 16);
+      RecordingSurface surface(size, size, 16);
       const ChartLayout layout = DrawChart(chart_, surface);
       EXPECT_GE(layout.plot.width, 1);
       EXPECT_GE(layout.plot.height, 1);
       EXPECT_EQ(surface.open_clips, 0);
-      for (const auto& text : surface.texts)
-        EXPECT_TRUE(std::isfinite(text.at.x) && std::isfinite(text.at.y));
+      for (const auto* texts : {&surface.texts, &surface.upward}) {
+        for (const auto& text : *texts) EXPECT_TRUE(std::isfinite(text.at.x) && std::isfinite(text.at.y));
+      }
     }
   }
 }
@@ -349,8 +279,8 @@ TEST_F(ChartDrawingTest, AnyLimitsAndAnySurfaceCanBeDrawn) {
 TEST_F(ChartDrawingTest, APageAndAScreenLookAlike) {
   chart_.SetTitles("Wavenumber", "Absorbance");
   chart_.SetHeader({"one"});
-  Recorder screen(1000, 600, 16);
-  Recorder page(500, 300, 8);
+  RecordingSurface screen(1000, 600, 16);
+  RecordingSurface page(500, 300, 8);
   const PlotArea large = DrawChart(chart_, screen).plot;
   const PlotArea small = DrawChart(chart_, page).plot;
   EXPECT_NEAR(large.left, small.left * 2, 1e-9);

@@ -1,12 +1,16 @@
-// Which numbers an enumeration has names for: the compiler's name of a function tells a value's name, or the
-// number.
+// Which numbers an enumeration has names for, as the compiler's name of a function tells; and whether a table
+// has a text for each.
 #pragma once
+
+#include <gmock/gmock.h>
 
 #include <array>
 #include <cstddef>
 #include <set>
 #include <string_view>
 #include <utility>
+
+#include "platform/text_table.h"
 
 namespace veritane {
 
@@ -28,6 +32,18 @@ std::set<int> NamedValues() {
     if (has_name[number]) named.insert(static_cast<int>(number));
   }
   return named;
+}
+
+// A table has a text for each wanted number and for no other, in order.
+inline void ExpectEachNumberOnce(const platform::TextTable& table, const std::set<int>& wanted) {
+  std::set<int> there;
+  int before = 0;
+  for (const auto& [id, text] : table.Texts()) {
+    EXPECT_LT(before, id) << "out of order";
+    EXPECT_NE(text, "") << id;
+    there.insert(before = id);
+  }
+  EXPECT_THAT(there, ::testing::ContainerEq(wanted));
 }
 
 }  // namespace veritane

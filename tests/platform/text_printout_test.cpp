@@ -3,51 +3,30 @@
 
 #include <gmock/gmock.h>
 
-#include "platform/utf8.h"
+#include "tests/support/recording_surface.h"
 
 namespace veritane::platform {
 namespace {
 
-using ::testing::Each;
 using ::testing::ElementsAre;
-using ::testing::Le;
 
-// Every character is half as wide as it is high; a page takes 20 characters and 8 lines with the footer.
-class Page : public DrawingContext {
-public:
-  double Width() const override { return 100; }
-  double Height() const override { return 10 * 1.35 * 8; }
-  double FontHeight() const override { return 10; }
-  TextSize Measure(const std::string& text, double height, TextWeight) const override {
-    return {static_cast<double>(CharacterCount(text)) * height / 2, height};
-  }
-  void Text(const std::string& text, Point at, double height, TextWeight, Colour) override {
-    texts.push_back(text);
-    bottoms.push_back(at.y + height);
-    widths.push_back(Measure(text, height, TextWeight::kNormal).width);
-  }
-  void TextUpwards(const std::string&, Point, double, Colour) override {}
-  void Line(Point, Point, double, Colour) override {}
-  void Polyline(std::span<const Point>, double, Colour) override {}
-  void FillRectangle(Point, double, double, Colour) override {}
-  void BeginClip(Point, double, double) override {}
-  void EndClip() override {}
-
-  std::vector<std::string> texts;
-  std::vector<double> bottoms;
-  std::vector<double> widths;
-};
+// A page takes 20 characters and 8 lines with the footer.
+constexpr double kWidth = 100;
+constexpr double kHeight = 10 * 1.35 * 8;
 
 std::vector<std::vector<std::string>> Pages(const std::string& text) {
   TextPrintout printout("T", text);
-  const int count = printout.LayOut(Page());
+  const int count = printout.LayOut(tests::RecordingSurface(kWidth, kHeight, 10));
   std::vector<std::vector<std::string>> pages;
   for (int number = 1; number <= count; ++number) {
-    Page page;
+    tests::RecordingSurface page(kWidth, kHeight, 10);
     printout.DrawPage(page, number);
-    EXPECT_THAT(page.bottoms, Each(Le(page.Height())));
-    EXPECT_THAT(page.widths, Each(Le(page.Width())));
-    pages.push_back(page.texts);
+    std::vector<std::string>& texts = pages.emplace_back();
+    for (const auto& drawn : page.texts) {
+      EXPECT_LE(drawn.at.y + drawn.height, kHeight);
+      EXPECT_LE(page.Measure(drawn.text, drawn.height, drawn.weight).width, kWidth);
+      texts.push_back(drawn.text);
+    }
   }
   return pages;
 }

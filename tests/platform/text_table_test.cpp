@@ -50,14 +50,7 @@ TEST(PlatformTexts, HaveEachNumberOnceAndATextForEveryName) {
     wanted.insert(static_cast<int>(TextId::kOtherError) + number);
   }
   EXPECT_TRUE(wanted.contains(2000) && wanted.contains(2053) && wanted.contains(2903));
-  std::set<int> there;
-  int before = 0;
-  for (const auto& [id, text] : Texts().Texts()) {
-    EXPECT_LT(before, id) << "out of order";
-    EXPECT_NE(text, "") << id;
-    there.insert(before = id);
-  }
-  EXPECT_THAT(there, ::testing::ContainerEq(wanted));
+  ExpectEachNumberOnce(Texts(), wanted);
 }
 
 }  // namespace

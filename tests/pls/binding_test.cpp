@@ -16,17 +16,7 @@ namespace fs = std::filesystem;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using tests::ErrorOf;
-
-// The text of the RunTimeError that `action` raises.
-template <typename Action>
-std::string TextOf(Action action) {
-  try {
-    action();
-  } catch (const platform::RunTimeError& error) {
-    return error.what();
-  }
-  return "";
-}
+using tests::ErrorTextOf;
 
 class Binding : public ::testing::Test {
 protected:
@@ -74,7 +64,7 @@ TEST_F(Binding, AMissingLibraryIsNamedAtEachAttemptUntilItIsThere) {
   const auto load = [this] { library_.LoadCalFile("C:\\Data\\Gas.cal"); };
   for (int attempt = 0; attempt < 2; ++attempt) {
     EXPECT_EQ(ErrorOf(load), 53);
-    EXPECT_THAT(TextOf(load), HasSubstr("File not found: " VERITANE_LIBRARY_FILE_NAME));
+    EXPECT_THAT(ErrorTextOf(load), HasSubstr("File not found: " VERITANE_LIBRARY_FILE_NAME));
   }
   Install(VERITANE_FOREIGN_LIBRARY);
   EXPECT_EQ(ErrorOf(load), 0);
@@ -84,11 +74,11 @@ TEST_F(Binding, ALibraryThatIsNoneOrLacksAFunctionSaysSo) {
   const auto ask = [this] { library_.GetCalTotal(31); };
   files_.files.WriteBytes(files_.paths.ToWindows(Programs() / VERITANE_LIBRARY_FILE_NAME), "no library");
   EXPECT_EQ(ErrorOf(ask), 53);
-  EXPECT_THAT(TextOf(ask), HasSubstr((Programs() / VERITANE_LIBRARY_FILE_NAME).string()));
+  EXPECT_THAT(ErrorTextOf(ask), HasSubstr((Programs() / VERITANE_LIBRARY_FILE_NAME).string()));
   fs::remove(Programs() / VERITANE_LIBRARY_FILE_NAME);
   Install(VERITANE_INCOMPLETE_LIBRARY);
   EXPECT_EQ(ErrorOf(ask), 53);
-  EXPECT_EQ(TextOf(ask), "File not found: ReadCalFile in " VERITANE_LIBRARY_FILE_NAME);
+  EXPECT_EQ(ErrorTextOf(ask), "File not found: ReadCalFile in " VERITANE_LIBRARY_FILE_NAME);
 }
 
 TEST_F(Binding, WhatTheLibraryThrowsBecomesARunTimeError) {
@@ -98,8 +88,8 @@ TEST_F(Binding, WhatTheLibraryThrowsBecomesARunTimeError) {
 #endif
   Install(VERITANE_FOREIGN_LIBRARY);
   EXPECT_EQ(ErrorOf([&] { library_.PlsIqPredic(31, 2); }), 5);
-  EXPECT_THAT(TextOf([&] { library_.PlsIqPredic(31, 2); }), HasSubstr("PlsIqPredic"));
-  EXPECT_THAT(TextOf([&] { library_.PlsIqPredic(31, 2); }), HasSubstr("no such detector"));
+  EXPECT_THAT(ErrorTextOf([&] { library_.PlsIqPredic(31, 2); }), HasSubstr("PlsIqPredic"));
+  EXPECT_THAT(ErrorTextOf([&] { library_.PlsIqPredic(31, 2); }), HasSubstr("no such detector"));
   EXPECT_EQ(ErrorOf([&] { library_.PlsIqPredic(31, 3); }), 7);
   EXPECT_EQ(ErrorOf([&] { library_.PlsIqPredic(31, 4); }), 5);
   EXPECT_EQ(library_.PlsIqPredic(31, 1), 32) << "the library is still of use";

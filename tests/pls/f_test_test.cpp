@@ -3,6 +3,7 @@
 #include <cmath>
 #include <limits>
 
+#include "tests/pls/f_test_reference.h"
 #include "tests/pls/pls_pred_fixture.h"
 
 namespace veritane::pls {
@@ -11,16 +12,6 @@ namespace {
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 using tests::ErrorOf;
-
-// Written from the published approximations; 2/9 belongs to the one degree of freedom of the numerator.
-long double Reference(long double f, long double d) {
-  const long double a = 2 / 9.0L;
-  const long double b = 2 / (9 * d);
-  const long double root = std::cbrt(f);
-  const long double x = ((1 - b) * root - (1 - a)) / std::sqrt(b * root * root + a);
-  const long double polynomial = 1 + x * (0.196854L + x * (0.115194L + x * (0.000344L + x * 0.019527L)));
-  return 1 - 1 / (2 * polynomial * polynomial * polynomial * polynomial);
-}
 
 class FTest : public PLSPredTest {
 protected:
@@ -71,7 +62,7 @@ TEST_F(FTest, EachSetHasItsRatioAndItsProbability) {
   for (std::size_t set = 0; set < sets.size(); ++set) {
     const auto [ratio, degrees] = sets[set];
     EXPECT_NEAR(values_[2 * set], ratio, 1e-12 * ratio);
-    EXPECT_NEAR(values_[2 * set + 1], static_cast<double>(Reference(ratio, degrees)), 1e-12)
+    EXPECT_NEAR(values_[2 * set + 1], static_cast<double>(FTestProbability(ratio, degrees)), 1e-12)
         << ratio << " with " << degrees;
   }
 }
@@ -92,7 +83,7 @@ TEST_F(FTest, SmallRatiosAreNotReflected) {
   ASSERT_EQ(pls_->GetFtest(values_, size_), 0);
   // z is -7/9 / sqrt(2/9): a reflected polynomial would give a probability near 0.05.
   EXPECT_GT(values_[1], 0.5);
-  EXPECT_NEAR(values_[1], static_cast<double>(Reference(0, 10)), 1e-12);
+  EXPECT_NEAR(values_[1], static_cast<double>(FTestProbability(0, 10)), 1e-12);
 }
 
 TEST_F(FTest, ASetWithoutDegreesOfFreedomHasTheProbabilityMinusOne) {

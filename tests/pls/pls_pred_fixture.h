@@ -9,6 +9,7 @@
 #include "pls/pls_pred.h"
 #include "tests/pls/scripted_library.h"
 #include "tests/support/errors.h"
+#include "tests/support/noting_screen.h"
 
 namespace veritane::pls {
 
@@ -36,7 +37,7 @@ protected:
   }
 
   ScriptedLibrary library_;
-  NotingScreen screen_;
+  tests::NotingScreen screen_;
   platform::Desktop desktop_{screen_};
   std::unique_ptr<PLSPred> pls_ = std::make_unique<PLSPred>(library_, desktop_);
 };

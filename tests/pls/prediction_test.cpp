@@ -12,6 +12,7 @@
 #include "simulator/spc_writer.h"
 #include "tests/pls/scripted_library.h"
 #include "tests/plslibrary/gasoline.h"
+#include "tests/support/noting_screen.h"
 #include "tests/support/temporary_folder.h"
 
 namespace veritane::pls {
@@ -63,7 +64,7 @@ protected:
   std::optional<std::string> clipboard_;
   LoadedPredictionLibrary library_{libraries_, [this] { return clipboard_; }};
   state::ProgramState state_;
-  NotingScreen screen_;
+  tests::NotingScreen screen_;
   platform::Desktop desktop_{screen_};
   std::string exported_;
   MainForm form_{

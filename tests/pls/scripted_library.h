@@ -1,14 +1,11 @@
-// A prediction library that answers whatever a test tells it to and notes each call, and a screen that notes
-// what it is shown.
+// A prediction library that answers whatever a test tells it to and notes each call.
 #pragma once
 
 #include <algorithm>
 #include <map>
-#include <optional>
 #include <string>
 #include <vector>
 
-#include "platform/desktop.h"
 #include "platform/run_time_error.h"
 #include "pls/prediction_library.h"
 
@@ -101,26 +98,5 @@ inline std::vector<double> NameBlocks(const std::vector<std::string>& names) {
   }
   return blocks;
 }
-
-// Answers every message box with OK.
-class NotingScreen : public platform::UserInterface {
-public:
-  std::vector<platform::Message> messages;
-
-  void Attach(platform::Form&) override {}
-  void RunModal(platform::Form&) override {}
-  platform::MessageAnswer ShowMessage(const platform::Message& message) override {
-    messages.push_back(message);
-    return platform::MessageAnswer::kOk;
-  }
-  std::optional<std::string> ChooseFile(const platform::FileChoice&) override { return std::nullopt; }
-  void ShowPointer(platform::Pointer) override {}
-  void ProcessPendingEvents() override {}
-  void NotePrint(platform::PrintKind, const std::string&) override {}
-  void CopyPicture(const platform::Control&) override {}
-  std::optional<std::string> ClipboardText() override { return std::nullopt; }
-  void NoteError(const platform::RunTimeError&) override {}
-  void End(int) override {}
-};
 
 }  // namespace veritane::pls

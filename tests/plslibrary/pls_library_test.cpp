@@ -4,6 +4,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <cstring>
 #include <fstream>
@@ -11,6 +12,7 @@
 
 #include "plslibrary/calibration_file.h"
 #include "plslibrary/prediction.h"
+#include "tests/pls/f_test_reference.h"
 #include "tests/plslibrary/gasoline.h"
 #include "tests/support/temporary_folder.h"
 
@@ -19,8 +21,6 @@ namespace {
 
 using ::testing::Each;
 using ::testing::ElementsAre;
-using ::testing::Gt;
-using ::testing::Lt;
 
 std::string ClipboardText;
 
@@ -174,25 +174,14 @@ TEST_F(PlsLibrary, ItemsSayWhatTheCalibrationAndThePredictionAre) {
   EXPECT_NEAR(Item("residual")[0], squares, 1e-9 * squares);
 }
 
-// The probability that a program computes from the items: Paulson's approximation of the F distribution with
-// 1 degree of freedom, Abramowitz and Stegun 26.2.19 for the normal one, not reflected.
-double FTestOf(double residual, double samples, double residual_sum, double factors) {
-  const double ratio = residual * samples / residual_sum;
-  const double freedom = samples - factors - 2;
-  const double s = std::sqrt(2 * std::pow(ratio, 2.0 / 3) / (9 * freedom) + 2.0 / 9);
-  const double z = (std::cbrt(ratio) * (1 - 2 / (9 * freedom)) - (1 - 2.0 / 9)) / s;
-  const double t = 1 + 0.196854 * z + 0.115194 * z * z + 0.000344 * z * z * z + 0.019527 * z * z * z * z;
-  return 1 - 0.5 * std::pow(t, -4);
-}
-
 TEST_F(PlsLibrary, TheFTestTellsAGoodSpectrumFromAnOutlyingOne) {
   const auto probability = [&](const MeasuredSpectrum& spectrum) {
     EXPECT_EQ(PredictSpectrum(spectrum), 0);
     const std::vector<double> pair = Item("fratio");
-    return FTestOf(Item("residual")[0], pair[0], pair[1], Item("calfac")[0]);
+    return pls::FTestProbability(Item("residual")[0] * pair[0] / pair[1], pair[0] - Item("calfac")[0] - 2);
   };
   // Of the samples themselves, most lie well inside.
-  std::vector<double> own;
+  std::vector<long double> own;
   for (Eigen::Index row = 0; row < 50; ++row) own.push_back(probability(gasoline_.Measured(row)));
   std::ranges::sort(own);
   EXPECT_LT(own[25], 0.6);

@@ -20,7 +20,7 @@ constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
 
 // The text of the refusal; "" when the bytes are read.
-std::string Refusal(const std::string& bytes) {
+std::string SpcRefusal(const std::string& bytes) {
   try {
     ReadSpc(bytes);
   } catch (const SpectrumReadError& error) {
@@ -98,7 +98,7 @@ TEST_P(NewForm, StoredXCountWhereTheyAreEvenlySpacedAfterAll) {
   EXPECT_NEAR(spectrum.lastX, 3994.1, 1e-3);
   EXPECT_THAT(spectrum.y, ElementsAre(1, 2, 3, 4));
   image.Set(512 + 4, 3997.5F);
-  EXPECT_THAT(Refusal(image.bytes), HasSubstr("not evenly spaced"));
+  EXPECT_THAT(SpcRefusal(image.bytes), HasSubstr("not evenly spaced"));
 }
 
 TEST(SpcReader, SpectraWithXOfTheirOwnAreFoundThroughTheDirectory) {
@@ -138,7 +138,7 @@ TEST(SpcReader, SpectraOfTheOldFormGoOnUntilTheEndOfTheFile) {
   EXPECT_THAT(spectra[1].y, ElementsAre(0.5, -0.5));
   EXPECT_THAT(spectra[2].y, ElementsAre(0.125, -0.125));
   image.bytes.pop_back();
-  EXPECT_THAT(Refusal(image.bytes), HasSubstr("spectrum 3: its 2 points reach beyond the end"));
+  EXPECT_THAT(SpcRefusal(image.bytes), HasSubstr("spectrum 3: its 2 points reach beyond the end"));
 }
 
 TEST(SpcReader, IeeeNumbersOfTheOldFormAreReadInTheOrderThatGivesASpectrum) {
@@ -156,15 +156,15 @@ TEST(SpcReader, IeeeNumbersOfTheOldFormAreReadInTheOrderThatGivesASpectrum) {
   EXPECT_EQ(Only(plain).y, expected);
   EXPECT_EQ(Only(swapped).y, expected);
   const std::uint32_t either = 0x3F803F81;  // near 1 in both orders
-  EXPECT_THAT(Refusal(old(-128).Append(std::vector<std::uint32_t>{either, either, either}).bytes),
+  EXPECT_THAT(SpcRefusal(old(-128).Append(std::vector<std::uint32_t>{either, either, either}).bytes),
               HasSubstr("cannot be told"));
 }
 
 TEST(SpcReader, OtherFilesAreRefusedByTheirBytes) {
-  EXPECT_THAT(Refusal(""), HasSubstr("too short"));
-  EXPECT_THAT(Refusal("\x4B"), HasSubstr("too short"));
-  EXPECT_THAT(Refusal("##TITLE= no SPC"), HasSubstr("second byte is 35"));
-  EXPECT_THAT(Refusal(Sound().Set(1, std::uint8_t{0xCF}).bytes), HasSubstr("second byte is 207"));
+  EXPECT_THAT(SpcRefusal(""), HasSubstr("too short"));
+  EXPECT_THAT(SpcRefusal("\x4B"), HasSubstr("too short"));
+  EXPECT_THAT(SpcRefusal("##TITLE= no SPC"), HasSubstr("second byte is 35"));
+  EXPECT_THAT(SpcRefusal(Sound().Set(1, std::uint8_t{0xCF}).bytes), HasSubstr("second byte is 207"));
 }
 
 TEST(SpcReader, AFileCutAnywhereIsRefused) {
@@ -175,16 +175,16 @@ TEST(SpcReader, AFileCutAnywhereIsRefused) {
           .Append(std::vector<float>{1, 2, 0, 0, 0, 0, 0, 0, 0, 0, 3, 4})
           .bytes};
   for (const std::string& bytes : whole) {
-    EXPECT_EQ(Refusal(bytes), "");
+    EXPECT_EQ(SpcRefusal(bytes), "");
     for (std::size_t size = 0; size < bytes.size(); ++size) {
-      EXPECT_NE(Refusal(bytes.substr(0, size)), "") << size << " of " << bytes.size();
+      EXPECT_NE(SpcRefusal(bytes.substr(0, size)), "") << size << " of " << bytes.size();
     }
   }
 }
 
 TEST(SpcReader, NumbersThatContradictTheFileAreRefused) {
   const auto text = [](std::size_t offset, auto number) {
-    return Refusal(Sound().Set(offset, number).bytes);
+    return SpcRefusal(Sound().Set(offset, number).bytes);
   };
   EXPECT_THAT(text(4, std::uint32_t{0}), HasSubstr("no points"));
   EXPECT_THAT(text(4, std::uint32_t{4}), HasSubstr("beyond the end"));
@@ -199,15 +199,16 @@ TEST(SpcReader, NumbersThatContradictTheFileAreRefused) {
 
   SpcImage several = NewHeader({.flags = kSeveral, .points = 1, .firstX = 7, .lastX = 7, .spectra = 0});
   several.AppendSubheader().Append(1.0F);
-  EXPECT_THAT(Refusal(several.bytes), HasSubstr("no spectrum"));
-  EXPECT_THAT(Refusal(several.Set(24, std::uint32_t{2}).bytes), HasSubstr("ends after 548 bytes"));
-  EXPECT_THAT(Refusal(several.Set(24, std::uint32_t{0xFFFFFFFF}).bytes), HasSubstr("ends after 548 bytes"));
-  EXPECT_EQ(Refusal(several.Set(24, std::uint32_t{1}).bytes), "");
+  EXPECT_THAT(SpcRefusal(several.bytes), HasSubstr("no spectrum"));
+  EXPECT_THAT(SpcRefusal(several.Set(24, std::uint32_t{2}).bytes), HasSubstr("ends after 548 bytes"));
+  EXPECT_THAT(SpcRefusal(several.Set(24, std::uint32_t{0xFFFFFFFF}).bytes),
+              HasSubstr("ends after 548 bytes"));
+  EXPECT_EQ(SpcRefusal(several.Set(24, std::uint32_t{1}).bytes), "");
 }
 
 TEST(SpcReader, ADirectoryThatLiesIsRefused) {
   const auto text = [](std::size_t offset, std::uint32_t number) {
-    return Refusal(WithDirectory().Set(offset, number).bytes);
+    return SpcRefusal(WithDirectory().Set(offset, number).bytes);
   };
   EXPECT_EQ(text(620, 0), "") << "the entries' sizes are not needed";
   for (const std::uint32_t place : {0U, 511U, 617U, 640U, 0xFFFFFFFFU}) {
@@ -224,7 +225,7 @@ TEST(SpcReader, ADirectoryThatLiesIsRefused) {
 TEST(SpcReader, AnOldHeaderOfNonsenseIsRefused) {
   const auto text = [](std::size_t offset, auto number) {
     SpcImage image = OldHeader({.exponent = 1, .points = 1, .firstX = 7, .lastX = 7});
-    return Refusal(image.AppendSubheader().Append(std::int32_t{1}).Set(offset, number).bytes);
+    return SpcRefusal(image.AppendSubheader().Append(std::int32_t{1}).Set(offset, number).bytes);
   };
   EXPECT_EQ(text(0, std::uint8_t{0}), "");
   for (const float points : {0.0F, -1.0F, 0.5F, 1e30F, static_cast<float>(kNaN)}) {

@@ -14,7 +14,7 @@ namespace {
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 
-std::string Refusal(const std::string& text) {
+std::string TextRefusal(const std::string& text) {
   try {
     ReadSpectrumText(text);
   } catch (const SpectrumReadError& error) {
@@ -56,28 +56,28 @@ TEST(SpectrumText, RoundedXCountAsEvenlySpacedAndOtherScalesDoNot) {
     wavelengths += std::to_string(1e7 / (2500 + 0.5 * i)) + " 0.5\n";
   }
   EXPECT_EQ(ReadSpectrumText(rounded).y.size(), 500U);
-  EXPECT_THAT(Refusal(wavelengths), HasSubstr("not evenly spaced"));
-  EXPECT_THAT(Refusal("1 1\n2 1\n4 1\n5 1\n"), HasSubstr("point 2"));
-  EXPECT_THAT(Refusal("1 1\n3 1\n2 1\n4 1\n"), HasSubstr("not evenly spaced"));
+  EXPECT_THAT(TextRefusal(wavelengths), HasSubstr("not evenly spaced"));
+  EXPECT_THAT(TextRefusal("1 1\n2 1\n4 1\n5 1\n"), HasSubstr("point 2"));
+  EXPECT_THAT(TextRefusal("1 1\n3 1\n2 1\n4 1\n"), HasSubstr("not evenly spaced"));
 }
 
 TEST(SpectrumText, WhatIsNoPointIsToldWithItsLine) {
-  EXPECT_THAT(Refusal(""), HasSubstr("First X"));
-  EXPECT_THAT(Refusal("1\n2\n"), HasSubstr("First X"));
-  EXPECT_THAT(Refusal("First X = 1\n1\n2\n"), HasSubstr("Last X"));
-  EXPECT_THAT(Refusal("First X = 1\nLast X = 2\n"), HasSubstr("no points"));
-  EXPECT_THAT(Refusal("First X = 1\nLast X = 1\n1\n2\n"), HasSubstr("same x"));
-  EXPECT_THAT(Refusal("First X = 1\nLast X = 9\n1 1\n2 2\n"), HasSubstr("both"));
-  EXPECT_THAT(Refusal("First X = 1\nfirst x = 2\n"), HasSubstr("line 2"));
-  EXPECT_THAT(Refusal("First X = one\n"), HasSubstr("line 1"));
-  EXPECT_THAT(Refusal("x type = 1.5\n1 1\n2 2\n"), HasSubstr("0 to 255"));
-  EXPECT_THAT(Refusal("x y\n1 1\n\n2 2 2\n"), HasSubstr("line 4: it has 3 columns"));
-  EXPECT_THAT(Refusal("1,5;0,5\n"), HasSubstr("line 1: it has 4 columns"));
-  EXPECT_THAT(Refusal("1 1\n2\n"), HasSubstr("line 2: it has 1 columns"));
-  EXPECT_THAT(Refusal("1 1x\n2 2\n"), HasSubstr("line 1: column 2"));
+  EXPECT_THAT(TextRefusal(""), HasSubstr("First X"));
+  EXPECT_THAT(TextRefusal("1\n2\n"), HasSubstr("First X"));
+  EXPECT_THAT(TextRefusal("First X = 1\n1\n2\n"), HasSubstr("Last X"));
+  EXPECT_THAT(TextRefusal("First X = 1\nLast X = 2\n"), HasSubstr("no points"));
+  EXPECT_THAT(TextRefusal("First X = 1\nLast X = 1\n1\n2\n"), HasSubstr("same x"));
+  EXPECT_THAT(TextRefusal("First X = 1\nLast X = 9\n1 1\n2 2\n"), HasSubstr("both"));
+  EXPECT_THAT(TextRefusal("First X = 1\nfirst x = 2\n"), HasSubstr("line 2"));
+  EXPECT_THAT(TextRefusal("First X = one\n"), HasSubstr("line 1"));
+  EXPECT_THAT(TextRefusal("x type = 1.5\n1 1\n2 2\n"), HasSubstr("0 to 255"));
+  EXPECT_THAT(TextRefusal("x y\n1 1\n\n2 2 2\n"), HasSubstr("line 4: it has 3 columns"));
+  EXPECT_THAT(TextRefusal("1,5;0,5\n"), HasSubstr("line 1: it has 4 columns"));
+  EXPECT_THAT(TextRefusal("1 1\n2\n"), HasSubstr("line 2: it has 1 columns"));
+  EXPECT_THAT(TextRefusal("1 1x\n2 2\n"), HasSubstr("line 1: column 2"));
   for (const std::string& damaged : std::vector<std::string>{
            "2 two", "nan 2", "2 nan", "2 inf", "2 1e999", "2 0x1", "2 +-2", {"2 1\0.5", 6}}) {
-    EXPECT_THAT(Refusal("1 1\n" + damaged + "\n3 3\n"), HasSubstr("line 2")) << damaged;
+    EXPECT_THAT(TextRefusal("1 1\n" + damaged + "\n3 3\n"), HasSubstr("line 2")) << damaged;
   }
 }
 

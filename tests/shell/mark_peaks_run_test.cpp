@@ -1,5 +1,4 @@
 // A product whose peaks are marked, through the whole program.
-#include <algorithm>
 #include <cmath>
 
 #include "tests/shell/program_fixture.h"

@@ -3,12 +3,11 @@
 
 #include <algorithm>
 #include <cmath>
-#include <fstream>
-#include <iterator>
 
 #include "apps/veritane_setup/data_layout.h"
 #include "simulator/jcamp_writer.h"
 #include "simulator/stored_spectrum.h"
+#include "tests/support/test_data.h"
 
 namespace veritane::tests {
 
@@ -99,9 +98,7 @@ void ProgramTest::WriteSpectra(const std::string& path, int count, std::vector<d
 }
 
 void ProgramTest::CopyTestData(const std::string& name, const std::string& path) {
-  std::ifstream file(fs::path(VERITANE_TEST_DATA) / name, std::ios::binary);
-  ASSERT_TRUE(file) << name;
-  Write(path, std::string(std::istreambuf_iterator<char>(file), {}));
+  Write(path, TestDataBytes(name));
 }
 
 void ProgramTest::SetInstrument(const std::string& sample, int fault, int count) {

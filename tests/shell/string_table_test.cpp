@@ -17,14 +17,7 @@ TEST(StringTable, HasEachNumberOnceAndATextForEveryName) {
   std::set<int> wanted = NamedValues<TextId, 2000>();
   EXPECT_TRUE(wanted.contains(200) && wanted.contains(1000) && wanted.contains(1545));
   for (int caption = kFirstCaption; caption <= kLastCaption; ++caption) wanted.insert(caption);
-  std::set<int> there;
-  int before = 0;
-  for (const auto& [id, text] : Texts().Texts()) {
-    EXPECT_LT(before, id) << "out of order";
-    EXPECT_NE(text, "") << id;
-    there.insert(before = id);
-  }
-  EXPECT_THAT(there, ::testing::ContainerEq(wanted));
+  ExpectEachNumberOnce(Texts(), wanted);
 }
 
 TEST(StringTable, RefusesNumbersWithoutAText) {

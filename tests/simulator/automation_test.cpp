@@ -134,7 +134,6 @@ TEST_F(AutomationClient, TheWaitingBehaviourReachesTheSystem) {
 }
 
 TEST_F(AutomationClient, AMethodOfAnotherApplicationIsRefused) {
-  auto other_server = std::make_shared<RecordingObject>();
   class OtherMethod : public acquisition::CollectMethod {
     void SetCollectOption(const std::string&) override {}
     void SetBackgroundFile(const std::string&) override {}

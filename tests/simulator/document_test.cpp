@@ -10,6 +10,7 @@
 #include "tests/support/automation_connection.h"
 #include "tests/support/errors.h"
 #include "tests/support/memory_file_system.h"
+#include "tests/support/standing_clock.h"
 
 namespace veritane::simulator {
 namespace {
@@ -18,14 +19,6 @@ using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using tests::ErrorOf;
 using tests::MemoryFileSystem;
-
-class StandingClock : public platform::Clock {
-public:
-  std::chrono::system_clock::time_point Now() const override { return {}; }
-  platform::DateTime ToLocal(std::chrono::system_clock::time_point) const override {
-    return {2026, 11, 21, 10, 59, 7};
-  }
-};
 
 class Documents : public ::testing::Test {
 protected:
@@ -53,7 +46,7 @@ protected:
   static constexpr const char* kMethod = "C:\\m.clm";
   static constexpr const char* kFile = "C:\\s\\a.bsp";
   MemoryFileSystem files;
-  StandingClock clock;
+  tests::StandingClock clock;
   QueuedDevice device;
   SimulatedSpectrometer simulated{files, clock, device};
   tests::ConnectionUnderTest connection{simulated};

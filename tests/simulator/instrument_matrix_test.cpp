@@ -4,7 +4,6 @@
 
 #include <string>
 
-#include "tests/simulator/instrument_match_quality.h"
 #include "tests/simulator/instrument_rig.h"
 
 namespace veritane::simulator::instrument_tests {

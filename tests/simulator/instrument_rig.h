@@ -9,6 +9,7 @@
 
 #include "platform/run_time_error.h"
 #include "simulator/instrument.h"
+#include "tests/identification/reference.h"
 #include "tests/support/memory_file_system.h"
 
 namespace veritane::simulator::instrument_tests {
@@ -78,5 +79,15 @@ public:
 private:
   std::uint64_t random_ = 1000;
 };
+
+// What the program's correlation comparison makes of two absorbances of one measurement, computed from its
+// definition, so that the instrument is not judged by the code that it feeds.
+inline double MatchQuality(const std::vector<double>& standard, const std::vector<double>& sample) {
+  const auto buffer = [](const std::vector<double>& values) {
+    return state::SpectrumBuffer{
+        .Data = {.lower = 0, .values = values}, .Res = 1, .NumPts = static_cast<double>(values.size())};
+  };
+  return identification::reference::EuclideanQuality(buffer(standard), buffer(sample), {});
+}
 
 }  // namespace veritane::simulator::instrument_tests

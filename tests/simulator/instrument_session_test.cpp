@@ -6,19 +6,11 @@
 
 #include "simulator/simulated_spectrometer.h"
 #include "simulator/spectrum_file.h"
-#include "tests/simulator/instrument_match_quality.h"
 #include "tests/simulator/instrument_rig.h"
+#include "tests/support/standing_clock.h"
 
 namespace veritane::simulator::instrument_tests {
 namespace {
-
-class StoppedClock : public platform::Clock {
-public:
-  std::chrono::system_clock::time_point Now() const override { return {}; }
-  platform::DateTime ToLocal(std::chrono::system_clock::time_point) const override {
-    return {2026, 11, 21, 10, 59, 0};
-  }
-};
 
 class Session : public ::testing::Test {
 protected:
@@ -45,7 +37,7 @@ protected:
 
   static constexpr const char* kMethod = "C:\\Methods\\Initial.clm";
   InstrumentRig rig;
-  StoppedClock clock;
+  tests::StandingClock clock;
   SimulatedSpectrometer app{rig.files, clock, rig.instrument};
 };
 

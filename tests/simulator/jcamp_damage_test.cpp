@@ -11,7 +11,6 @@ namespace {
 
 using ::testing::AllOf;
 using ::testing::HasSubstr;
-using ::testing::IsEmpty;
 using ::testing::SizeIs;
 
 std::string TableFault(const std::string& lines, int points = 4) {

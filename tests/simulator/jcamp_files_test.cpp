@@ -4,25 +4,19 @@
 
 #include <algorithm>
 #include <cmath>
-#include <fstream>
-#include <iterator>
 #include <numeric>
 
 #include "simulator/jcamp_reader.h"
 #include "simulator/spectrum_file.h"
 #include "tests/simulator/jcamp_text_samples.h"
+#include "tests/support/test_data.h"
 
 namespace veritane::simulator {
 namespace {
 
 using ::testing::HasSubstr;
 using ::testing::SizeIs;
-
-std::string Bytes(const std::string& name) {
-  std::ifstream file(std::string(VERITANE_TEST_DATA) + "/" + name, std::ios::binary);
-  EXPECT_TRUE(file) << name;
-  return {std::istreambuf_iterator<char>(file), {}};
-}
+using tests::TestDataBytes;
 
 struct Expected {
   const char* file;
@@ -36,7 +30,7 @@ class RealFiles : public ::testing::TestWithParam<Expected> {};
 
 TEST_P(RealFiles, DecodeToTheIndependentlyKnownValues) {
   const Expected& expected = GetParam();
-  const JcampFile file = ReadJcamp(Bytes(expected.file));
+  const JcampFile file = ReadJcamp(TestDataBytes(expected.file));
   ASSERT_GT(file.spectra.size(), expected.block);
   const JcampSpectrum& spectrum = file.spectra[expected.block];
   const std::vector<double>& y = spectrum.ordinates;
@@ -81,7 +75,7 @@ INSTANTIATE_TEST_SUITE_P(
     });
 
 StoredSpectrum Opened(const std::string& name) {
-  const SpectrumFile file = ReadSpectrumFile(name, Bytes(name));
+  const SpectrumFile file = ReadSpectrumFile(name, TestDataBytes(name));
   EXPECT_THAT(file.spectra, SizeIs(1));
   return file.spectra.front();
 }
@@ -118,7 +112,7 @@ TEST(RealFilesOnTheirGrid, AFileBesideItsGridIsInterpolatedAndSaysSo) {
 }
 
 TEST(RealFilesOnTheirGrid, TheCompoundFileGivesFiveSpectraWithTheirNames) {
-  const SpectrumFile file = ReadSpectrumFile("compound", Bytes("jcamp/compound.jdx"));
+  const SpectrumFile file = ReadSpectrumFile("compound", TestDataBytes("jcamp/compound.jdx"));
   ASSERT_THAT(file.spectra, SizeIs(5));
   EXPECT_EQ(file.spectra[3].name, "trans-[Rh(py)4Cl2]Cl.5H2O");
   EXPECT_EQ(file.spectra[3].time, "1995/11/30 11:27:21");
@@ -128,7 +122,7 @@ TEST(RealFilesOnTheirGrid, TheCompoundFileGivesFiveSpectraWithTheirNames) {
 }
 
 TEST(RealFilesOnTheirGrid, APeakTableSaysThatItIsOne) {
-  EXPECT_THAT(FaultOf(Bytes("jcamp/pktab1.jdx")), HasSubstr("line 21: ##PEAK TABLE= is not a table"));
+  EXPECT_THAT(FaultOf(TestDataBytes("jcamp/pktab1.jdx")), HasSubstr("line 21: ##PEAK TABLE= is not a table"));
 }
 
 TEST(RealFilesOnTheirGrid, ThePolymersLieOnTheirCommonGrid) {

@@ -4,55 +4,18 @@
 #include <algorithm>
 #include <cmath>
 
-#include "platform/utf8.h"
 #include "simulator/print_page.h"
 #include "simulator/print_plot.h"
+#include "tests/support/recording_surface.h"
 
 namespace veritane::simulator {
 namespace {
 
-using platform::Colour;
 using platform::Point;
-using platform::TextSize;
 using platform::TextWeight;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
-
-// Each character is half as wide as the text is high.
-class RememberingSurface : public platform::DrawingContext {
-public:
-  double Width() const override { return 500; }
-  double Height() const override { return 300; }
-  double FontHeight() const override { return 8; }
-  TextSize Measure(const std::string& text, double height, TextWeight) const override {
-    return {static_cast<double>(platform::CharacterCount(text)) * height / 2, height};
-  }
-  void Text(const std::string& text, Point at, double height, TextWeight weight, Colour) override {
-    texts.emplace_back(text, at);
-    right = std::max(right, at.x + Measure(text, height, weight).width);
-  }
-  void TextUpwards(const std::string& text, Point at, double, Colour) override {
-    upward.emplace_back(text, at);
-  }
-  void Line(Point from, Point to, double, Colour) override { lines.emplace_back(from, to); }
-  void Polyline(std::span<const Point> points, double, Colour) override {
-    traces.emplace_back(points.begin(), points.end());
-  }
-  void FillRectangle(Point, double, double, Colour) override {}
-  void BeginClip(Point, double, double) override {}
-  void EndClip() override {}
-
-  const Point* Find(const std::string& text) const {
-    const auto found = std::ranges::find(texts, text, &std::pair<std::string, Point>::first);
-    return found == texts.end() ? nullptr : &found->second;
-  }
-
-  std::vector<std::pair<std::string, Point>> texts;
-  std::vector<std::pair<std::string, Point>> upward;
-  std::vector<std::pair<Point, Point>> lines;
-  std::vector<std::vector<Point>> traces;
-  double right = 0;
-};
+using tests::RecordingSurface;
 
 // 400 to 4000 cm⁻¹ in steps of 2 with one band.
 std::shared_ptr<OpenSpectrum> OneBand(double at, double height, const std::string& units) {
@@ -80,32 +43,32 @@ TEST(PrintedSpectra, AMarkerStandsAtItsBandAndWavenumbersFallToTheRight) {
   for (const double place : {1600.0, 3000.0, 5000.0}) {
     standard->markers.push_back({.x = 1, .definingMethod = kDefinedByBound, .lowerBound = place});
   }
-  RememberingSurface surface;
+  RecordingSurface surface(500, 300, 8);
   DrawPlot(kEverything, {{OneBand(3000, 0.5, "ABSORBANCE"), ""}, {standard, ""}, {}}, surface);
-  ASSERT_EQ(surface.traces.size(), 2u);
-  const Point sample_band = HighestOf(surface.traces[0]);
-  const Point standard_band = HighestOf(surface.traces[1]);
+  ASSERT_EQ(surface.lines.size(), 2u);
+  const Point sample_band = HighestOf(surface.lines[0].points);
+  const Point standard_band = HighestOf(surface.lines[1].points);
   EXPECT_LT(sample_band.x, standard_band.x);
   EXPECT_GT(sample_band.y, standard_band.y);
   ASSERT_EQ(surface.upward.size(), 3u);  // 5000 is beyond the spectrum; the third is the axis title
-  EXPECT_EQ(surface.upward[0].first, "3000");
-  EXPECT_EQ(surface.upward[1].first, "1600");
-  EXPECT_EQ(surface.upward[2].first, "Absorbance");
+  EXPECT_EQ(surface.upward[0].text, "3000");
+  EXPECT_EQ(surface.upward[1].text, "1600");
+  EXPECT_EQ(surface.upward[2].text, "Absorbance");
   for (const Point& band : {sample_band, standard_band}) {
-    EXPECT_TRUE(std::ranges::any_of(surface.lines, [&](const auto& line) {
-      return line.first.x == line.second.x && std::abs(line.first.x - band.x) < 0.3 &&
-             line.second.y - line.first.y > 100;
+    EXPECT_TRUE(std::ranges::any_of(surface.strokes, [&](const auto& line) {
+      return line.points[0].x == line.points[1].x && std::abs(line.points[0].x - band.x) < 0.3 &&
+             line.points[1].y - line.points[0].y > 100;
     })) << band.x;
   }
 }
 
 TEST(PrintedSpectra, PercentAndAbsorbanceEachFillTheHeightAndTheLegendSaysSo) {
-  RememberingSurface surface;
+  RecordingSurface surface(500, 300, 8);
   DrawPlot(kEverything,
            {{OneBand(3000, 1, "ABSORBANCE"), ""}, {OneBand(1600, 90, "PERCENT TRANSMITTANCE"), ""}, {}},
            surface);
-  ASSERT_EQ(surface.traces.size(), 2u);
-  EXPECT_NEAR(HighestOf(surface.traces[0]).y, HighestOf(surface.traces[1]).y, 0.5);
+  ASSERT_EQ(surface.lines.size(), 2u);
+  EXPECT_NEAR(HighestOf(surface.lines[0].points).y, HighestOf(surface.lines[1].points).y, 0.5);
   EXPECT_TRUE(surface.Find("Standard: one band (Percent transmittance, on a scale of its own)"));
 }
 
@@ -115,9 +78,9 @@ TEST(PrintedSpectra, NumbersThatAreNoneAndRangesWithoutPointsAreDrawnAsNothing) 
   PrintSpectrum beyond = kEverything;
   beyond.range = {5000, 6000};
   for (const PrintSpectrum& wanted : {kEverything, beyond}) {
-    RememberingSurface surface;
+    RecordingSurface surface(500, 300, 8);
     DrawPlot(wanted, {{broken, ""}, {}, {}}, surface);
-    EXPECT_THAT(surface.traces, IsEmpty());
+    EXPECT_THAT(surface.lines, IsEmpty());
     EXPECT_TRUE(surface.Find("Wavenumber / cm⁻¹"));
   }
 }
@@ -130,7 +93,7 @@ TEST(PrintedSpectra, TextsAboveCloseMarkersKeepTheirOrderAndDistanceInsideTheWid
 }
 
 TEST(PrintedPages, ATextWrapsAtBlanksAndIsCutVisiblyInItsLastLine) {
-  const RememberingSurface surface;
+  const RecordingSurface surface(500, 300, 8);
   const auto wrapped = [&](const std::string& text, int lines) {
     return Wrapped(text, 40, 8, TextWeight::kNormal, lines, surface);  // ten characters
   };
@@ -148,10 +111,10 @@ TEST(PrintedPages, ParametersThatNoFieldNamesAreListedAndTheRestIsCounted) {
   print_template.items = {
       PrintText{.at = {10, 10}, .width = 100, .colour = {}, .text = "{comparison}"},
       PrintParameters{.area = {.left = 10, .top = 30, .width = 100, .height = 8}, .size = 8}};
-  RememberingSurface surface;
+  RecordingSurface surface(500, 300, 8);
   DrawPage(print_template, {{sample, ""}, {}, {}}, surface);
   std::vector<std::string> texts;
-  for (const auto& [text, at] : surface.texts) texts.push_back(text);
+  for (const auto& drawn : surface.texts) texts.push_back(drawn.text);
   EXPECT_THAT(texts, ElementsAre("97", "Octane", "95.5", "… and 2 more"));
 }
 

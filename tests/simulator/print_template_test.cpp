@@ -1,14 +1,13 @@
 // Reading print templates, whole and damaged, and filling in their fields.
 #include <gmock/gmock.h>
 
-#include <fstream>
 #include <limits>
-#include <sstream>
 
 #include "simulator/print_fields.h"
 #include "simulator/print_template.h"
 #include "simulator/spectrum_file.h"
 #include "tests/support/errors.h"
+#include "tests/support/test_data.h"
 
 namespace veritane::simulator {
 namespace {
@@ -16,22 +15,10 @@ namespace {
 using ::testing::AllOf;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
-
-std::string ShippedTemplate(const std::string& name) {
-  std::ifstream file(std::string(VERITANE_TEST_DATA) + "/../../data/" + name, std::ios::binary);
-  std::stringstream bytes;
-  bytes << file.rdbuf();
-  return bytes.str();
-}
+using tests::ShippedBytes;
 
 std::string WhyRefused(const std::string& bytes) {
-  try {
-    ReadPrintTemplate("C:\\t.bpt", bytes);
-  } catch (const platform::RunTimeError& error) {
-    EXPECT_EQ(error.Number(), kInvalidFileFormat);
-    return error.what();
-  }
-  return {};
+  return tests::ErrorTextOf([&] { ReadPrintTemplate("C:\\t.bpt", bytes); }, kInvalidFileFormat);
 }
 
 TEST(PrintTemplates, EveryKindOfLineIsReadWithItsAttributes) {
@@ -102,7 +89,7 @@ TEST(PrintTemplates, WhatMakesNoSenseIsRefusedWithFileAndLine) {
 
 TEST(PrintTemplates, AShippedTemplateCutOrChangedAnywhereIsReadOrRefused) {
   for (const char* name : {"Certificate of identity.bpt", "Overlay.bpt"}) {
-    const std::string whole = ShippedTemplate(name);
+    const std::string whole = ShippedBytes(name);
     ASSERT_EQ(WhyRefused(whole), "");
     for (std::size_t i = 0; i < whole.size(); i += 3) {
       WhyRefused(whole.substr(0, i));

@@ -1,10 +1,6 @@
 // Printing through templates, in the order in which the program asks for it.
 #include <gmock/gmock.h>
 
-#include <cmath>
-#include <fstream>
-#include <sstream>
-
 #include "platform/pdf/pdf_document.h"
 #include "platform/system/system_machine.h"
 #include "simulator/simulated_spectrometer.h"
@@ -14,6 +10,7 @@
 #include "tests/support/memory_file_system.h"
 #include "tests/support/pdf_text.h"
 #include "tests/support/temporary_folder.h"
+#include "tests/support/test_data.h"
 
 namespace veritane::simulator {
 namespace {
@@ -45,10 +42,7 @@ protected:
     std::filesystem::create_directories(root.Path() / "drive_c");
     machine.clock.Set({2026, 11, 21, 10, 59, 7});
     for (const char* name : {"Certificate of identity.bpt", "Overlay.bpt"}) {
-      std::ifstream file(std::string(VERITANE_TEST_DATA) + "/../../data/" + name, std::ios::binary);
-      std::stringstream bytes;
-      bytes << file.rdbuf();
-      machine.files.WriteBytes("C:\\" + std::string(name), bytes.str());
+      machine.files.WriteBytes("C:\\" + std::string(name), tests::ShippedBytes(name));
     }
     machine.files.WriteBytes("C:\\m.clm", "scans 4");
     PrintInto("C:\\Prints");

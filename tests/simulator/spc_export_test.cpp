@@ -15,6 +15,7 @@
 #include "tests/support/automation_connection.h"
 #include "tests/support/errors.h"
 #include "tests/support/memory_file_system.h"
+#include "tests/support/standing_clock.h"
 #include "tests/support/temporary_folder.h"
 
 namespace veritane::simulator {
@@ -23,6 +24,7 @@ namespace {
 using ::testing::ElementsAre;
 using tests::ErrorOf;
 using tests::MemoryFileSystem;
+using tests::StandingClock;
 
 template <typename Number>
 Number NumberAt(const std::string& bytes, std::size_t offset) {
@@ -63,14 +65,6 @@ struct ReadBack {
   int yType = -1;
   std::uint32_t date = 0;
   std::string memo;
-};
-
-class StandingClock : public platform::Clock {
-public:
-  std::chrono::system_clock::time_point Now() const override { return {}; }
-  platform::DateTime ToLocal(std::chrono::system_clock::time_point) const override {
-    return {2026, 11, 21, 10, 59, 7};
-  }
 };
 
 // A document with two spectra of three points.

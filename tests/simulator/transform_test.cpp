@@ -4,25 +4,11 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <numbers>
+
+#include "tests/identification/reference.h"
 
 namespace veritane::simulator {
 namespace {
-
-// The defining sum in extended precision; k n is reduced modulo N so that the cosine's argument stays small.
-std::vector<long double> DirectTransform(const std::vector<double>& ordinates) {
-  const std::size_t size = ordinates.size();
-  std::vector<long double> cosine(size);
-  for (std::size_t i = 0; i < size; ++i) {
-    cosine[i] = std::cos(2 * std::numbers::pi_v<long double> * static_cast<long double>(i) /
-                         static_cast<long double>(size));
-  }
-  std::vector<long double> sums(size);
-  for (std::size_t k = 0; k < size; ++k) {
-    for (std::size_t n = 0; n < size; ++n) sums[k] += ordinates[n] * cosine[k * n % size];
-  }
-  return sums;
-}
 
 TEST(Transform, EqualsTheDefiningSumForAnyNumberOfPoints) {
   for (const std::size_t size : {1u, 2u, 3u, 4u, 5u, 7u, 8u, 13u, 60u, 277u, 720u, 1976u, 2048u, 3601u}) {
@@ -32,7 +18,7 @@ TEST(Transform, EqualsTheDefiningSumForAnyNumberOfPoints) {
       ordinates[i] = std::sin(0.37 * static_cast<double>(i * i)) + 0.25;
       total += std::abs(ordinates[i]);
     }
-    const std::vector<long double> expected = DirectTransform(ordinates);
+    const std::vector<long double> expected = identification::reference::FourierTransform(ordinates);
     const std::vector<double> transformed = RealFourierTransform(ordinates);
     ASSERT_EQ(transformed.size(), size);
     for (std::size_t k = 0; k < size; ++k) {

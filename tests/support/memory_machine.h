@@ -2,6 +2,7 @@
 #pragma once
 
 #include "tests/support/memory_file_system.h"
+#include "tests/support/standing_clock.h"
 #include "tests/support/test_folders.h"
 
 namespace veritane::tests {
@@ -30,10 +31,6 @@ private:
     std::optional<std::string> LoggedOnUser() const override { return std::nullopt; }
     std::optional<std::string> ComputerName() const override { return std::nullopt; }
   };
-  struct StoppedClock : platform::Clock {
-    std::chrono::system_clock::time_point Now() const override { return {}; }
-    platform::DateTime ToLocal(std::chrono::system_clock::time_point) const override { return {}; }
-  };
   struct NoDates : platform::RegionalFormat {
     std::string ShortDate(const platform::DateTime&) const override { return {}; }
     std::string ShortTime(const platform::DateTime&) const override { return {}; }
@@ -50,7 +47,7 @@ private:
   EmptyRegistry registry_;
   TestFolders folders_;
   Nobody user_;
-  StoppedClock clock_;
+  StandingClock clock_;
   NoDates regional_;
   NoLibraries libraries_;
 };
