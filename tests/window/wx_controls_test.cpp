@@ -291,14 +291,12 @@ TEST_F(WxControlsTest, ARunTimeErrorIsShownAndTheProgramGoesOn) {
 TEST_F(WxControlsTest, AnyOtherExceptionEndsTheProgramWithStatusOne) {
   form_.okay.OnClick = [] { throw std::logic_error("a fault of the program"); };
   OpenEntry();
-  std::string told;
-  Later([&] {
-    told = Widget("text")->GetLabel().utf8_string();
-    EXPECT_FALSE(ui_.Ended());
-    mouse_and_keys_.Char(WXK_RETURN);
-  });
+  PlayAlong({{"the last box", [] { return DialogShows("The program has to end: a fault of the program"); },
+              [&] {
+                EXPECT_FALSE(ui_.Ended());
+                mouse_and_keys_.Char(WXK_RETURN);
+              }}});
   Click("okay");
-  EXPECT_EQ(told, "The program has to end: a fault of the program");
   EXPECT_TRUE(ui_.Ended());
   EXPECT_EQ(ui_.ExitStatus(), 1);
 }
