@@ -2,11 +2,11 @@
 // Peaks".
 #pragma once
 
-#include <optional>
-#include <string>
-
 #include "platform/desktop.h"
 #include "shell/state/data_folders.h"
+
+#include <optional>
+#include <string>
 
 namespace veritane::acquisition {
 

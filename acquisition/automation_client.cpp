@@ -1,12 +1,12 @@
 // The application, its documents and collect methods over automation.
 #include "acquisition/automation_client.h"
 
-#include <utility>
-
 #include "acquisition/automation_object.h"
 #include "acquisition/automation_spectrum.h"
 #include "platform/run_time_error.h"
 #include "shell/state/string_table.h"
+
+#include <utility>
 
 namespace veritane::acquisition {
 

@@ -2,12 +2,12 @@
 // late-bound calls.
 #pragma once
 
-#include <memory>
-#include <string>
-
 #include "acquisition/automation_members.h"
 #include "acquisition/spectrometer_app.h"
 #include "platform/automation.h"
+
+#include <memory>
+#include <string>
 
 namespace veritane::acquisition {
 

@@ -1,15 +1,15 @@
 // The table of member names and the file that changes it.
 #include "acquisition/automation_members.h"
 
-#include <algorithm>
-#include <optional>
-#include <set>
-
 #include "platform/run_time_error.h"
 #include "platform/text_file.h"
 #include "platform/texts.h"
 #include "platform/windows_path.h"
 #include "shell/state/string_table.h"
+
+#include <algorithm>
+#include <optional>
+#include <set>
 
 namespace veritane::acquisition {
 

@@ -2,12 +2,12 @@
 // contract. A site whose application calls them otherwise says so in a text file.
 #pragma once
 
+#include "platform/automation.h"
+#include "platform/file_system.h"
+
 #include <array>
 #include <string>
 #include <string_view>
-
-#include "platform/automation.h"
-#include "platform/file_system.h"
 
 namespace veritane::acquisition {
 

@@ -2,11 +2,11 @@
 // automation client are made of.
 #pragma once
 
+#include "acquisition/automation_members.h"
+
 #include <initializer_list>
 #include <memory>
 #include <utility>
-
-#include "acquisition/automation_members.h"
 
 namespace veritane::acquisition {
 

@@ -1,10 +1,10 @@
 // A spectrum that another program holds.
 #pragma once
 
-#include <memory>
-
 #include "acquisition/automation_object.h"
 #include "acquisition/spectrometer_app.h"
+
+#include <memory>
 
 namespace veritane::acquisition {
 

@@ -1,11 +1,11 @@
 // The status window while the program waits.
 #include "acquisition/automation_waiting_text.h"
 
-#include <memory>
-#include <string>
-
 #include "acquisition/frm_status.h"
 #include "platform/desktop.h"
+
+#include <memory>
+#include <string>
 
 namespace veritane::acquisition {
 

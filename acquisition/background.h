@@ -1,11 +1,11 @@
 // Backgrounds: where they are kept, when a new one is due, and how one is collected.
 #pragma once
 
-#include <optional>
-#include <string>
-
 #include "acquisition/bench.h"
 #include "acquisition/collection.h"
+
+#include <optional>
+#include <string>
 
 namespace veritane::acquisition {
 

@@ -1,14 +1,14 @@
 // Everything that a workflow with the Spectrometer application works with.
 #pragma once
 
-#include <functional>
-
 #include "acquisition/frm_status.h"
 #include "acquisition/spectrometer_session.h"
 #include "platform/desktop.h"
 #include "platform/machine.h"
 #include "shell/state/program_state.h"
 #include "shell/state/spectrum_panel.h"
+
+#include <functional>
 
 namespace veritane::acquisition {
 

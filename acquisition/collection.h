@@ -1,9 +1,9 @@
 // Measuring one spectrum into the current document, with everything that can go wrong at the instrument.
 #pragma once
 
-#include <string>
-
 #include "acquisition/bench.h"
+
+#include <string>
 
 namespace veritane::acquisition {
 

@@ -1,12 +1,12 @@
 // The dialog in which a supervisor defines a new product and its Standard.
 #pragma once
 
+#include "platform/controls.h"
+#include "platform/form.h"
+
 #include <functional>
 #include <optional>
 #include <string>
-
-#include "platform/controls.h"
-#include "platform/form.h"
 
 namespace veritane::acquisition {
 

@@ -1,11 +1,11 @@
 // The dialog that defines, by example, which part of a Product ID names the product.
 #pragma once
 
-#include <functional>
-#include <string>
-
 #include "platform/controls.h"
 #include "platform/form.h"
+
+#include <functional>
+#include <string>
 
 namespace veritane::acquisition {
 

@@ -1,15 +1,15 @@
 // The collect methods while a supervisor edits them: the list itself, their prompts and their null regions.
 #pragma once
 
-#include <functional>
-#include <string>
-
 #include "acquisition/frm_null_region.h"
 #include "acquisition/frm_prompts.h"
 #include "platform/controls.h"
 #include "platform/desktop.h"
 #include "platform/file_system.h"
 #include "shell/state/program_state.h"
+
+#include <functional>
+#include <string>
 
 namespace veritane::acquisition {
 

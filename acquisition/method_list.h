@@ -1,12 +1,12 @@
 // The methods list: the ".clm" files that may be used, and their short names.
 #pragma once
 
-#include <string>
-#include <vector>
-
 #include "platform/controls.h"
 #include "platform/file_system.h"
 #include "shell/state/program_state.h"
+
+#include <string>
+#include <vector>
 
 namespace veritane::acquisition {
 

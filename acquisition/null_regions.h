@@ -1,11 +1,11 @@
 // Null regions: wavenumber ranges of a collect method that comparisons ignore.
 #pragma once
 
-#include <string>
-#include <vector>
-
 #include "platform/file_system.h"
 #include "shell/state/program_state.h"
+
+#include <string>
+#include <vector>
 
 namespace veritane::acquisition {
 

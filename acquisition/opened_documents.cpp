@@ -1,9 +1,9 @@
 // Closing documents at a workflow's end.
 #include "acquisition/opened_documents.h"
 
-#include <utility>
-
 #include "platform/run_time_error.h"
+
+#include <utility>
 
 namespace veritane::acquisition {
 

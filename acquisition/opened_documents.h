@@ -1,11 +1,11 @@
 // Documents that a workflow has open in the Spectrometer application, and closes however it ends.
 #pragma once
 
+#include "acquisition/spectrometer_session.h"
+
 #include <memory>
 #include <string>
 #include <vector>
-
-#include "acquisition/spectrometer_session.h"
 
 namespace veritane::acquisition {
 

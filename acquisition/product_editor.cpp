@@ -1,12 +1,12 @@
 // Loading, changing and saving the product table in its grid.
 #include "acquisition/product_editor.h"
 
-#include <algorithm>
-
 #include "acquisition/additional_file.h"
 #include "platform/run_time_error.h"
 #include "platform/windows_path.h"
 #include "shell/state/messages.h"
+
+#include <algorithm>
 
 namespace veritane::acquisition {
 

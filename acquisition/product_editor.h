@@ -2,16 +2,16 @@
 // was changed.
 #pragma once
 
-#include <optional>
-#include <string>
-#include <vector>
-
 #include "acquisition/product_table.h"
 #include "platform/controls.h"
 #include "platform/desktop.h"
 #include "platform/file_system.h"
 #include "platform/grid.h"
 #include "shell/state/program_state.h"
+
+#include <optional>
+#include <string>
+#include <vector>
 
 namespace veritane::acquisition {
 

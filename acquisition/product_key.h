@@ -1,10 +1,10 @@
 // The part of a Product ID that names the product: its definition, and cutting it out.
 #pragma once
 
-#include <string>
-
 #include "platform/machine.h"
 #include "shell/state/data_folders.h"
+
+#include <string>
 
 namespace veritane::acquisition {
 

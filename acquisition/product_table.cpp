@@ -1,12 +1,12 @@
 // Reading, searching, writing and showing the product table.
 #include "acquisition/product_table.h"
 
-#include <algorithm>
-
 #include "platform/number_text.h"
 #include "platform/text_file.h"
 #include "platform/windows_path.h"
 #include "shell/state/string_table.h"
+
+#include <algorithm>
 
 namespace veritane::acquisition {
 

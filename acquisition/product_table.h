@@ -1,14 +1,14 @@
 // The product table: one row a product, with its collect method, algorithm and additional file.
 #pragma once
 
+#include "platform/file_system.h"
+#include "platform/grid.h"
+#include "shell/state/program_state.h"
+
 #include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
-
-#include "platform/file_system.h"
-#include "platform/grid.h"
-#include "shell/state/program_state.h"
 
 namespace veritane::acquisition {
 

@@ -1,10 +1,10 @@
 // What the operator is told before a background and before a sample, per collect method.
 #pragma once
 
-#include <string>
-
 #include "platform/file_system.h"
 #include "shell/state/data_folders.h"
+
+#include <string>
 
 namespace veritane::acquisition {
 

@@ -6,14 +6,14 @@
 // AutoAlign and CollectInto return.
 #pragma once
 
+#include "platform/automation.h"
+#include "shell/state/spectrum_buffer.h"
+
 #include <cstdint>
 #include <functional>
 #include <memory>
 #include <string>
 #include <variant>
-
-#include "platform/automation.h"
-#include "shell/state/spectrum_buffer.h"
 
 namespace veritane::acquisition {
 

@@ -1,10 +1,10 @@
 // Opening documents and reading spectra through the Spectrometer application.
 #include "acquisition/spectrometer_session.h"
 
-#include <cmath>
-
 #include "platform/run_time_error.h"
 #include "shell/state/string_table.h"
+
+#include <cmath>
 
 namespace veritane::acquisition {
 

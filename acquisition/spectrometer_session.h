@@ -1,9 +1,9 @@
 // The objects of the Spectrometer application that the program holds.
 #pragma once
 
-#include <memory>
-
 #include "acquisition/spectrometer_app.h"
+
+#include <memory>
 
 namespace veritane::acquisition {
 

@@ -1,11 +1,11 @@
 // A background or a Standard on the chart.
 #include "acquisition/spectrum_drawing.h"
 
-#include <algorithm>
-
 #include "platform/run_time_error.h"
 #include "shell/state/spectrum_panel.h"
 #include "shell/state/string_table.h"
+
+#include <algorithm>
 
 namespace veritane::acquisition {
 

@@ -1,10 +1,10 @@
 // Spectra as traces of the chart, and one measured spectrum shown by itself.
 #pragma once
 
-#include <string>
-
 #include "platform/chart.h"
 #include "shell/state/spectrum_buffer.h"
+
+#include <string>
 
 namespace veritane::acquisition {
 

@@ -1,8 +1,6 @@
 // Collecting a Standard step by step.
 #include "acquisition/standard_collection.h"
 
-#include <algorithm>
-
 #include "acquisition/additional_file.h"
 #include "acquisition/background.h"
 #include "acquisition/pending_product.h"
@@ -12,6 +10,8 @@
 #include "platform/run_time_error.h"
 #include "platform/windows_path.h"
 #include "shell/state/messages.h"
+
+#include <algorithm>
 
 namespace veritane::acquisition {
 

@@ -2,13 +2,13 @@
 // product table.
 #pragma once
 
-#include <string>
-
 #include "acquisition/bench.h"
 #include "acquisition/collection.h"
 #include "acquisition/frm_collect_std.h"
 #include "acquisition/opened_documents.h"
 #include "acquisition/product_table.h"
+
+#include <string>
 
 namespace veritane::acquisition {
 

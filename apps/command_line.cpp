@@ -1,11 +1,11 @@
 // Reading command lines.
 #include "apps/command_line.h"
 
+#include "platform/number_text.h"
+
 #include <algorithm>
 #include <iostream>
 #include <string_view>
-
-#include "platform/number_text.h"
 
 namespace veritane::apps {
 

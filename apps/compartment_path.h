@@ -2,10 +2,10 @@
 // server.
 #pragma once
 
-#include <string>
-
 #include "platform/system/system_machine.h"
 #include "shell/state/data_folders.h"
+
+#include <string>
 
 namespace veritane::apps {
 

@@ -1,10 +1,10 @@
 // Choosing the Spectrometer application.
 #include "apps/instrument.h"
 
-#include <utility>
-
 #include "acquisition/automation_client.h"
 #include "shell/state/data_folders.h"
+
+#include <utility>
 
 namespace veritane::apps {
 

@@ -2,14 +2,14 @@
 // process.
 #pragma once
 
-#include <memory>
-#include <string>
-
 #include "acquisition/spectrometer_app.h"
 #include "apps/command_line.h"
 #include "apps/simulated_bench.h"
 #include "platform/automation.h"
 #include "platform/system/system_machine.h"
+
+#include <memory>
+#include <string>
 
 namespace veritane::apps {
 

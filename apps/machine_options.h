@@ -1,10 +1,10 @@
 // The options that say on which machine a program works: its data root and its time.
 #pragma once
 
-#include <filesystem>
-
 #include "apps/command_line.h"
 #include "platform/system/system_machine.h"
+
+#include <filesystem>
 
 namespace veritane::apps {
 

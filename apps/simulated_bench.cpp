@@ -1,15 +1,15 @@
 // Assembling the simulated spectrometer.
 #include "apps/simulated_bench.h"
 
-#include <iostream>
-#include <random>
-
 #include "apps/compartment_path.h"
 #include "platform/pdf/pdf_document.h"
 #include "platform/run_time_error.h"
 #include "shell/state/data_folders.h"
 #include "simulator/simulated_spectrometer.h"
 #include "simulator/spectrum_file.h"
+
+#include <iostream>
+#include <random>
 
 namespace veritane::apps {
 

@@ -1,16 +1,16 @@
 // The simulated spectrometer as the programs use it: one instrument behind the automation object.
 #pragma once
 
-#include <functional>
-#include <memory>
-#include <string>
-#include <utility>
-
 #include "acquisition/spectrometer_app.h"
 #include "platform/system/system_machine.h"
 #include "simulator/call_log.h"
 #include "simulator/compartment.h"
 #include "simulator/instrument.h"
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <utility>
 
 namespace veritane::apps {
 

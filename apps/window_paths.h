@@ -1,11 +1,11 @@
 // The paths of a machine as the toolkit's file choosers take and give them.
 #pragma once
 
-#include <string>
-
 #include "platform/system/native_path.h"
 #include "platform/system/system_machine.h"
 #include "platform/wx/wx_user_interface.h"
+
+#include <string>
 
 namespace veritane::apps {
 

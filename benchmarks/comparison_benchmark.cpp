@@ -1,13 +1,13 @@
 // What one sample costs in arithmetic: its preparation and comparison at 3,601 points.
+#include "benchmarks/made_up_spectrum.h"
+#include "identification/correlation.h"
+#include "identification/lumivar.h"
+
 #include <benchmark/benchmark.h>
 
 #include <cstddef>
 #include <cstdint>
 #include <vector>
-
-#include "benchmarks/made_up_spectrum.h"
-#include "identification/correlation.h"
-#include "identification/lumivar.h"
 
 namespace veritane::benchmarks {
 namespace {

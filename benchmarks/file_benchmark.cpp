@@ -1,14 +1,14 @@
 // What files cost: a full sample document of 50 spectra, and a product table of 10,000 rows. In memory, so
 // that the figures are the program's and not the disk's.
-#include <benchmark/benchmark.h>
-
-#include <string>
-#include <vector>
-
 #include "acquisition/product_table.h"
 #include "benchmarks/made_up_spectrum.h"
 #include "simulator/jcamp_writer.h"
 #include "simulator/spectrum_file.h"
+
+#include <benchmark/benchmark.h>
+
+#include <string>
+#include <vector>
 
 namespace veritane::benchmarks {
 namespace {

@@ -1,7 +1,7 @@
 // How long the simulated instrument computes for one collection.
-#include <benchmark/benchmark.h>
-
 #include "simulator/instrument_model.h"
+
+#include <benchmark/benchmark.h>
 
 namespace veritane::simulator {
 namespace {

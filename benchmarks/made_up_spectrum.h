@@ -1,9 +1,9 @@
 // The spectrum that all benchmarks use; numpy_comparison.py makes the same one.
 #pragma once
 
-#include <cmath>
-
 #include "shell/state/spectrum_buffer.h"
+
+#include <cmath>
 
 namespace veritane::benchmarks {
 

@@ -2,6 +2,13 @@
 // row to row. Writes milliseconds as JSON; run it on a machine that does nothing else.
 //
 // opening_time ROOT    (an empty folder, which becomes the data root)
+#include "apps/simulated_bench.h"
+#include "apps/veritane_setup/data_layout.h"
+#include "platform/desktop.h"
+#include "platform/wx/wx_user_interface.h"
+#include "shell/frm_veritane.h"
+
+#include <nlohmann/json.hpp>
 #include <wx/app.h>
 #include <wx/evtloop.h>
 #include <wx/grid.h>
@@ -10,15 +17,8 @@
 #include <chrono>
 #include <cstdio>
 #include <filesystem>
-#include <nlohmann/json.hpp>
 #include <string>
 #include <vector>
-
-#include "apps/simulated_bench.h"
-#include "apps/veritane_setup/data_layout.h"
-#include "platform/desktop.h"
-#include "platform/wx/wx_user_interface.h"
-#include "shell/frm_veritane.h"
 
 namespace veritane::platform {
 namespace {

@@ -1,5 +1,10 @@
 // What PLS costs: one concentration, a prediction with every item through the library's interface, and a
 // cross-validation.
+#include "pls/pls_library.h"
+#include "plslibrary/calibration_builder.h"
+#include "plslibrary/calibration_file.h"
+#include "plslibrary/prediction.h"
+
 #include <benchmark/benchmark.h>
 
 #include <array>
@@ -8,11 +13,6 @@
 #include <fstream>
 #include <string>
 #include <vector>
-
-#include "pls/pls_library.h"
-#include "plslibrary/calibration_builder.h"
-#include "plslibrary/calibration_file.h"
-#include "plslibrary/prediction.h"
 
 namespace veritane::benchmarks {
 namespace {

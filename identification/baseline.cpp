@@ -1,17 +1,17 @@
 // Baseline preparation: the straight line that fits a spectrum best is taken away from it.
 #include "identification/baseline.h"
 
+#include "identification/point_numbers.h"
+#include "identification/point_sums.h"
+#include "platform/run_time_error.h"
+#include "shell/state/string_table.h"
+
 #include <algorithm>
 #include <array>
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
 #include <span>
-
-#include "identification/point_numbers.h"
-#include "identification/point_sums.h"
-#include "platform/run_time_error.h"
-#include "shell/state/string_table.h"
 
 namespace veritane::identification {
 

@@ -1,13 +1,6 @@
 // The Euclidean and the Fourier comparison: the match quality of a sample with its Standard, in percent.
 #include "identification/correlation.h"
 
-#include <algorithm>
-#include <array>
-#include <cmath>
-#include <cstddef>
-#include <span>
-#include <utility>
-
 #include "identification/baseline.h"
 #include "identification/normalisation.h"
 #include "identification/point_numbers.h"
@@ -15,6 +8,13 @@
 #include "platform/number_text.h"
 #include "platform/run_time_error.h"
 #include "shell/state/string_table.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <cstddef>
+#include <span>
+#include <utility>
 
 namespace veritane::identification {
 

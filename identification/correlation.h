@@ -10,10 +10,10 @@
 // accident.
 #pragma once
 
-#include <span>
-
 #include "identification/null_regions_applied.h"
 #include "shell/state/spectrum_buffer.h"
+
+#include <span>
 
 namespace veritane::identification {
 

@@ -1,12 +1,12 @@
 // The sample entry dialog's rules: scanner first, nothing left empty.
 #include "identification/frm_samp.h"
 
-#include <algorithm>
-
 #include "platform/desktop.h"
 #include "platform/utf8.h"
 #include "platform/windows_path.h"
 #include "shell/state/messages.h"
+
+#include <algorithm>
 
 namespace veritane::identification {
 

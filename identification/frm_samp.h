@@ -1,12 +1,12 @@
 // The sample entry dialog: Product ID, sample name, operator name.
 #pragma once
 
+#include "platform/controls.h"
+#include "platform/form.h"
+
 #include <functional>
 #include <string>
 #include <vector>
-
-#include "platform/controls.h"
-#include "platform/form.h"
 
 namespace veritane::identification {
 

@@ -1,12 +1,12 @@
 // Finding numbered files and comparing them with the file that is full.
 #include "identification/full_files.h"
 
-#include <set>
-
 #include "acquisition/opened_documents.h"
 #include "acquisition/product_table.h"
 #include "platform/run_time_error.h"
 #include "platform/windows_path.h"
+
+#include <set>
 
 namespace veritane::identification {
 

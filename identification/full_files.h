@@ -1,11 +1,11 @@
 // The numbered files that a product's full sample files become.
 #pragma once
 
-#include <string>
-
 #include "acquisition/spectrometer_app.h"
 #include "platform/file_system.h"
 #include "shell/state/program_state.h"
+
+#include <string>
 
 namespace veritane::identification {
 

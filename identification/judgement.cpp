@@ -1,9 +1,6 @@
 // Clearing, comparing and showing the verdict.
 #include "identification/judgement.h"
 
-#include <algorithm>
-#include <limits>
-
 #include "identification/correlation.h"
 #include "identification/lumivar.h"
 #include "identification/mark_peaks.h"
@@ -11,6 +8,9 @@
 #include "identification/result_records.h"
 #include "platform/run_time_error.h"
 #include "shell/state/string_table.h"
+
+#include <algorithm>
+#include <limits>
 
 namespace veritane::identification {
 

@@ -2,9 +2,9 @@
 // verdict on the screen. The sample run and reprocessing end alike.
 #pragma once
 
-#include <string>
-
 #include "acquisition/bench.h"
+
+#include <string>
 
 namespace veritane::identification {
 

@@ -1,17 +1,17 @@
 // The bands, their measures and what is shown of them.
 #include "identification/lumivar.h"
 
-#include <algorithm>
-#include <array>
-#include <cmath>
-#include <cstddef>
-#include <cstdint>
-
 #include "identification/point_numbers.h"
 #include "identification/point_sums.h"
 #include "platform/number_text.h"
 #include "platform/run_time_error.h"
 #include "shell/state/string_table.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <cstddef>
+#include <cstdint>
 
 namespace veritane::identification {
 

@@ -8,12 +8,12 @@
 // Standard and sample must have the same spacing and the same first point; callers have seen to that.
 #pragma once
 
+#include "acquisition/bench.h"
+#include "shell/state/spectrum_buffer.h"
+
 #include <span>
 #include <string>
 #include <vector>
-
-#include "acquisition/bench.h"
-#include "shell/state/spectrum_buffer.h"
 
 namespace veritane::identification {
 

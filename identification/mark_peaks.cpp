@@ -1,16 +1,16 @@
 // Reading peak positions and marking them.
 #include "identification/mark_peaks.h"
 
-#include <algorithm>
-#include <limits>
-#include <optional>
-
 #include "platform/number_text.h"
 #include "platform/run_time_error.h"
 #include "platform/text_file.h"
 #include "platform/texts.h"
 #include "platform/utf8.h"
 #include "shell/state/string_table.h"
+
+#include <algorithm>
+#include <limits>
+#include <optional>
 
 namespace veritane::identification {
 

@@ -1,11 +1,11 @@
 // "Mark Peaks": shows where a product's peaks are expected. Nothing is compared.
 #pragma once
 
+#include "acquisition/bench.h"
+
 #include <string>
 #include <string_view>
 #include <vector>
-
-#include "acquisition/bench.h"
 
 namespace veritane::identification {
 

@@ -1,16 +1,16 @@
 // Min-max normalisation: a spectrum on a scale from 0 to 1.
 #include "identification/normalisation.h"
 
+#include "identification/point_numbers.h"
+#include "identification/point_sums.h"
+#include "platform/run_time_error.h"
+#include "shell/state/string_table.h"
+
 #include <algorithm>
 #include <array>
 #include <cmath>
 #include <cstddef>
 #include <span>
-
-#include "identification/point_numbers.h"
-#include "identification/point_sums.h"
-#include "platform/run_time_error.h"
-#include "shell/state/string_table.h"
 
 namespace veritane::identification {
 

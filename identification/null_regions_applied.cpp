@@ -1,13 +1,13 @@
 // Null regions: bands of wavenumbers that the Euclidean comparison is to leave out.
 #include "identification/null_regions_applied.h"
 
-#include <algorithm>
-#include <cmath>
-#include <cstdint>
-
 #include "identification/point_numbers.h"
 #include "platform/run_time_error.h"
 #include "shell/state/string_table.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdint>
 
 namespace veritane::identification {
 

@@ -1,10 +1,10 @@
 // Null regions: bands of wavenumbers that the Euclidean comparison is to leave out.
 #pragma once
 
-#include <span>
-
 #include "shell/state/null_region.h"
 #include "shell/state/spectrum_buffer.h"
+
+#include <span>
 
 namespace veritane::identification {
 

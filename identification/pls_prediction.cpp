@@ -1,12 +1,12 @@
 // Running the prediction and wording its values.
 #include "identification/pls_prediction.h"
 
+#include "shell/state/string_table.h"
+
 #include <array>
 #include <charconv>
 #include <cmath>
 #include <limits>
-
-#include "shell/state/string_table.h"
 
 namespace veritane::identification {
 

@@ -2,10 +2,10 @@
 // the spectrum.
 #pragma once
 
+#include "acquisition/bench.h"
+
 #include <string>
 #include <vector>
-
-#include "acquisition/bench.h"
 
 namespace veritane::identification {
 

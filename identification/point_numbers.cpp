@@ -1,11 +1,11 @@
 // What every step of a comparison asks of the ordinates before it touches them.
 #include "identification/point_numbers.h"
 
-#include <cstdint>
-#include <limits>
-
 #include "platform/run_time_error.h"
 #include "shell/state/string_table.h"
+
+#include <cstdint>
+#include <limits>
 
 namespace veritane::identification {
 

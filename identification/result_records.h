@@ -1,11 +1,11 @@
 // The two records of the operator's work: the run log and a product's histogram file.
 #pragma once
 
-#include <string>
-
 #include "platform/file_system.h"
 #include "platform/machine.h"
 #include "shell/state/program_state.h"
+
+#include <string>
 
 namespace veritane::identification {
 

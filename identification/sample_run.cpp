@@ -1,9 +1,6 @@
 // The sample run step by step.
 #include "identification/sample_run.h"
 
-#include <cmath>
-#include <optional>
-
 #include "acquisition/collection.h"
 #include "acquisition/product_key.h"
 #include "acquisition/product_table.h"
@@ -18,6 +15,9 @@
 #include "platform/run_time_error.h"
 #include "platform/windows_path.h"
 #include "shell/state/messages.h"
+
+#include <cmath>
+#include <optional>
 
 namespace veritane::identification {
 

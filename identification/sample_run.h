@@ -1,14 +1,14 @@
 // The operator's sample run, from the entry dialog to the filed spectrum and its records.
 #pragma once
 
-#include <functional>
-#include <string>
-
 #include "acquisition/background.h"
 #include "acquisition/bench.h"
 #include "acquisition/opened_documents.h"
 #include "identification/frm_samp.h"
 #include "shell/state/string_table.h"
+
+#include <functional>
+#include <string>
 
 namespace veritane::identification {
 

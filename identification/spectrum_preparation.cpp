@@ -1,13 +1,13 @@
 // Preparing and plotting Standard and sample.
 #include "identification/spectrum_preparation.h"
 
-#include <algorithm>
-
 #include "acquisition/null_regions.h"
 #include "acquisition/spectrum_drawing.h"
 #include "identification/correlation.h"
 #include "identification/normalisation.h"
 #include "shell/state/string_table.h"
+
+#include <algorithm>
 
 namespace veritane::identification {
 

@@ -1,10 +1,10 @@
 // What a run makes of a spectrum, Standard or sample, before it compares the two.
 #pragma once
 
-#include <string>
-
 #include "acquisition/bench.h"
 #include "acquisition/opened_documents.h"
+
+#include <string>
 
 namespace veritane::identification {
 

@@ -1,12 +1,12 @@
 // Showing this program's objects to other programs.
 #pragma once
 
+#include "platform/automation.h"
+
 #include <chrono>
 #include <functional>
 #include <memory>
 #include <string>
-
-#include "platform/automation.h"
 
 namespace veritane::platform {
 

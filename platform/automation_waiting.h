@@ -1,10 +1,10 @@
 // How long the program goes on asking a busy server, and waiting for an answer.
 #pragma once
 
+#include "platform/automation.h"
+
 #include <cstdint>
 #include <optional>
-
-#include "platform/automation.h"
 
 namespace veritane::platform {
 

@@ -2,12 +2,12 @@
 // marked bands. It holds what is to be seen; chart_drawing.h draws it.
 #pragma once
 
+#include "platform/control.h"
+
 #include <array>
 #include <functional>
 #include <string>
 #include <vector>
-
-#include "platform/control.h"
 
 namespace veritane::platform {
 

@@ -1,12 +1,12 @@
 // The chart's parts, from the back to the front.
 #include "platform/chart_drawing.h"
 
+#include "platform/chart_shading.h"
+#include "platform/chart_trace.h"
+
 #include <algorithm>
 #include <array>
 #include <cmath>
-
-#include "platform/chart_shading.h"
-#include "platform/chart_trace.h"
 
 namespace veritane::platform {
 

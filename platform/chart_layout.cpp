@@ -1,11 +1,11 @@
 // The chart's layout: header and verdict on top, then the legend, marker texts, the plot, its axes.
 #include "platform/chart_layout.h"
 
+#include "platform/utf8.h"
+
 #include <algorithm>
 #include <cmath>
 #include <map>
-
-#include "platform/utf8.h"
 
 namespace veritane::platform {
 

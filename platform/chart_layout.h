@@ -1,12 +1,12 @@
 // Where the parts of a chart lie on its surface.
 #pragma once
 
-#include <string>
-#include <vector>
-
 #include "platform/axis_ticks.h"
 #include "platform/chart.h"
 #include "platform/drawing_context.h"
+
+#include <string>
+#include <vector>
 
 namespace veritane::platform {
 

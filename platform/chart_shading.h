@@ -1,11 +1,11 @@
 // How marked bands are told apart: by colour, and by a hatching that needs no colour.
 #pragma once
 
-#include <utility>
-#include <vector>
-
 #include "platform/chart.h"
 #include "platform/drawing_context.h"
+
+#include <utility>
+#include <vector>
 
 namespace veritane::platform {
 

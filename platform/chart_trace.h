@@ -1,9 +1,9 @@
 // A trace of many points as the few lines that show all of it.
 #pragma once
 
-#include <vector>
-
 #include "platform/chart_layout.h"
+
+#include <vector>
 
 namespace veritane::platform {
 

@@ -1,10 +1,10 @@
 // Controls: the part they have in common.
 #include "platform/control.h"
 
-#include <algorithm>
-
 #include "platform/controls.h"
 #include "platform/form.h"
+
+#include <algorithm>
 
 namespace veritane::platform {
 

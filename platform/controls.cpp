@@ -1,10 +1,10 @@
 // Controls and the events that their properties raise.
 #include "platform/controls.h"
 
-#include <algorithm>
-
 #include "platform/run_time_error.h"
 #include "platform/utf8.h"
+
+#include <algorithm>
 
 namespace veritane::platform {
 

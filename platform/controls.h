@@ -1,12 +1,12 @@
 // The controls that forms are made of. Grid and chart have headers of their own.
 #pragma once
 
+#include "platform/control.h"
+
 #include <cstdint>
 #include <functional>
 #include <string>
 #include <vector>
-
-#include "platform/control.h"
 
 namespace veritane::platform {
 

@@ -2,12 +2,12 @@
 // that runs what the user does. A UserInterface behind it draws all that, or plays it from a script.
 #pragma once
 
+#include "platform/printer.h"
+
 #include <functional>
 #include <optional>
 #include <string>
 #include <vector>
-
-#include "platform/printer.h"
 
 namespace veritane::platform {
 

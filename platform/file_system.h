@@ -2,12 +2,12 @@
 // "\" between names; names are looked up without regard to case on every system.
 #pragma once
 
+#include "platform/date_time.h"
+
 #include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
-
-#include "platform/date_time.h"
 
 namespace veritane::platform {
 

@@ -1,9 +1,9 @@
 // The grid's cells and its current cell.
 #include "platform/grid.h"
 
-#include <algorithm>
-
 #include "platform/run_time_error.h"
+
+#include <algorithm>
 
 namespace veritane::platform {
 

@@ -1,11 +1,11 @@
 // A table of texts with a header row, of which one row is current.
 #pragma once
 
+#include "platform/control.h"
+
 #include <functional>
 #include <string>
 #include <vector>
-
-#include "platform/control.h"
 
 namespace veritane::platform {
 

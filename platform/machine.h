@@ -1,14 +1,14 @@
 // Everything that the program needs of the machine it runs on, behind small interfaces.
 #pragma once
 
+#include "platform/date_time.h"
+#include "platform/dynamic_library.h"
+#include "platform/file_system.h"
+
 #include <cstdint>
 #include <functional>
 #include <optional>
 #include <string>
-
-#include "platform/date_time.h"
-#include "platform/dynamic_library.h"
-#include "platform/file_system.h"
 
 namespace veritane::platform {
 

@@ -1,14 +1,14 @@
 // Numbers to text and back, independent of any locale.
 #include "platform/number_text.h"
 
+#include "platform/text_file.h"
+
 #include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
-
-#include "platform/text_file.h"
 
 namespace veritane::platform {
 

@@ -2,11 +2,11 @@
 // the function that makes the file's bytes.
 #pragma once
 
-#include <functional>
-#include <string>
-
 #include "platform/date_time.h"
 #include "platform/drawing_context.h"
+
+#include <functional>
+#include <string>
 
 namespace veritane::platform {
 

@@ -1,10 +1,10 @@
 // Naming prints so that none replaces another.
 #include "platform/print_file.h"
 
-#include <algorithm>
-
 #include "platform/utf8.h"
 #include "platform/windows_path.h"
+
+#include <algorithm>
 
 namespace veritane::platform {
 

@@ -1,10 +1,10 @@
 // The names of files that prints go into.
 #pragma once
 
+#include "platform/file_system.h"
+
 #include <string>
 #include <string_view>
-
-#include "platform/file_system.h"
 
 namespace veritane::platform {
 

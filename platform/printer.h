@@ -1,9 +1,9 @@
 // Printing: what is printed, drawn page by page, and what prints it.
 #pragma once
 
-#include <string>
-
 #include "platform/drawing_context.h"
+
+#include <string>
 
 namespace veritane::platform {
 

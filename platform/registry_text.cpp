@@ -1,10 +1,10 @@
 // Finding a value in registry text.
 #include "platform/registry_text.h"
 
+#include "platform/windows_path.h"
+
 #include <algorithm>
 #include <charconv>
-
-#include "platform/windows_path.h"
 
 namespace veritane::platform {
 

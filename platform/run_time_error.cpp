@@ -1,11 +1,11 @@
 // Run-time errors and the conversions that raise them.
 #include "platform/run_time_error.h"
 
-#include <cmath>
-#include <limits>
-
 #include "platform/number_text.h"
 #include "platform/texts.h"
+
+#include <cmath>
+#include <limits>
 
 namespace veritane::platform {
 

@@ -1,13 +1,13 @@
 // Reading small text files by fields and lines.
 #include "platform/text_file.h"
 
-#include <algorithm>
-#include <array>
-
 #include "platform/number_text.h"
 #include "platform/run_time_error.h"
 #include "platform/texts.h"
 #include "platform/utf8.h"
+
+#include <algorithm>
+#include <array>
 
 namespace veritane::platform {
 

@@ -1,11 +1,11 @@
 // Breaking a text into lines and pages.
 #include "platform/text_printout.h"
 
-#include <algorithm>
-#include <cmath>
-
 #include "platform/texts.h"
 #include "platform/utf8.h"
+
+#include <algorithm>
+#include <cmath>
 
 namespace veritane::platform {
 

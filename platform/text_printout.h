@@ -1,10 +1,10 @@
 // A text as a document to be printed: as many upright pages as it needs, numbered.
 #pragma once
 
+#include "platform/printer.h"
+
 #include <string>
 #include <vector>
-
-#include "platform/printer.h"
 
 namespace veritane::platform {
 

@@ -1,9 +1,9 @@
 // Looking texts up, and filling in their places.
 #include "platform/text_table.h"
 
-#include <algorithm>
-
 #include "platform/run_time_error.h"
+
+#include <algorithm>
 
 namespace veritane::platform {
 

@@ -2,11 +2,11 @@
 // that is filled in. The short text of run-time error n is number 2000 + n.
 #pragma once
 
+#include "platform/text_table.h"
+
 #include <initializer_list>
 #include <string>
 #include <string_view>
-
-#include "platform/text_table.h"
 
 namespace veritane::platform {
 

@@ -1,11 +1,11 @@
 // Windows paths and names as text.
 #include "platform/windows_path.h"
 
-#include <algorithm>
-#include <array>
-
 #include "platform/texts.h"
 #include "platform/utf8.h"
+
+#include <algorithm>
+#include <array>
 
 namespace veritane::platform {
 

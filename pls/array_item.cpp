@@ -1,11 +1,11 @@
 // Sizes and subscripts that are checked.
 #include "pls/array_item.h"
 
-#include <new>
-#include <string>
-
 #include "platform/run_time_error.h"
 #include "shell/state/string_table.h"
+
+#include <new>
+#include <string>
 
 namespace veritane::pls {
 

@@ -1,10 +1,10 @@
 // F ratio and probability, every step checked.
 #include "pls/f_test.h"
 
-#include <cmath>
-
 #include "platform/run_time_error.h"
 #include "shell/state/string_table.h"
+
+#include <cmath>
 
 namespace veritane::pls {
 

@@ -1,16 +1,16 @@
 // Binding the library's functions, and keeping their exceptions out of the program.
 #include "pls/loaded_prediction_library.h"
 
+#include "platform/dynamic_library.h"
+#include "platform/run_time_error.h"
+#include "pls/pls_library.h"
+#include "shell/state/string_table.h"
+
 #include <algorithm>
 #include <array>
 #include <exception>
 #include <new>
 #include <utility>
-
-#include "platform/dynamic_library.h"
-#include "platform/run_time_error.h"
-#include "pls/pls_library.h"
-#include "shell/state/string_table.h"
 
 namespace veritane::pls {
 

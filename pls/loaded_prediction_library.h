@@ -1,12 +1,12 @@
 // The prediction library as the machine has it: loaded by name at the first call.
 #pragma once
 
+#include "pls/prediction_library.h"
+
 #include <functional>
 #include <memory>
 #include <optional>
 #include <string>
-
-#include "pls/prediction_library.h"
 
 namespace veritane::platform {
 class DynamicLibraries;

@@ -1,17 +1,17 @@
 // The steps of a prediction, in their order.
 #include "pls/main_form.h"
 
-#include <algorithm>
-#include <array>
-#include <charconv>
-#include <cmath>
-
 #include "platform/desktop.h"
 #include "platform/number_text.h"
 #include "platform/run_time_error.h"
 #include "platform/text_file.h"
 #include "platform/text_printout.h"
 #include "shell/state/string_table.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
 
 namespace veritane::pls {
 

@@ -1,15 +1,15 @@
 // MainForm: one PLS prediction of the spectrum that the Spectrometer application holds.
 #pragma once
 
-#include <functional>
-#include <memory>
-#include <string>
-
 #include "platform/controls.h"
 #include "platform/file_system.h"
 #include "platform/form.h"
 #include "pls/pls_pred.h"
 #include "shell/state/program_state.h"
+
+#include <functional>
+#include <memory>
+#include <string>
 
 namespace veritane::pls {
 

@@ -1,8 +1,6 @@
 // State, preconditions and items of a loaded calibration.
 #include "pls/pls_pred.h"
 
-#include <exception>
-
 #include "platform/desktop.h"
 #include "platform/run_time_error.h"
 #include "platform/text_file.h"
@@ -10,6 +8,8 @@
 #include "pls/array_item.h"
 #include "pls/f_test.h"
 #include "shell/state/string_table.h"
+
+#include <exception>
 
 namespace veritane::pls {
 

@@ -2,11 +2,11 @@
 // texts.
 #pragma once
 
+#include "pls/prediction_library.h"
+
 #include <cstdint>
 #include <string>
 #include <vector>
-
-#include "pls/prediction_library.h"
 
 namespace veritane::platform {
 class Desktop;

@@ -1,11 +1,11 @@
 // What makes a calibration sound, and what it can be applied to.
 #include "plslibrary/calibration.h"
 
+#include "plslibrary/pls_error.h"
+
 #include <algorithm>
 #include <cmath>
 #include <utility>
-
-#include "plslibrary/pls_error.h"
 
 namespace veritane::plslibrary {
 

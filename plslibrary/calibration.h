@@ -1,14 +1,15 @@
 // A calibration: everything that a prediction needs to know about the samples it was built from.
 #pragma once
 
+#include "plslibrary/measured_spectrum.h"
+#include "plslibrary/preprocessing.h"
+
 #include <Eigen/Core>
+
 #include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
-
-#include "plslibrary/measured_spectrum.h"
-#include "plslibrary/preprocessing.h"
 
 namespace veritane::plslibrary {
 

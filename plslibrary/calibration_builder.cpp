@@ -1,12 +1,12 @@
 // From spectra and reference values to a calibration.
 #include "plslibrary/calibration_builder.h"
 
-#include <algorithm>
-#include <cmath>
-
 #include "plslibrary/pls1.h"
 #include "plslibrary/pls_error.h"
 #include "plslibrary/prediction.h"
+
+#include <algorithm>
+#include <cmath>
 
 namespace veritane::plslibrary {
 

@@ -1,12 +1,13 @@
 // Builds a calibration from spectra and reference values, and says what the samples are worth.
 #pragma once
 
-#include <Eigen/Core>
-#include <string>
-#include <vector>
-
 #include "plslibrary/calibration.h"
 #include "plslibrary/cross_validation.h"
+
+#include <Eigen/Core>
+
+#include <string>
+#include <vector>
 
 namespace veritane::plslibrary {
 

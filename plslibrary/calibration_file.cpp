@@ -1,13 +1,13 @@
 // The lines of a ".cal" file.
 #include "plslibrary/calibration_file.h"
 
+#include "plslibrary/crc32.h"
+#include "plslibrary/pls_error.h"
+
 #include <algorithm>
 #include <charconv>
 #include <optional>
 #include <utility>
-
-#include "plslibrary/crc32.h"
-#include "plslibrary/pls_error.h"
 
 namespace veritane::plslibrary {
 

@@ -6,12 +6,12 @@
 // object.
 #pragma once
 
+#include "plslibrary/calibration.h"
+
 #include <span>
 #include <string>
 #include <string_view>
 #include <vector>
-
-#include "plslibrary/calibration.h"
 
 namespace veritane::plslibrary {
 

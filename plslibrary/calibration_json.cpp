@@ -1,8 +1,8 @@
 // One calibration as a JSON object.
-#include <nlohmann/json.hpp>
-
 #include "plslibrary/calibration_file.h"
 #include "plslibrary/pls_error.h"
+
+#include <nlohmann/json.hpp>
 
 namespace veritane::plslibrary {
 

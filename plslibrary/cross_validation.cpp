@@ -1,14 +1,15 @@
 // Cross-validation of PLS1 models.
 #include "plslibrary/cross_validation.h"
 
-#include <Eigen/QR>
-#include <algorithm>
-#include <cmath>
-#include <vector>
-
 #include "plslibrary/f_distribution.h"
 #include "plslibrary/pls1.h"
 #include "plslibrary/preprocessing.h"
+
+#include <Eigen/QR>
+
+#include <algorithm>
+#include <cmath>
+#include <vector>
 
 namespace veritane::plslibrary {
 

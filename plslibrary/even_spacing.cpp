@@ -1,9 +1,9 @@
 // Whether the points of a spectrum are evenly spaced.
 #include "plslibrary/even_spacing.h"
 
-#include <cmath>
-
 #include "plslibrary/measured_spectrum.h"
+
+#include <cmath>
 
 namespace veritane::plslibrary {
 

@@ -1,12 +1,12 @@
 // The named arrays of doubles that the library's interface hands out; docs/pls-library.md describes each.
 #pragma once
 
+#include "plslibrary/calibration.h"
+#include "plslibrary/prediction.h"
+
 #include <optional>
 #include <string_view>
 #include <vector>
-
-#include "plslibrary/calibration.h"
-#include "plslibrary/prediction.h"
 
 namespace veritane::plslibrary {
 

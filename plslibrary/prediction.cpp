@@ -1,10 +1,10 @@
 // Predicting one spectrum.
 #include "plslibrary/prediction.h"
 
-#include <cmath>
-
 #include "plslibrary/f_distribution.h"
 #include "plslibrary/pls_error.h"
+
+#include <cmath>
 
 namespace veritane::plslibrary {
 

@@ -1,10 +1,11 @@
 // What a calibration says about one spectrum.
 #pragma once
 
-#include <Eigen/Core>
-#include <vector>
-
 #include "plslibrary/calibration.h"
+
+#include <Eigen/Core>
+
+#include <vector>
 
 namespace veritane::plslibrary {
 

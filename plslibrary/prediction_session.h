@@ -2,16 +2,16 @@
 // last, and the prediction that was made last.
 #pragma once
 
+#include "plslibrary/calibration_file.h"
+#include "plslibrary/measured_spectrum.h"
+#include "plslibrary/prediction.h"
+
 #include <map>
 #include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
-
-#include "plslibrary/calibration_file.h"
-#include "plslibrary/measured_spectrum.h"
-#include "plslibrary/prediction.h"
 
 namespace veritane::plslibrary {
 

@@ -1,11 +1,11 @@
 // Numbers and ordinates of SPC files.
 #include "plslibrary/spc_bytes.h"
 
+#include "plslibrary/measured_spectrum.h"
+
 #include <algorithm>
 #include <cmath>
 #include <utility>
-
-#include "plslibrary/measured_spectrum.h"
 
 namespace veritane::plslibrary {
 

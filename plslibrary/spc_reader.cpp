@@ -1,11 +1,11 @@
 // SPC files: the two headers, and the three ways in which spectra follow them.
 #include "plslibrary/spc_reader.h"
 
-#include <cmath>
-#include <cstdint>
-
 #include "plslibrary/even_spacing.h"
 #include "plslibrary/spc_bytes.h"
+
+#include <cmath>
+#include <cstdint>
 
 namespace veritane::plslibrary {
 

@@ -6,10 +6,10 @@
 // spaced.
 #pragma once
 
+#include "plslibrary/measured_spectrum.h"
+
 #include <string_view>
 #include <vector>
-
-#include "plslibrary/measured_spectrum.h"
 
 namespace veritane::plslibrary {
 

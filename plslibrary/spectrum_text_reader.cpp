@@ -1,6 +1,9 @@
 // Spectra from text and from bare numbers.
 #include "plslibrary/spectrum_text_reader.h"
 
+#include "plslibrary/even_spacing.h"
+#include "plslibrary/spc_bytes.h"
+
 #include <algorithm>
 #include <charconv>
 #include <cmath>
@@ -8,9 +11,6 @@
 #include <map>
 #include <optional>
 #include <string>
-
-#include "plslibrary/even_spacing.h"
-#include "plslibrary/spc_bytes.h"
 
 namespace veritane::plslibrary {
 

@@ -9,9 +9,9 @@
 // these four names only letters count, large or small; other header lines are passed over.
 #pragma once
 
-#include <string_view>
-
 #include "plslibrary/measured_spectrum.h"
+
+#include <string_view>
 
 namespace veritane::plslibrary {
 

@@ -1,10 +1,10 @@
 // The chart as a landscape page: drawn as on screen, with the result's caption under it.
 #pragma once
 
-#include <string>
-
 #include "platform/chart.h"
 #include "platform/printer.h"
+
+#include <string>
 
 namespace veritane::review {
 

@@ -1,13 +1,13 @@
 // The two ways to print.
 #include "review/printing.h"
 
-#include <memory>
-
 #include "acquisition/opened_documents.h"
 #include "platform/run_time_error.h"
 #include "platform/windows_path.h"
 #include "review/chart_printout.h"
 #include "shell/state/string_table.h"
+
+#include <memory>
 
 namespace veritane::review {
 

@@ -2,10 +2,10 @@
 // Spectrometer application and a print template.
 #pragma once
 
+#include "acquisition/bench.h"
+
 #include <cstdint>
 #include <string>
-
-#include "acquisition/bench.h"
 
 namespace veritane::review {
 

@@ -2,14 +2,14 @@
 // spot. Nothing is collected, filed or recorded.
 #pragma once
 
+#include "acquisition/bench.h"
+#include "acquisition/opened_documents.h"
+#include "review/frm_select_spectrum.h"
+
 #include <cstdint>
 #include <optional>
 #include <string>
 #include <vector>
-
-#include "acquisition/bench.h"
-#include "acquisition/opened_documents.h"
-#include "review/frm_select_spectrum.h"
 
 namespace veritane::review {
 

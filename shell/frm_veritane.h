@@ -1,11 +1,6 @@
 // The main window: start-up and shut-down, the three modes, and the handlers of its controls.
 #pragma once
 
-#include <memory>
-#include <optional>
-#include <string>
-#include <vector>
-
 #include "acquisition/bench.h"
 #include "acquisition/method_editor.h"
 #include "acquisition/product_editor.h"
@@ -16,6 +11,11 @@
 #include "shell/screen_texts.h"
 #include "shell/state/program_state.h"
 #include "shell/state/string_table.h"
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
 
 namespace veritane::shell {
 

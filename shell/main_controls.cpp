@@ -1,10 +1,10 @@
 // Where the main window's controls lie and what they show before the settings are applied.
 #include "shell/main_controls.h"
 
-#include <initializer_list>
-
 #include "shell/state/settings_file.h"
 #include "shell/state/string_table.h"
+
+#include <initializer_list>
 
 namespace veritane::shell {
 

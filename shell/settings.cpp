@@ -1,11 +1,11 @@
 // The settings between their file, the state and the supervisor's controls.
-#include <algorithm>
-#include <array>
-
 #include "platform/number_text.h"
 #include "platform/run_time_error.h"
 #include "shell/frm_veritane.h"
 #include "shell/state/settings_file.h"
+
+#include <algorithm>
+#include <array>
 
 namespace veritane::shell {
 

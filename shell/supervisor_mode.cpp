@@ -1,6 +1,4 @@
 // Supervisor mode: its password, its options, and the way back to the operator.
-#include <limits>
-
 #include "acquisition/background.h"
 #include "acquisition/method_list.h"
 #include "platform/desktop.h"
@@ -11,6 +9,8 @@
 #include "shell/frm_veritane.h"
 #include "shell/state/messages.h"
 #include "shell/state/settings_file.h"
+
+#include <limits>
 
 namespace veritane::shell {
 

@@ -1,10 +1,10 @@
 // Finding the member that is meant.
 #include "simulator/automation_object.h"
 
-#include <algorithm>
-
 #include "platform/run_time_error.h"
 #include "platform/windows_path.h"
+
+#include <algorithm>
 
 namespace veritane::simulator {
 

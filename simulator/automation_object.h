@@ -1,6 +1,9 @@
 // An object of the simulator as other programs see it: members by name that act on an object of the contract.
 #pragma once
 
+#include "acquisition/automation_members.h"
+#include "platform/automation.h"
+
 #include <functional>
 #include <memory>
 #include <span>
@@ -9,9 +12,6 @@
 #include <type_traits>
 #include <utility>
 #include <vector>
-
-#include "acquisition/automation_members.h"
-#include "platform/automation.h"
 
 namespace veritane::simulator {
 

@@ -1,11 +1,11 @@
 // The contract, object by object, as members.
 #include "simulator/automation_server.h"
 
-#include <utility>
-
 #include "platform/run_time_error.h"
 #include "simulator/automation_object.h"
 #include "simulator/automation_spectrum.h"
+
+#include <utility>
 
 namespace veritane::simulator {
 

@@ -2,11 +2,11 @@
 // object.
 #pragma once
 
-#include <memory>
-
 #include "acquisition/automation_members.h"
 #include "acquisition/spectrometer_app.h"
 #include "platform/automation.h"
+
+#include <memory>
 
 namespace veritane::simulator {
 

@@ -1,11 +1,11 @@
 // Spectra for other programs, with their data, parameters and markers.
 #pragma once
 
-#include <memory>
-
 #include "acquisition/automation_members.h"
 #include "acquisition/spectrometer_app.h"
 #include "simulator/automation_object.h"
+
+#include <memory>
 
 namespace veritane::simulator {
 

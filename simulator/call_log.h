@@ -2,13 +2,13 @@
 // "CloseDocument(true)".
 #pragma once
 
+#include "platform/number_text.h"
+
 #include <string>
 #include <string_view>
 #include <type_traits>
 #include <utility>
 #include <vector>
-
-#include "platform/number_text.h"
 
 namespace veritane::simulator {
 

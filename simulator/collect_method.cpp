@@ -1,16 +1,16 @@
 // Reading and writing collect methods.
 #include "simulator/collect_method.h"
 
-#include <functional>
-#include <map>
-#include <set>
-
 #include "platform/number_text.h"
 #include "platform/run_time_error.h"
 #include "platform/text_file.h"
 #include "platform/windows_path.h"
 #include "simulator/instrument_model.h"
 #include "simulator/key_value_lines.h"
+
+#include <functional>
+#include <map>
+#include <set>
 
 namespace veritane::simulator {
 

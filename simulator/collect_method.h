@@ -5,12 +5,12 @@
 // measures silently with other settings. Keys and the words among the values are read without regard to case.
 #pragma once
 
+#include "simulator/instrument_line_shape.h"
+#include "simulator/wavenumber_grid.h"
+
 #include <cstdint>
 #include <string>
 #include <string_view>
-
-#include "simulator/instrument_line_shape.h"
-#include "simulator/wavenumber_grid.h"
 
 namespace veritane::simulator {
 

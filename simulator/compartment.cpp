@@ -1,13 +1,13 @@
 // The compartment's file.
 #include "simulator/compartment.h"
 
-#include <algorithm>
-#include <limits>
-
 #include "platform/number_text.h"
 #include "platform/run_time_error.h"
 #include "platform/text_file.h"
 #include "platform/windows_path.h"
+
+#include <algorithm>
+#include <limits>
 
 namespace veritane::simulator {
 

@@ -6,14 +6,14 @@
 // passed over.
 #pragma once
 
+#include "platform/file_system.h"
+#include "simulator/collect_method.h"
+#include "simulator/key_value_lines.h"
+
 #include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
-
-#include "platform/file_system.h"
-#include "simulator/collect_method.h"
-#include "simulator/key_value_lines.h"
 
 namespace veritane::simulator {
 

@@ -1,14 +1,14 @@
 // Collections and alignments of the simulated spectrometer.
 #include "simulator/instrument.h"
 
-#include <algorithm>
-#include <cmath>
-#include <utility>
-
 #include "acquisition/spectrometer_app.h"
 #include "platform/run_time_error.h"
 #include "platform/windows_path.h"
 #include "simulator/instrument_noise.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
 
 namespace veritane::simulator {
 

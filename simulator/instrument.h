@@ -2,16 +2,16 @@
 // time and makes the spectrum that the optics of instrument_model.h would give.
 #pragma once
 
-#include <chrono>
-#include <cstdint>
-#include <functional>
-#include <string>
-
 #include "simulator/collect_method.h"
 #include "simulator/compartment.h"
 #include "simulator/instrument_model.h"
 #include "simulator/materials.h"
 #include "simulator/measuring.h"
+
+#include <chrono>
+#include <cstdint>
+#include <functional>
+#include <string>
 
 namespace veritane::simulator {
 

@@ -4,13 +4,13 @@
 // (2022) 107949), rounded, lines closer than about 1 cm⁻¹ taken together; strengths relative and rounded.
 #include "simulator/instrument_atmosphere.h"
 
+#include "simulator/materials.h"
+#include "simulator/radiation_constants.h"
+
 #include <algorithm>
 #include <cmath>
 #include <numbers>
 #include <vector>
-
-#include "simulator/materials.h"
-#include "simulator/radiation_constants.h"
 
 namespace veritane::simulator {
 

@@ -1,9 +1,9 @@
 // Water vapour and carbon dioxide in the instrument's beam.
 #pragma once
 
-#include <span>
-
 #include "simulator/wavenumber_grid.h"
+
+#include <span>
 
 namespace veritane::simulator {
 

@@ -1,12 +1,12 @@
 // Apodization functions and their Fourier transforms.
 #include "simulator/instrument_line_shape.h"
 
+#include "platform/windows_path.h"
+
 #include <array>
 #include <cmath>
 #include <numbers>
 #include <utility>
-
-#include "platform/windows_path.h"
 
 namespace veritane::simulator {
 

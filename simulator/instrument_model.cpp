@@ -1,14 +1,15 @@
 // The simulated spectrometer's optics.
 #include "simulator/instrument_model.h"
 
-#include <Eigen/Core>
-#include <algorithm>
-#include <cmath>
-#include <numbers>
-
 #include "platform/run_time_error.h"
 #include "simulator/instrument_noise.h"
 #include "simulator/radiation_constants.h"
+
+#include <Eigen/Core>
+
+#include <algorithm>
+#include <cmath>
+#include <numbers>
 
 namespace veritane::simulator {
 

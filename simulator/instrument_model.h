@@ -7,15 +7,15 @@
 // atmosphere and A of the sample, and a gain g that puts the greatest energy near 100. Pure functions.
 #pragma once
 
-#include <cstdint>
-#include <span>
-#include <vector>
-
 #include "shell/state/spectrum_buffer.h"
 #include "simulator/instrument_atmosphere.h"
 #include "simulator/instrument_line_shape.h"
 #include "simulator/materials.h"
 #include "simulator/wavenumber_grid.h"
+
+#include <cstdint>
+#include <span>
+#include <vector>
 
 namespace veritane::simulator {
 

@@ -2,12 +2,12 @@
 // found.
 #pragma once
 
+#include "simulator/jcamp_table.h"
+
 #include <optional>
 #include <span>
 #include <string>
 #include <vector>
-
-#include "simulator/jcamp_table.h"
 
 namespace veritane::simulator {
 

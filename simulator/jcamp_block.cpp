@@ -1,14 +1,14 @@
 // Labels and table of a block become a spectrum.
 #include "simulator/jcamp_block.h"
 
+#include "platform/text_file.h"
+#include "simulator/jcamp_abscissas.h"
+#include "simulator/jcamp_value.h"
+
 #include <algorithm>
 #include <array>
 #include <cmath>
 #include <utility>
-
-#include "platform/text_file.h"
-#include "simulator/jcamp_abscissas.h"
-#include "simulator/jcamp_value.h"
 
 namespace veritane::simulator {
 

@@ -2,14 +2,14 @@
 // spectrum or say why they are none.
 #pragma once
 
+#include "simulator/jcamp_table.h"
+#include "simulator/jcamp_text.h"
+#include "simulator/stored_spectrum.h"
+
 #include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
-
-#include "simulator/jcamp_table.h"
-#include "simulator/jcamp_text.h"
-#include "simulator/stored_spectrum.h"
 
 namespace veritane::simulator {
 

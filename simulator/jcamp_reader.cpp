@@ -1,12 +1,12 @@
 // The blocks of a JCAMP-DX file, one inside or behind the other.
 #include "simulator/jcamp_reader.h"
 
+#include "simulator/jcamp_value.h"
+
 #include <algorithm>
 #include <array>
 #include <optional>
 #include <utility>
-
-#include "simulator/jcamp_value.h"
 
 namespace veritane::simulator {
 

@@ -3,11 +3,11 @@
 // (1999) 1 (labels and dates).
 #pragma once
 
+#include "simulator/jcamp_block.h"
+
 #include <string>
 #include <string_view>
 #include <vector>
-
-#include "simulator/jcamp_block.h"
 
 namespace veritane::simulator {
 

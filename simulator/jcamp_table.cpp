@@ -1,11 +1,11 @@
 // The data tables of JCAMP-DX, decoded in one pass over the text.
 #include "simulator/jcamp_table.h"
 
+#include "simulator/jcamp_table_reader.h"
+
 #include <algorithm>
 #include <cmath>
 #include <utility>
-
-#include "simulator/jcamp_table_reader.h"
 
 namespace veritane::simulator {
 

@@ -1,13 +1,13 @@
 // Reads the single numbers and digits out of which a JCAMP-DX data table is made, line by line.
 #pragma once
 
+#include "simulator/jcamp_table.h"
+#include "simulator/jcamp_text.h"
+
 #include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
-
-#include "simulator/jcamp_table.h"
-#include "simulator/jcamp_text.h"
 
 namespace veritane::simulator {
 

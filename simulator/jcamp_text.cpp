@@ -1,11 +1,11 @@
 // Lines, labels and comments of JCAMP-DX.
 #include "simulator/jcamp_text.h"
 
+#include "platform/text_file.h"
+
 #include <algorithm>
 #include <charconv>
 #include <cmath>
-
-#include "platform/text_file.h"
 
 namespace veritane::simulator {
 

@@ -1,14 +1,14 @@
 // Parameters and times in labels.
 #include "simulator/jcamp_value.h"
 
+#include "platform/utf8.h"
+#include "simulator/jcamp_text.h"
+
 #include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
 #include <limits>
-
-#include "platform/utf8.h"
-#include "simulator/jcamp_text.h"
 
 namespace veritane::simulator {
 

@@ -5,12 +5,12 @@
 // what could not stand in a label is written %HH.
 #pragma once
 
+#include "acquisition/spectrometer_app.h"
+#include "platform/date_time.h"
+
 #include <optional>
 #include <string>
 #include <string_view>
-
-#include "acquisition/spectrometer_app.h"
-#include "platform/date_time.h"
 
 namespace veritane::simulator {
 

@@ -1,15 +1,15 @@
 // Spectra as JCAMP-DX text.
 #include "simulator/jcamp_writer.h"
 
+#include "platform/run_time_error.h"
+#include "platform/text_file.h"
+#include "simulator/jcamp_value.h"
+
 #include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
 #include <limits>
-
-#include "platform/run_time_error.h"
-#include "platform/text_file.h"
-#include "simulator/jcamp_value.h"
 
 namespace veritane::simulator {
 

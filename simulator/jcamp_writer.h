@@ -2,10 +2,10 @@
 // the result (AFFN ordinates, short lines); ReadJcamp gives every value, text and x back to the last bit.
 #pragma once
 
+#include "simulator/stored_spectrum.h"
+
 #include <span>
 #include <string>
-
-#include "simulator/stored_spectrum.h"
 
 namespace veritane::simulator {
 

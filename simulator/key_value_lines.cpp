@@ -1,12 +1,12 @@
 // Reading "Key = value" lines.
 #include "simulator/key_value_lines.h"
 
-#include <cmath>
-
 #include "platform/number_text.h"
 #include "platform/run_time_error.h"
 #include "platform/text_file.h"
 #include "platform/windows_path.h"
+
+#include <cmath>
 
 namespace veritane::simulator {
 
@@ -43,7 +43,8 @@ double NumberFrom(const std::string& text, double least, double most, std::strin
   const auto number = platform::ParseNumber(text);
   if (!number) throw RefusedValue(ErrorNumber::kTypeMismatch, "is no number: \"" + text + "\"");
   if (*number >= least && *number <= most) return *number;
-  std::string why = "lies from " + platform::PlainNumberText(least) + " to " + platform::PlainNumberText(most);
+  std::string why =
+      "lies from " + platform::PlainNumberText(least) + " to " + platform::PlainNumberText(most);
   throw RefusedValue(ErrorNumber::kInvalidCall, why.append(unit.empty() ? "" : " ").append(unit));
 }
 

@@ -1,12 +1,12 @@
 // "Key = value" lines, as collect methods, print templates and the compartment's file are written.
 #pragma once
 
+#include "platform/run_time_error.h"
+
 #include <stdexcept>
 #include <string>
 #include <string_view>
 #include <vector>
-
-#include "platform/run_time_error.h"
 
 namespace veritane::simulator {
 
@@ -31,8 +31,8 @@ private:
   platform::ErrorNumber number_;
 };
 
-// The text as a number from `least` to `most`. RefusedValue 13 when it is none, 5 outside, whose reason names the
-// bounds with their `unit`.
+// The text as a number from `least` to `most`. RefusedValue 13 when it is none, 5 outside, whose reason names
+// the bounds with their `unit`.
 double NumberFrom(const std::string& text, double least, double most, std::string_view unit = "");
 // The same as a whole number; RefusedValue 13 for a fraction.
 long long WholeNumberFrom(const std::string& text, long long least, long long most);

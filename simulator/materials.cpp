@@ -1,15 +1,15 @@
 // Look-up of materials and mixtures, and the absorbance of their bands.
 #include "simulator/materials.h"
 
-#include <algorithm>
-#include <cmath>
-#include <numbers>
-
 #include "platform/number_text.h"
 #include "platform/run_time_error.h"
 #include "platform/text_file.h"
 #include "platform/windows_path.h"
 #include "simulator/materials_tables.h"
+
+#include <algorithm>
+#include <cmath>
+#include <numbers>
 
 namespace veritane::simulator {
 

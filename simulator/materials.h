@@ -4,16 +4,16 @@
 // maximum. Positions, relative heights and widths follow the published spectra named in docs/simulator.md.
 #pragma once
 
+#include "platform/run_time_error.h"
+#include "shell/state/spectrum_buffer.h"
+#include "simulator/wavenumber_grid.h"
+
 #include <functional>
 #include <span>
 #include <string>
 #include <string_view>
 #include <utility>
 #include <vector>
-
-#include "platform/run_time_error.h"
-#include "shell/state/spectrum_buffer.h"
-#include "simulator/wavenumber_grid.h"
 
 namespace veritane::simulator {
 

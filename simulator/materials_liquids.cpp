@@ -1,7 +1,7 @@
 // Band tables of liquids as capillary films.
-#include <array>
-
 #include "simulator/materials_tables.h"
+
+#include <array>
 
 namespace veritane::simulator {
 

@@ -1,7 +1,7 @@
 // Band tables of pharmaceutical solids as discs of about one per cent in potassium bromide.
-#include <array>
-
 #include "simulator/materials_tables.h"
+
+#include <array>
 
 namespace veritane::simulator {
 

@@ -1,7 +1,7 @@
 // Band tables of polymers as films a few hundredths of a millimetre thick.
-#include <array>
-
 #include "simulator/materials_tables.h"
+
+#include <array>
 
 namespace veritane::simulator {
 

@@ -1,9 +1,9 @@
 // The band tables by group of materials; materials.h is what the rest of the program uses.
 #pragma once
 
-#include <span>
-
 #include "simulator/materials.h"
+
+#include <span>
 
 namespace veritane::simulator {
 

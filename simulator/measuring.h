@@ -2,12 +2,12 @@
 // comes about, a device knows nothing of documents.
 #pragma once
 
+#include "shell/state/spectrum_buffer.h"
+#include "simulator/stored_spectrum.h"
+
 #include <memory>
 #include <string>
 #include <vector>
-
-#include "shell/state/spectrum_buffer.h"
-#include "simulator/stored_spectrum.h"
 
 namespace veritane::simulator {
 

@@ -1,6 +1,8 @@
 // Spectra on whole multiples of their spacing.
 #include "simulator/placed_spectrum.h"
 
+#include "simulator/jcamp_value.h"
+
 #include <algorithm>
 #include <array>
 #include <charconv>
@@ -9,8 +11,6 @@
 #include <span>
 #include <stdexcept>
 #include <utility>
-
-#include "simulator/jcamp_value.h"
 
 namespace veritane::simulator {
 

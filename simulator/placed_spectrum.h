@@ -2,11 +2,11 @@
 // lies at i × spacing.
 #pragma once
 
+#include "shell/state/spectrum_buffer.h"
+
 #include <optional>
 #include <string>
 #include <vector>
-
-#include "shell/state/spectrum_buffer.h"
 
 namespace veritane::simulator {
 

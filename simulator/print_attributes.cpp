@@ -1,11 +1,11 @@
 // Taking a template's line apart.
 #include "simulator/print_attributes.h"
 
-#include <charconv>
-#include <sstream>
-
 #include "platform/number_text.h"
 #include "platform/text_file.h"
+
+#include <charconv>
+#include <sstream>
 
 namespace veritane::simulator {
 

@@ -1,13 +1,13 @@
 // The attributes of one line of a print template: "at 20 30, width 80, bold : Lot {Sample Name}".
 #pragma once
 
+#include "platform/drawing_context.h"
+#include "simulator/key_value_lines.h"
+
 #include <map>
 #include <optional>
 #include <string>
 #include <vector>
-
-#include "platform/drawing_context.h"
-#include "simulator/key_value_lines.h"
 
 namespace veritane::simulator {
 

@@ -1,15 +1,15 @@
 // Filling in the fields of a template's texts.
 #include "simulator/print_fields.h"
 
+#include "platform/number_text.h"
+#include "platform/windows_path.h"
+
 #include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
 #include <cstdio>
 #include <functional>
-
-#include "platform/number_text.h"
-#include "platform/windows_path.h"
 
 namespace veritane::simulator {
 

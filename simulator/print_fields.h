@@ -7,13 +7,13 @@
 // dash.
 #pragma once
 
+#include "platform/date_time.h"
+#include "simulator/simulated_spectrum.h"
+
 #include <memory>
 #include <set>
 #include <string>
 #include <vector>
-
-#include "platform/date_time.h"
-#include "simulator/simulated_spectrum.h"
 
 namespace veritane::simulator {
 

@@ -1,12 +1,12 @@
 // The print object of the simulator.
 #include "simulator/print_object.h"
 
-#include <utility>
-
 #include "platform/print_file.h"
 #include "platform/run_time_error.h"
 #include "platform/windows_path.h"
 #include "simulator/print_page.h"
+
+#include <utility>
 
 namespace veritane::simulator {
 

@@ -1,12 +1,12 @@
 // Printing a document through a template that was opened for it.
 #pragma once
 
-#include <memory>
-#include <string>
-
 #include "simulator/print_fields.h"
 #include "simulator/print_template.h"
 #include "simulator/simulated_document.h"
+
+#include <memory>
+#include <string>
 
 namespace veritane::simulator {
 

@@ -1,12 +1,12 @@
 // Drawing a print template, item by item.
 #include "simulator/print_page.h"
 
-#include <utility>
-
 #include "platform/chart_layout.h"
 #include "platform/part_of_surface.h"
 #include "platform/windows_path.h"
 #include "simulator/print_plot.h"
+
+#include <utility>
 
 namespace veritane::simulator {
 

@@ -1,14 +1,14 @@
 // Drawing the spectra of a printed page.
 #include "simulator/print_plot.h"
 
-#include <algorithm>
-#include <cmath>
-#include <limits>
-
 #include "platform/axis_ticks.h"
 #include "platform/chart_drawing.h"
 #include "platform/chart_layout.h"
 #include "platform/chart_trace.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
 
 namespace veritane::simulator {
 

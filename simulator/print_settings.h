@@ -1,10 +1,10 @@
 // What the simulator needs to print: where the PDF files go and who makes them.
 #pragma once
 
+#include "platform/pdf_page.h"
+
 #include <functional>
 #include <string>
-
-#include "platform/pdf_page.h"
 
 namespace veritane::simulator {
 

@@ -1,15 +1,15 @@
 // Reading print templates.
 #include "simulator/print_template.h"
 
-#include <functional>
-#include <map>
-#include <set>
-#include <utility>
-
 #include "platform/run_time_error.h"
 #include "simulator/invalid_file_format.h"
 #include "simulator/print_attributes.h"
 #include "simulator/print_fields.h"
+
+#include <functional>
+#include <map>
+#include <set>
+#include <utility>
 
 namespace veritane::simulator {
 

@@ -3,14 +3,14 @@
 // Places and lengths on the page are in millimetres from its top left corner, heights of text in points.
 #pragma once
 
+#include "platform/chart.h"
+#include "platform/drawing_context.h"
+
 #include <optional>
 #include <string>
 #include <string_view>
 #include <variant>
 #include <vector>
-
-#include "platform/chart.h"
-#include "platform/drawing_context.h"
 
 namespace veritane::simulator {
 

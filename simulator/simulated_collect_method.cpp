@@ -1,11 +1,11 @@
 // Collect methods and their backgrounds.
 #include "simulator/simulated_collect_method.h"
 
-#include <charconv>
-#include <utility>
-
 #include "platform/run_time_error.h"
 #include "simulator/spectrum_file.h"
+
+#include <charconv>
+#include <utility>
 
 namespace veritane::simulator {
 

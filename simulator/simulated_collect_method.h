@@ -1,13 +1,13 @@
 // A collect method as the program loaded and set it.
 #pragma once
 
-#include <memory>
-#include <string>
-
 #include "acquisition/spectrometer_app.h"
 #include "platform/file_system.h"
 #include "simulator/call_log.h"
 #include "simulator/measuring.h"
+
+#include <memory>
+#include <string>
 
 namespace veritane::simulator {
 

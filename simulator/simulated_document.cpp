@@ -1,10 +1,6 @@
 // Documents of the simulator.
 #include "simulator/simulated_document.h"
 
-#include <algorithm>
-#include <cmath>
-#include <utility>
-
 #include "platform/run_time_error.h"
 #include "platform/windows_path.h"
 #include "simulator/jcamp_value.h"
@@ -15,6 +11,10 @@
 #include "simulator/spc_writer.h"
 #include "simulator/spectrum_file.h"
 #include "simulator/transform.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
 
 namespace veritane::simulator {
 

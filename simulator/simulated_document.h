@@ -1,11 +1,6 @@
 // A document of the simulator: the spectra of one file, opened, measured into, changed and saved.
 #pragma once
 
-#include <memory>
-#include <optional>
-#include <string>
-#include <vector>
-
 #include "acquisition/spectrometer_app.h"
 #include "platform/date_time.h"
 #include "platform/file_system.h"
@@ -14,6 +9,11 @@
 #include "simulator/print_fields.h"
 #include "simulator/print_settings.h"
 #include "simulator/simulated_spectrum.h"
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
 
 namespace veritane::simulator {
 

@@ -1,10 +1,10 @@
 // The substitute Spectrometer application.
 #include "simulator/simulated_spectrometer.h"
 
-#include <utility>
-
 #include "platform/run_time_error.h"
 #include "simulator/simulated_collect_method.h"
+
+#include <utility>
 
 namespace veritane::simulator {
 

@@ -2,16 +2,16 @@
 // handed in.
 #pragma once
 
-#include <memory>
-#include <string>
-#include <vector>
-
 #include "acquisition/spectrometer_app.h"
 #include "platform/automation.h"
 #include "simulator/call_log.h"
 #include "simulator/measuring.h"
 #include "simulator/print_settings.h"
 #include "simulator/simulated_document.h"
+
+#include <memory>
+#include <string>
+#include <vector>
 
 namespace veritane::simulator {
 

@@ -1,10 +1,10 @@
 // Spectra of open documents.
 #include "simulator/simulated_spectrum.h"
 
+#include "platform/run_time_error.h"
+
 #include <algorithm>
 #include <utility>
-
-#include "platform/run_time_error.h"
 
 namespace veritane::simulator {
 

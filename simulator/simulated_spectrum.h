@@ -1,14 +1,14 @@
 // A spectrum of an open document, with its parameters and markers, as the contract shows it.
 #pragma once
 
+#include "acquisition/spectrometer_app.h"
+#include "simulator/call_log.h"
+#include "simulator/stored_spectrum.h"
+
 #include <cstdint>
 #include <memory>
 #include <string>
 #include <vector>
-
-#include "acquisition/spectrometer_app.h"
-#include "simulator/call_log.h"
-#include "simulator/stored_spectrum.h"
 
 namespace veritane::simulator {
 

@@ -1,16 +1,16 @@
 // Spectra as SPC files.
 #include "simulator/spc_writer.h"
 
+#include "platform/run_time_error.h"
+#include "platform/utf8.h"
+#include "simulator/jcamp_text.h"
+#include "simulator/jcamp_value.h"
+
 #include <bit>
 #include <cmath>
 #include <cstdint>
 #include <limits>
 #include <type_traits>
-
-#include "platform/run_time_error.h"
-#include "platform/utf8.h"
-#include "simulator/jcamp_text.h"
-#include "simulator/jcamp_value.h"
 
 namespace veritane::simulator {
 

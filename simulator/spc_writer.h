@@ -2,10 +2,10 @@
 // IEEE ordinates.
 #pragma once
 
+#include "simulator/stored_spectrum.h"
+
 #include <string>
 #include <string_view>
-
-#include "simulator/stored_spectrum.h"
 
 namespace veritane::simulator {
 

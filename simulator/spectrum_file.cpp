@@ -1,13 +1,13 @@
 // From the text of a spectrum file to spectra on their grid.
 #include "simulator/spectrum_file.h"
 
-#include <algorithm>
-#include <stdexcept>
-#include <utility>
-
 #include "platform/run_time_error.h"
 #include "simulator/jcamp_reader.h"
 #include "simulator/placed_spectrum.h"
+
+#include <algorithm>
+#include <stdexcept>
+#include <utility>
 
 namespace veritane::simulator {
 

@@ -1,13 +1,13 @@
 // Spectrum files as bytes: what the documents of the simulator open and save.
 #pragma once
 
+#include "simulator/invalid_file_format.h"
+#include "simulator/stored_spectrum.h"
+
 #include <span>
 #include <string>
 #include <string_view>
 #include <vector>
-
-#include "simulator/invalid_file_format.h"
-#include "simulator/stored_spectrum.h"
 
 namespace veritane::simulator {
 

@@ -2,11 +2,11 @@
 // and everything else that its file says about it.
 #pragma once
 
-#include <string>
-#include <vector>
-
 #include "acquisition/spectrometer_app.h"
 #include "shell/state/spectrum_buffer.h"
+
+#include <string>
+#include <vector>
 
 namespace veritane::simulator {
 

@@ -2,10 +2,9 @@
 // with a chirp (Bluestein, IEEE Trans. Audio Electroacoust. 18 (1970) 451), done at a power of two.
 #include "simulator/transform.h"
 
-#include <unsupported/Eigen/FFT>
-
 #include <complex>
 #include <numbers>
+#include <unsupported/Eigen/FFT>
 
 namespace veritane::simulator {
 

@@ -1,11 +1,11 @@
 // Grids of wavenumbers.
 #include "simulator/wavenumber_grid.h"
 
+#include "platform/run_time_error.h"
+
 #include <algorithm>
 #include <cmath>
 #include <limits>
-
-#include "platform/run_time_error.h"
 
 namespace veritane::simulator {
 

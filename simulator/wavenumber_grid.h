@@ -2,11 +2,11 @@
 // points.
 #pragma once
 
+#include "shell/state/spectrum_buffer.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <vector>
-
-#include "shell/state/spectrum_buffer.h"
 
 namespace veritane::simulator {
 

@@ -2,19 +2,19 @@
 // clock and a simulated spectrometer whose noise is fixed.
 //
 // manual_pictures PICTURES ROOT [--smallest]    (docs/manual/make_pictures runs it on a screen of its own)
-#include <wx/app.h>
-#include <wx/evtloop.h>
-#include <wx/toplevel.h>
-
-#include <cstdio>
-#include <cstring>
-
 #include "apps/documentation/picture_interface.h"
 #include "apps/simulated_bench.h"
 #include "apps/veritane_setup/data_layout.h"
 #include "platform/desktop.h"
 #include "shell/frm_veritane.h"
 #include "shell/state/data_folders.h"
+
+#include <wx/app.h>
+#include <wx/evtloop.h>
+#include <wx/toplevel.h>
+
+#include <cstdio>
+#include <cstring>
 
 namespace veritane::documentation {
 namespace {

@@ -2,15 +2,15 @@
 // material compared with a sample of each column's, each collected against a background of its own.
 //
 // material_matrix ROOT    (an empty folder, which becomes the data root)
-#include <cstdio>
-#include <memory>
-#include <string>
-#include <vector>
-
 #include "identification/correlation.h"
 #include "platform/system/system_machine.h"
 #include "simulator/instrument.h"
 #include "simulator/materials.h"
+
+#include <cstdio>
+#include <memory>
+#include <string>
+#include <vector>
 
 namespace {
 

@@ -2,6 +2,9 @@
 // screen may be stale.
 #include "apps/documentation/picture_interface.h"
 
+#include "platform/form.h"
+#include "platform/run_time_error.h"
+
 #include <wx/dialog.h>
 #include <wx/evtloop.h>
 #include <wx/toplevel.h>
@@ -9,9 +12,6 @@
 
 #include <cstdio>
 #include <cstdlib>
-
-#include "platform/form.h"
-#include "platform/run_time_error.h"
 
 namespace veritane::documentation {
 

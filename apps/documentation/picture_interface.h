@@ -2,6 +2,8 @@
 // picture maker has planned, and photographed where it wants them.
 #pragma once
 
+#include "platform/wx/wx_user_interface.h"
+
 #include <wx/timer.h>
 
 #include <deque>
@@ -9,8 +11,6 @@
 #include <functional>
 #include <map>
 #include <string>
-
-#include "platform/wx/wx_user_interface.h"
 
 namespace veritane::documentation {
 

@@ -1,10 +1,6 @@
 // The simulator panel: what lies in the simulated instrument, and the spectrum that it measured last.
 #pragma once
 
-#include <functional>
-#include <initializer_list>
-#include <string>
-
 #include "apps/simulator_panel/newest_spectrum.h"
 #include "apps/simulator_panel/typed_entry.h"
 #include "platform/chart.h"
@@ -12,6 +8,10 @@
 #include "platform/form.h"
 #include "platform/machine.h"
 #include "simulator/compartment.h"
+
+#include <functional>
+#include <initializer_list>
+#include <string>
 
 namespace veritane::simulator_panel {
 

@@ -1,9 +1,4 @@
 // simulator-panel: sets what lies in the simulated instrument, beside the running program.
-#include <wx/timer.h>
-
-#include <iostream>
-#include <memory>
-
 #include "apps/command_line.h"
 #include "apps/compartment_path.h"
 #include "apps/machine_options.h"
@@ -13,6 +8,11 @@
 #include "platform/system/starter_message.h"
 #include "platform/system/system_machine.h"
 #include "platform/wx/wx_user_interface.h"
+
+#include <wx/timer.h>
+
+#include <iostream>
+#include <memory>
 
 namespace {
 

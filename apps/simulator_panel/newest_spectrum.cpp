@@ -1,12 +1,12 @@
 // Looking for the newest spectrum. Files come and go meanwhile; one that cannot be read is as good as absent.
 #include "apps/simulator_panel/newest_spectrum.h"
 
-#include <algorithm>
-#include <cstdlib>
-
 #include "platform/run_time_error.h"
 #include "platform/windows_path.h"
 #include "simulator/spectrum_file.h"
+
+#include <algorithm>
+#include <cstdlib>
 
 namespace veritane::simulator_panel {
 

@@ -1,14 +1,14 @@
 // Finds the spectrum that was measured or filed last, by looking at the files of some folders now and then.
 #pragma once
 
+#include "platform/file_system.h"
+#include "simulator/stored_spectrum.h"
+
 #include <functional>
 #include <optional>
 #include <string>
 #include <utility>
 #include <vector>
-
-#include "platform/file_system.h"
-#include "simulator/stored_spectrum.h"
 
 namespace veritane::simulator_panel {
 

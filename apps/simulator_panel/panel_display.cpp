@@ -1,13 +1,13 @@
 // What the panel shows: its captions, the settings in force, and a picture of the spectrum that was filed
 // last.
-#include <algorithm>
-#include <cmath>
-
 #include "acquisition/spectrometer_app.h"
 #include "apps/simulator_panel/frm_simulator.h"
 #include "platform/number_text.h"
 #include "platform/windows_path.h"
 #include "simulator/materials.h"
+
+#include <algorithm>
+#include <cmath>
 
 namespace veritane::simulator_panel {
 

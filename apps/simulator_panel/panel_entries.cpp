@@ -1,14 +1,14 @@
 // Checking what was typed, with the simulator's own readers.
 #include "apps/simulator_panel/panel_entries.h"
 
-#include <algorithm>
-
 #include "platform/run_time_error.h"
 #include "platform/text_file.h"
 #include "simulator/compartment.h"
 #include "simulator/instrument.h"
 #include "simulator/materials.h"
 #include "simulator/spectrum_file.h"
+
+#include <algorithm>
 
 namespace veritane::simulator_panel {
 

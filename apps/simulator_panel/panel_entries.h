@@ -2,11 +2,11 @@
 // RefusedEntry why there is none. The bounds are those of the compartment's file.
 #pragma once
 
+#include "platform/file_system.h"
+
 #include <cstdint>
 #include <stdexcept>
 #include <string>
-
-#include "platform/file_system.h"
 
 namespace veritane::simulator_panel {
 

@@ -2,9 +2,9 @@
 // the same setting; what somebody is just typing stays.
 #pragma once
 
-#include <string>
-
 #include "platform/controls.h"
+
+#include <string>
 
 namespace veritane::simulator_panel {
 

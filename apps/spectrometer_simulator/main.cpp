@@ -1,11 +1,4 @@
 // spectrometer-simulator: the simulated Spectrometer application as an automation server.
-#include <algorithm>
-#include <cstdlib>
-#include <fstream>
-#include <iostream>
-#include <string>
-#include <thread>
-
 #include "apps/command_line.h"
 #include "apps/machine_options.h"
 #include "apps/simulated_bench.h"
@@ -14,6 +7,13 @@
 #include "platform/system/native_path.h"
 #include "platform/system/system_machine.h"
 #include "simulator/automation_server.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <fstream>
+#include <iostream>
+#include <string>
+#include <thread>
 
 namespace {
 

@@ -2,12 +2,12 @@
 // busy for a while.
 #pragma once
 
+#include "acquisition/spectrometer_app.h"
+#include "platform/automation_server.h"
+
 #include <chrono>
 #include <memory>
 #include <string>
-
-#include "acquisition/spectrometer_app.h"
-#include "platform/automation_server.h"
 
 namespace veritane::spectrometer_simulator {
 

@@ -1,7 +1,4 @@
 // veritane: the program in its window.
-#include <memory>
-#include <thread>
-
 #include "acquisition/automation_waiting_text.h"
 #include "apps/command_line.h"
 #include "apps/instrument.h"
@@ -14,6 +11,9 @@
 #include "platform/texts.h"
 #include "platform/wx/wx_user_interface.h"
 #include "shell/frm_veritane.h"
+
+#include <memory>
+#include <thread>
 
 namespace {
 

@@ -1,8 +1,9 @@
 // Writing the report of a calibration.
 #include "apps/veritane_calibrate/calibration_report.h"
 
-#include <cstdio>
 #include <nlohmann/json.hpp>
+
+#include <cstdio>
 
 namespace veritane::calibrate {
 

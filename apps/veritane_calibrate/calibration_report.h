@@ -1,11 +1,11 @@
 // What was found while calibrating: for people, and as JSON.
 #pragma once
 
-#include <string>
-#include <vector>
-
 #include "apps/veritane_calibrate/samples.h"
 #include "plslibrary/calibration_builder.h"
+
+#include <string>
+#include <vector>
 
 namespace veritane::calibrate {
 

@@ -1,13 +1,13 @@
 // From options and files to the plan of a calibration.
 #include "apps/veritane_calibrate/calibration_request.h"
 
+#include "platform/number_text.h"
+
 #include <algorithm>
 #include <cmath>
 #include <filesystem>
 #include <set>
 #include <utility>
-
-#include "platform/number_text.h"
 
 namespace veritane::calibrate {
 

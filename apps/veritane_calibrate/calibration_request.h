@@ -2,12 +2,12 @@
 // calibration.
 #pragma once
 
-#include <string>
-#include <vector>
-
 #include "apps/command_line.h"
 #include "apps/veritane_calibrate/samples.h"
 #include "plslibrary/calibration_builder.h"
+
+#include <string>
+#include <vector>
 
 namespace veritane::calibrate {
 

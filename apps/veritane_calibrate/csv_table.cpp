@@ -1,18 +1,18 @@
 // Reading and writing comma-separated text.
 #include "apps/veritane_calibrate/csv_table.h"
 
+#include "apps/command_line.h"
+#include "platform/number_text.h"
+#include "platform/text_file.h"
+#include "platform/windows_path.h"
+#include "plslibrary/even_spacing.h"
+
 #include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
 #include <limits>
 #include <set>
-
-#include "apps/command_line.h"
-#include "platform/number_text.h"
-#include "platform/text_file.h"
-#include "platform/windows_path.h"
-#include "plslibrary/even_spacing.h"
 
 namespace veritane::calibrate {
 

@@ -1,15 +1,16 @@
 // Tables in comma-separated text: spectra with their reference values, or reference values alone.
 #pragma once
 
+#include "plslibrary/measured_spectrum.h"
+
 #include <Eigen/Core>
+
 #include <cstddef>
 #include <optional>
 #include <stdexcept>
 #include <string>
 #include <string_view>
 #include <vector>
-
-#include "plslibrary/measured_spectrum.h"
 
 namespace veritane::calibrate {
 

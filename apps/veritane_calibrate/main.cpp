@@ -1,10 +1,10 @@
 // veritane-calibrate: builds a calibration from spectra and reference values.
-#include <iostream>
-
 #include "apps/command_line.h"
 #include "apps/veritane_calibrate/calibration_report.h"
 #include "apps/veritane_calibrate/calibration_request.h"
 #include "plslibrary/calibration_file.h"
+
+#include <iostream>
 
 namespace {
 

@@ -1,12 +1,6 @@
 // Reading samples from spectrum files and tables.
 #include "apps/veritane_calibrate/samples.h"
 
-#include <algorithm>
-#include <cctype>
-#include <filesystem>
-#include <fstream>
-#include <iterator>
-
 #include "apps/command_line.h"
 #include "platform/run_time_error.h"
 #include "platform/system/system_machine.h"
@@ -14,6 +8,12 @@
 #include "plslibrary/pls_error.h"
 #include "plslibrary/spc_reader.h"
 #include "simulator/spectrum_file.h"
+
+#include <algorithm>
+#include <cctype>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
 
 namespace veritane::calibrate {
 

@@ -1,13 +1,13 @@
 // The samples that the calibration tools work on, whatever files they come from.
 #pragma once
 
-#include <string>
-#include <vector>
-
 #include "apps/veritane_calibrate/csv_table.h"
 #include "plslibrary/calibration.h"
 #include "plslibrary/calibration_file.h"
 #include "plslibrary/measured_spectrum.h"
+
+#include <string>
+#include <vector>
 
 namespace veritane::calibrate {
 

@@ -1,11 +1,12 @@
 // The `app` lines of a script: what lies in the simulated instrument, and what was asked of it.
 #pragma once
 
+#include "apps/simulated_bench.h"
+
 #include <nlohmann/json.hpp>
+
 #include <string>
 #include <vector>
-
-#include "apps/simulated_bench.h"
 
 namespace veritane::console {
 

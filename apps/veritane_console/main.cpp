@@ -1,9 +1,4 @@
 // veritane-console: the whole program without a window, driven by lines of text.
-#include <fstream>
-#include <iostream>
-#include <memory>
-#include <thread>
-
 #include "acquisition/automation_waiting_text.h"
 #include "apps/command_line.h"
 #include "apps/instrument.h"
@@ -14,6 +9,11 @@
 #include "platform/run_time_error.h"
 #include "platform/scripted/scripted_interface.h"
 #include "shell/frm_veritane.h"
+
+#include <fstream>
+#include <iostream>
+#include <memory>
+#include <thread>
 
 namespace {
 

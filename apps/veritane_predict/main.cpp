@@ -1,12 +1,13 @@
 // veritane-predict: applies a calibration to spectra.
-#include <iostream>
-#include <nlohmann/json.hpp>
-
 #include "apps/command_line.h"
 #include "apps/veritane_calibrate/samples.h"
 #include "plslibrary/calibration_file.h"
 #include "plslibrary/pls_error.h"
 #include "plslibrary/prediction.h"
+
+#include <nlohmann/json.hpp>
+
+#include <iostream>
 
 namespace {
 

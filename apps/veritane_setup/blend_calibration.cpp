@@ -1,12 +1,12 @@
 // Blends from 4 to 96 percent, and PLS1 models of both constituents.
 #include "apps/veritane_setup/blend_calibration.h"
 
-#include <span>
-
 #include "apps/veritane_setup/measurement.h"
 #include "platform/number_text.h"
 #include "plslibrary/calibration_builder.h"
 #include "plslibrary/calibration_file.h"
+
+#include <span>
 
 namespace veritane::setup {
 

@@ -1,9 +1,9 @@
 // The calibration that ships: polystyrene and polyethylene in a blend, from simulated measurements.
 #pragma once
 
-#include <string>
-
 #include "simulator/collect_method.h"
+
+#include <string>
 
 namespace veritane::setup {
 

@@ -1,8 +1,6 @@
 // What ships, and how it gets onto the disk.
 #include "apps/veritane_setup/data_layout.h"
 
-#include <cstdio>
-
 #include "apps/veritane_setup/blend_calibration.h"
 #include "apps/veritane_setup/measurement.h"
 #include "apps/veritane_setup/shipped_files.h"
@@ -15,6 +13,8 @@
 #include "simulator/jcamp_value.h"
 #include "simulator/jcamp_writer.h"
 #include "simulator/stored_spectrum.h"
+
+#include <cstdio>
 
 namespace veritane::setup {
 

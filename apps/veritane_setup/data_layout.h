@@ -2,11 +2,11 @@
 // demonstration spectra.
 #pragma once
 
+#include "platform/machine.h"
+
 #include <stdexcept>
 #include <string>
 #include <vector>
-
-#include "platform/machine.h"
 
 namespace veritane::setup {
 

@@ -1,10 +1,10 @@
 // veritane-setup: lays out the data folder as the installer does.
-#include <iostream>
-
 #include "apps/command_line.h"
 #include "apps/machine_options.h"
 #include "apps/veritane_setup/data_layout.h"
 #include "platform/system/system_machine.h"
+
+#include <iostream>
 
 namespace {
 

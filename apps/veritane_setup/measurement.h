@@ -1,11 +1,11 @@
 // Measuring on the simulated instrument without its documents.
 #pragma once
 
-#include <cstdint>
-#include <string>
-
 #include "shell/state/spectrum_buffer.h"
 #include "simulator/collect_method.h"
+
+#include <cstdint>
+#include <string>
 
 namespace veritane::setup {
 

@@ -1,13 +1,13 @@
 // Text and lines by cairo.
 #include "platform/pdf/cairo_drawing.h"
 
+#include "platform/text_file.h"
+#include "platform/utf8.h"
+
 #include <algorithm>
 #include <array>
 #include <cmath>
 #include <numbers>
-
-#include "platform/text_file.h"
-#include "platform/utf8.h"
 
 namespace veritane::platform {
 

@@ -1,10 +1,10 @@
 // Drawing through cairo, in points, on whatever a cairo context draws on.
 #pragma once
 
-#include <cairo.h>
-
 #include "platform/drawing_context.h"
 #include "platform/pdf_page.h"
+
+#include <cairo.h>
 
 namespace veritane::platform {
 

@@ -1,13 +1,13 @@
 // Pages drawn by cairo into a PDF.
 #include "platform/pdf/pdf_document.h"
 
-#include <cairo-pdf.h>
-
-#include <exception>
-
 #include "platform/pdf/cairo_drawing.h"
 #include "platform/run_time_error.h"
 #include "platform/texts.h"
+
+#include <cairo-pdf.h>
+
+#include <exception>
 
 namespace veritane::platform {
 

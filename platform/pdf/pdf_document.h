@@ -2,11 +2,11 @@
 // FileSystem::WriteBytes, so that a file is there whole or not at all.
 #pragma once
 
-#include <memory>
-#include <string>
-
 #include "platform/drawing_context.h"
 #include "platform/pdf_page.h"
+
+#include <memory>
+#include <string>
 
 namespace veritane::platform {
 

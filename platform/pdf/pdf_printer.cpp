@@ -1,11 +1,11 @@
 // Making the PDF of a printout and finding its place.
 #include "platform/pdf/pdf_printer.h"
 
-#include <utility>
-
 #include "platform/part_of_surface.h"
 #include "platform/pdf/pdf_document.h"
 #include "platform/print_file.h"
+
+#include <utility>
 
 namespace veritane::platform {
 

@@ -1,12 +1,12 @@
 // Prints by way of PDF: to the system's default printer, or into a file where there is none.
 #pragma once
 
-#include <functional>
-#include <string>
-
 #include "platform/date_time.h"
 #include "platform/file_system.h"
 #include "platform/printer.h"
+
+#include <functional>
+#include <string>
 
 namespace veritane::platform {
 

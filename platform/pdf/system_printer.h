@@ -1,13 +1,13 @@
 // The system's default printer.
 #pragma once
 
-#include <functional>
-#include <memory>
-#include <string>
-
 #include "platform/date_time.h"
 #include "platform/file_system.h"
 #include "platform/printer.h"
+
+#include <functional>
+#include <memory>
+#include <string>
 
 namespace veritane::platform {
 

@@ -1,12 +1,12 @@
 // Loading shared objects.
 #include "platform/system/dynamic_library_loader.h"
 
+#include "platform/run_time_error.h"
+#include "platform/texts.h"
+
 #include <dlfcn.h>
 
 #include <algorithm>
-
-#include "platform/run_time_error.h"
-#include "platform/texts.h"
 
 namespace veritane::platform {
 

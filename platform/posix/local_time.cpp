@@ -1,10 +1,10 @@
 // The clock and the time zone of a POSIX system.
-#include <algorithm>
-#include <ctime>
-
 #include "platform/run_time_error.h"
 #include "platform/system/system_clock.h"
 #include "platform/texts.h"
+
+#include <algorithm>
+#include <ctime>
 
 namespace veritane::platform {
 

@@ -1,6 +1,9 @@
 // File calls of a POSIX system.
 #include "platform/system/native_file.h"
 
+#include "platform/run_time_error.h"
+#include "platform/system/system_clock.h"
+
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
@@ -9,9 +12,6 @@
 #include <algorithm>
 #include <cerrno>
 #include <utility>
-
-#include "platform/run_time_error.h"
-#include "platform/system/system_clock.h"
 
 namespace veritane::platform {
 

@@ -1,11 +1,11 @@
 // Windows paths mapped onto those of a POSIX system.
 #include "platform/system/path_map.h"
 
-#include <algorithm>
-#include <cstdlib>
-
 #include "platform/run_time_error.h"
 #include "platform/windows_path.h"
+
+#include <algorithm>
+#include <cstdlib>
 
 namespace veritane::platform {
 

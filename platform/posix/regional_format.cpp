@@ -1,13 +1,13 @@
 // Formats of a named C locale.
 #include "platform/system/regional_format.h"
 
-#include <array>
-#include <clocale>
-#include <ctime>
-
 #include "platform/run_time_error.h"
 #include "platform/text_file.h"
 #include "platform/texts.h"
+
+#include <array>
+#include <clocale>
+#include <ctime>
 
 namespace veritane::platform {
 

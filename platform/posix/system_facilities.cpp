@@ -1,11 +1,11 @@
 // Folders, names and the registry of a POSIX system.
+#include "platform/system/registry_file.h"
+#include "platform/system/system_machine.h"
+
 #include <pwd.h>
 #include <unistd.h>
 
 #include <array>
-
-#include "platform/system/registry_file.h"
-#include "platform/system/system_machine.h"
 
 namespace veritane::platform {
 

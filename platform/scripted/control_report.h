@@ -1,11 +1,12 @@
 // What the console prints about controls and forms: their properties as JSON objects.
 #pragma once
 
-#include <nlohmann/json.hpp>
-#include <string>
-
 #include "platform/desktop.h"
 #include "platform/form.h"
+
+#include <nlohmann/json.hpp>
+
+#include <string>
 
 namespace veritane::platform {
 

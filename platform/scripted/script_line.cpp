@@ -1,10 +1,10 @@
 // Splitting a script line into words.
 #include "platform/scripted/script_line.h"
 
-#include <limits>
-
 #include "platform/number_text.h"
 #include "platform/utf8.h"
+
+#include <limits>
 
 namespace veritane::platform {
 

@@ -1,15 +1,15 @@
 // Playing lines: start-up, dialogs that wait for an answer, and the end of a run.
 #include "platform/scripted/scripted_interface.h"
 
-#include <istream>
-#include <ostream>
-
 #include "platform/controls.h"
 #include "platform/form.h"
 #include "platform/run_time_error.h"
 #include "platform/scripted/control_report.h"
 #include "platform/texts.h"
 #include "platform/utf8.h"
+
+#include <istream>
+#include <ostream>
 
 namespace veritane::platform {
 

@@ -10,16 +10,17 @@
 //   const int exit_status = screen.Run(desktop, {.start = …, .setInstrument = …, .setClock = …});
 #pragma once
 
-#include <functional>
-#include <iosfwd>
-#include <nlohmann/json.hpp>
-#include <optional>
-#include <string>
-#include <vector>
-
 #include "platform/date_time.h"
 #include "platform/desktop.h"
 #include "platform/scripted/script_line.h"
+
+#include <nlohmann/json.hpp>
+
+#include <functional>
+#include <iosfwd>
+#include <optional>
+#include <string>
+#include <vector>
 
 namespace veritane::platform {
 

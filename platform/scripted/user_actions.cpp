@@ -1,14 +1,14 @@
 // Actions of the user on controls, with the checks that a screen makes by itself.
 #include "platform/scripted/user_actions.h"
 
-#include <algorithm>
-#include <functional>
-
 #include "platform/controls.h"
 #include "platform/desktop.h"
 #include "platform/grid.h"
 #include "platform/scripted/control_report.h"
 #include "platform/utf8.h"
+
+#include <algorithm>
+#include <functional>
 
 namespace veritane::platform {
 

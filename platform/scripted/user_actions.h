@@ -2,10 +2,10 @@
 // do it, and throws RefusedLine with the reason when not; then it runs through the dispatcher of the desktop.
 #pragma once
 
-#include <string>
-
 #include "platform/form.h"
 #include "platform/scripted/script_line.h"
+
+#include <string>
 
 namespace veritane::platform {
 

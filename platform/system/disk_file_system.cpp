@@ -1,13 +1,13 @@
 // What file operations promise, on the system's own calls.
 #include "platform/system/disk_file_system.h"
 
-#include <algorithm>
-#include <utility>
-
 #include "platform/run_time_error.h"
 #include "platform/system/native_file.h"
 #include "platform/system/native_path.h"
 #include "platform/text_file.h"
+
+#include <algorithm>
+#include <utility>
 
 namespace veritane::platform {
 

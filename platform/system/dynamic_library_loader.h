@@ -1,10 +1,10 @@
 // Dynamic libraries of the system.
 #pragma once
 
-#include <filesystem>
-
 #include "platform/dynamic_library.h"
 #include "platform/system/path_map.h"
+
+#include <filesystem>
 
 namespace veritane::platform {
 

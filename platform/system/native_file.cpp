@@ -1,9 +1,9 @@
 // What an open file is made of, on every system.
 #include "platform/system/native_file.h"
 
-#include <utility>
-
 #include "platform/system/native_path.h"
+
+#include <utility>
 
 namespace veritane::platform {
 

@@ -1,9 +1,9 @@
 // Dates and times in the formats of a named locale, whatever the process's own is.
 #pragma once
 
-#include <memory>
-
 #include "platform/machine.h"
+
+#include <memory>
 
 namespace veritane::platform {
 

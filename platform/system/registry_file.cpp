@@ -1,10 +1,10 @@
 // Values from a file of registry text.
 #include "platform/system/registry_file.h"
 
+#include "platform/registry_text.h"
+
 #include <fstream>
 #include <iterator>
-
-#include "platform/registry_text.h"
 
 namespace veritane::platform {
 

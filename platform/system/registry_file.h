@@ -1,9 +1,9 @@
 // The registry as a file in REGEDIT4 text below the data root.
 #pragma once
 
-#include <filesystem>
-
 #include "platform/machine.h"
+
+#include <filesystem>
 
 namespace veritane::platform {
 

@@ -1,11 +1,11 @@
 // The system's clock and time zone.
 #pragma once
 
+#include "platform/date_time.h"
+
 #include <chrono>
 #include <cstdint>
 #include <optional>
-
-#include "platform/date_time.h"
 
 namespace veritane::platform {
 

@@ -1,9 +1,9 @@
 // Putting the system's facilities together.
 #include "platform/system/system_machine.h"
 
-#include <fstream>
-
 #include "platform/system/native_file.h"
+
+#include <fstream>
 
 namespace veritane::platform {
 

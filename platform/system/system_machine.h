@@ -1,17 +1,17 @@
 // The machine facilities of the system that the program runs on, together as one object.
 #pragma once
 
-#include <filesystem>
-#include <memory>
-#include <string>
-#include <utility>
-
 #include "platform/machine.h"
 #include "platform/system/disk_file_system.h"
 #include "platform/system/dynamic_library_loader.h"
 #include "platform/system/path_map.h"
 #include "platform/system/regional_format.h"
 #include "platform/system/system_clock.h"
+
+#include <filesystem>
+#include <memory>
+#include <string>
+#include <utility>
 
 namespace veritane::platform {
 

@@ -1,14 +1,14 @@
 // Errors of automation.
 #include "platform/windows/dispatch_error.h"
 
-#include <array>
-#include <cstdint>
-#include <cstdio>
-
 #include "platform/automation.h"
 #include "platform/texts.h"
 #include "platform/windows/dispatch_value.h"
 #include "platform/windows/system_text.h"
+
+#include <array>
+#include <cstdint>
+#include <cstdio>
 
 namespace veritane::platform {
 

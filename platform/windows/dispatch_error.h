@@ -1,13 +1,13 @@
 // What a failed call of automation means to the program.
 #pragma once
 
+#include "platform/run_time_error.h"
+
 #include <windows.h>
 
 #include <oleauto.h>
 
 #include <string>
-
-#include "platform/run_time_error.h"
 
 namespace veritane::platform {
 

@@ -1,13 +1,13 @@
 // Calls of members, and the automation of the system that makes the first object.
 #include "platform/windows/dispatch_object.h"
 
-#include <utility>
-#include <vector>
-
 #include "platform/run_time_error.h"
 #include "platform/texts.h"
 #include "platform/windows/dispatch_error.h"
 #include "platform/windows/system_text.h"
+
+#include <utility>
+#include <vector>
 
 namespace veritane::platform {
 

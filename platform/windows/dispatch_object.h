@@ -1,6 +1,10 @@
 // Objects of other programs through the system's late-bound interface.
 #pragma once
 
+#include "platform/automation.h"
+#include "platform/windows/dispatch_value.h"
+#include "platform/windows/message_filter.h"
+
 #include <windows.h>
 
 #include <oleauto.h>
@@ -8,10 +12,6 @@
 #include <map>
 #include <memory>
 #include <string>
-
-#include "platform/automation.h"
-#include "platform/windows/dispatch_value.h"
-#include "platform/windows/message_filter.h"
 
 namespace veritane::platform {
 

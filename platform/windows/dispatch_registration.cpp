@@ -1,15 +1,15 @@
 // What the registry says about the program that serves a class.
-#include <windows.h>
-
-#include <array>
-#include <string>
-
 #include "platform/automation_server.h"
 #include "platform/run_time_error.h"
 #include "platform/texts.h"
 #include "platform/windows/dispatch_error.h"
 #include "platform/windows/dispatch_value.h"
 #include "platform/windows/system_text.h"
+
+#include <windows.h>
+
+#include <array>
+#include <string>
 
 namespace veritane::platform {
 

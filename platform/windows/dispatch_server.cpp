@@ -1,16 +1,16 @@
 // Answering calls of other programs.
 #include "platform/windows/dispatch_server.h"
 
-#include <algorithm>
-#include <utility>
-#include <vector>
-
 #include "platform/run_time_error.h"
 #include "platform/texts.h"
 #include "platform/windows/dispatch_error.h"
 #include "platform/windows/dispatch_value.h"
 #include "platform/windows/system_text.h"
 #include "platform/windows_path.h"
+
+#include <algorithm>
+#include <utility>
+#include <vector>
 
 namespace veritane::platform {
 

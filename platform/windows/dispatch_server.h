@@ -1,13 +1,13 @@
 // Objects of this program behind the system's late-bound interface.
 #pragma once
 
+#include "platform/automation.h"
+
 #include <windows.h>
 
 #include <oleauto.h>
 
 #include <memory>
-
-#include "platform/automation.h"
 
 namespace veritane::platform {
 

@@ -1,10 +1,4 @@
 // The process that serves objects: its class, its message loop, and how it tells callers that it is busy.
-#include <windows.h>
-
-#include <objbase.h>
-
-#include <utility>
-
 #include "platform/automation_server.h"
 #include "platform/run_time_error.h"
 #include "platform/texts.h"
@@ -12,6 +6,12 @@
 #include "platform/windows/dispatch_server.h"
 #include "platform/windows/dispatch_value.h"
 #include "platform/windows/system_text.h"
+
+#include <windows.h>
+
+#include <objbase.h>
+
+#include <utility>
 
 namespace veritane::platform {
 

@@ -1,11 +1,11 @@
 // Converting between values of automation and variants.
 #include "platform/windows/dispatch_value.h"
 
-#include <algorithm>
-#include <utility>
-
 #include "platform/run_time_error.h"
 #include "platform/texts.h"
+
+#include <algorithm>
+#include <utility>
 
 namespace veritane::platform {
 

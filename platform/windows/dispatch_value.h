@@ -1,6 +1,9 @@
 // Values of automation as the system's variants, and the other way round.
 #pragma once
 
+#include "platform/automation.h"
+#include "platform/windows/system_text.h"
+
 #include <windows.h>
 
 #include <oleauto.h>
@@ -8,9 +11,6 @@
 #include <memory>
 #include <string>
 #include <string_view>
-
-#include "platform/automation.h"
-#include "platform/windows/system_text.h"
 
 namespace veritane::platform {
 

@@ -1,12 +1,12 @@
 // Loading DLLs.
 #include "platform/system/dynamic_library_loader.h"
 
-#include <windows.h>
-
 #include "platform/run_time_error.h"
 #include "platform/system/native_path.h"
 #include "platform/texts.h"
 #include "platform/windows/system_text.h"
+
+#include <windows.h>
 
 namespace veritane::platform {
 

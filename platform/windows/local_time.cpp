@@ -1,10 +1,10 @@
 // The clock of Windows, and its time zone with the rules of each year.
-#include <windows.h>
-
 #include "platform/run_time_error.h"
 #include "platform/system/system_clock.h"
 #include "platform/texts.h"
 #include "platform/windows/windows_time.h"
+
+#include <windows.h>
 
 namespace veritane::platform {
 

@@ -1,12 +1,12 @@
 // The message filter, and the calls that go through it.
 #include "platform/windows/message_filter.h"
 
-#include <utility>
-
 #include "platform/automation_waiting.h"
 #include "platform/run_time_error.h"
 #include "platform/texts.h"
 #include "platform/windows/dispatch_error.h"
+
+#include <utility>
 
 namespace veritane::platform {
 

@@ -2,14 +2,14 @@
 // windows go on being drawn, and keys and clicks lead to nothing.
 #pragma once
 
+#include "platform/automation.h"
+
 #include <windows.h>
 
 #include <objbase.h>
 
 #include <functional>
 #include <memory>
-
-#include "platform/automation.h"
 
 namespace veritane::platform {
 

@@ -1,14 +1,14 @@
 // File calls of Windows.
 #include "platform/system/native_file.h"
 
+#include "platform/run_time_error.h"
+#include "platform/windows/windows_time.h"
+
 #include <windows.h>
 
 #include <algorithm>
 #include <atomic>
 #include <utility>
-
-#include "platform/run_time_error.h"
-#include "platform/windows/windows_time.h"
 
 namespace veritane::platform {
 

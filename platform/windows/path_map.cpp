@@ -1,15 +1,15 @@
 // Windows paths on Windows: its own, but for drive C of a data root.
 #include "platform/system/path_map.h"
 
-#include <windows.h>
-
-#include <algorithm>
-#include <vector>
-
 #include "platform/run_time_error.h"
 #include "platform/system/native_path.h"
 #include "platform/windows/system_text.h"
 #include "platform/windows_path.h"
+
+#include <windows.h>
+
+#include <algorithm>
+#include <vector>
 
 namespace veritane::platform {
 

@@ -1,15 +1,15 @@
 // Formats of the user's regional settings, or of a named locale.
 #include "platform/system/regional_format.h"
 
-#include <windows.h>
-
-#include <algorithm>
-#include <array>
-
 #include "platform/run_time_error.h"
 #include "platform/texts.h"
 #include "platform/windows/system_text.h"
 #include "platform/windows/windows_time.h"
+
+#include <windows.h>
+
+#include <algorithm>
+#include <array>
 
 namespace veritane::platform {
 

@@ -1,9 +1,9 @@
 // Windows connects a program with a window to no console, not even to the one that it was started from.
 #include "platform/system/starter_message.h"
 
-#include <windows.h>
-
 #include "platform/windows/system_text.h"
+
+#include <windows.h>
 
 namespace veritane::platform {
 

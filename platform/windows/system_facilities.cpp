@@ -1,15 +1,15 @@
 // Folders and names of Windows.
 #include <windows.h>
 // After windows.h, which it needs.
-#include <shlobj.h>
-
-#include <array>
-
 #include "platform/system/native_path.h"
 #include "platform/system/registry_file.h"
 #include "platform/system/system_machine.h"
 #include "platform/windows/system_registry.h"
 #include "platform/windows/system_text.h"
+
+#include <shlobj.h>
+
+#include <array>
 
 namespace veritane::platform {
 

@@ -1,9 +1,9 @@
 // Tenths of microseconds from the year 1601, and moments in parts.
 #include "platform/windows/windows_time.h"
 
-#include <cstdint>
-
 #include "platform/system/system_clock.h"
+
+#include <cstdint>
 
 namespace veritane::platform {
 

@@ -1,11 +1,11 @@
 // Windows' own times: the count in which its clock and its files tell moments, and moments in parts.
 #pragma once
 
+#include "platform/date_time.h"
+
 #include <windows.h>
 
 #include <chrono>
-
-#include "platform/date_time.h"
 
 namespace veritane::platform {
 

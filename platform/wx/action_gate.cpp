@@ -1,6 +1,9 @@
 // One action at a time.
 #include "platform/wx/action_gate.h"
 
+#include "platform/form.h"
+#include "platform/texts.h"
+
 #include <wx/app.h>
 #include <wx/event.h>
 #include <wx/evtloop.h>
@@ -10,9 +13,6 @@
 #include <array>
 #include <cstdio>
 #include <exception>
-
-#include "platform/form.h"
-#include "platform/texts.h"
 
 namespace veritane::platform {
 

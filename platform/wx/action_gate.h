@@ -2,12 +2,12 @@
 // of waiting to start another one.
 #pragma once
 
+#include "platform/desktop.h"
+
 #include <wx/eventfilter.h>
 
 #include <chrono>
 #include <functional>
-
-#include "platform/desktop.h"
 
 namespace veritane::platform {
 

@@ -1,16 +1,16 @@
 // The chart's panel.
 #include "platform/wx/chart_panel.h"
 
+#include "platform/chart_drawing.h"
+#include "platform/desktop.h"
+#include "platform/form.h"
+#include "platform/wx/graphics_drawing_context.h"
+
 #include <wx/dcbuffer.h>
 #include <wx/graphics.h>
 
 #include <algorithm>
 #include <memory>
-
-#include "platform/chart_drawing.h"
-#include "platform/desktop.h"
-#include "platform/form.h"
-#include "platform/wx/graphics_drawing_context.h"
 
 namespace veritane::platform {
 

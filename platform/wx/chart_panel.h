@@ -1,12 +1,12 @@
 // The chart as it is drawn, with zooming by dragging a rectangle and back by a double click.
 #pragma once
 
+#include "platform/chart.h"
+#include "platform/wx/control_view.h"
+
 #include <wx/panel.h>
 
 #include <optional>
-
-#include "platform/chart.h"
-#include "platform/wx/control_view.h"
 
 namespace veritane::platform {
 

@@ -1,6 +1,9 @@
 // Taking the picture and handing it over.
 #include "platform/wx/clipboard.h"
 
+#include "platform/run_time_error.h"
+#include "platform/texts.h"
+
 #include <wx/bitmap.h>
 #include <wx/clipbrd.h>
 #include <wx/dataobj.h>
@@ -10,9 +13,6 @@
 #include <wx/window.h>
 
 #include <memory>
-
-#include "platform/run_time_error.h"
-#include "platform/texts.h"
 
 namespace veritane::platform {
 

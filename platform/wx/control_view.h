@@ -1,13 +1,13 @@
 // A control as it is drawn: follows what the program changes and passes on what the user does.
 #pragma once
 
+#include "platform/control.h"
+
 #include <wx/window.h>
 
 #include <functional>
 #include <memory>
 #include <string>
-
-#include "platform/control.h"
 
 namespace veritane::platform {
 

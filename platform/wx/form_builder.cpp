@@ -1,12 +1,12 @@
 // From controls to widgets.
 #include "platform/wx/form_builder.h"
 
-#include <stdexcept>
-
 #include "platform/wx/chart_panel.h"
 #include "platform/wx/grid_view.h"
 #include "platform/wx/text_views.h"
 #include "platform/wx/wx_text.h"
+
+#include <stdexcept>
 
 namespace veritane::platform {
 

@@ -1,6 +1,10 @@
 // Makes the widgets of one form, one call a control, for the layouts to arrange.
 #pragma once
 
+#include "platform/form.h"
+#include "platform/wx/list_views.h"
+#include "platform/wx/simple_views.h"
+
 #include <wx/gauge.h>
 #include <wx/panel.h>
 #include <wx/sizer.h>
@@ -10,10 +14,6 @@
 #include <memory>
 #include <string>
 #include <vector>
-
-#include "platform/form.h"
-#include "platform/wx/list_views.h"
-#include "platform/wx/simple_views.h"
 
 namespace veritane::platform {
 

@@ -1,10 +1,10 @@
 // What the keyboard does on a form: focus, Enter, Escape and access keys.
-#include <algorithm>
-
 #include "platform/controls.h"
 #include "platform/wx/form_window.h"
 #include "platform/wx/simple_views.h"
 #include "platform/wx/wx_text.h"
+
+#include <algorithm>
 
 namespace veritane::platform {
 

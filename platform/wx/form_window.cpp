@@ -1,6 +1,12 @@
 // Forms as windows: making them, showing and hiding, and their place on the screen.
 #include "platform/wx/form_window.h"
 
+#include "platform/controls.h"
+#include "platform/wx/layout_parts.h"
+#include "platform/wx/layouts.h"
+#include "platform/wx/spoken_name.h"
+#include "platform/wx/wx_text.h"
+
 #include <wx/dialog.h>
 #include <wx/display.h>
 #include <wx/frame.h>
@@ -10,12 +16,6 @@
 
 #include <algorithm>
 #include <map>
-
-#include "platform/controls.h"
-#include "platform/wx/layout_parts.h"
-#include "platform/wx/layouts.h"
-#include "platform/wx/spoken_name.h"
-#include "platform/wx/wx_text.h"
 
 namespace veritane::platform {
 

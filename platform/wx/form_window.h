@@ -2,14 +2,14 @@
 // the keyboard its meaning: Enter, Escape and access keys.
 #pragma once
 
+#include "platform/form.h"
+#include "platform/wx/action_gate.h"
+#include "platform/wx/control_view.h"
+
 #include <wx/toplevel.h>
 
 #include <memory>
 #include <vector>
-
-#include "platform/form.h"
-#include "platform/wx/action_gate.h"
-#include "platform/wx/control_view.h"
 
 class wxGauge;
 

@@ -1,14 +1,14 @@
 // Drawing on a wxGraphicsContext.
 #include "platform/wx/graphics_drawing_context.h"
 
+#include "platform/wx/wx_text.h"
+
 #include <wx/brush.h>
 #include <wx/fontenum.h>
 
 #include <map>
 #include <numbers>
 #include <vector>
-
-#include "platform/wx/wx_text.h"
 
 namespace veritane::platform {
 

@@ -2,10 +2,10 @@
 // text where the context can keep them.
 #pragma once
 
+#include "platform/drawing_context.h"
+
 #include <wx/font.h>
 #include <wx/graphics.h>
-
-#include "platform/drawing_context.h"
 
 namespace veritane::platform {
 

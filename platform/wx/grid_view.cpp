@@ -1,12 +1,12 @@
 // A wxGrid over the grid control's cells.
 #include "platform/wx/grid_view.h"
 
+#include "platform/wx/wx_text.h"
+
 #include <wx/dcclient.h>
 #include <wx/settings.h>
 
 #include <algorithm>
-
-#include "platform/wx/wx_text.h"
 
 namespace veritane::platform {
 

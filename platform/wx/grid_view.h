@@ -1,10 +1,10 @@
 // The grid as it is drawn: reads the cells that are in sight from the grid control, however many rows it has.
 #pragma once
 
-#include <wx/grid.h>
-
 #include "platform/grid.h"
 #include "platform/wx/control_view.h"
+
+#include <wx/grid.h>
 
 namespace veritane::platform {
 

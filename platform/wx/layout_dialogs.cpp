@@ -1,8 +1,8 @@
 // The dialogs, and which form has which layout.
-#include <map>
-
 #include "platform/wx/layout_parts.h"
 #include "platform/wx/layouts.h"
+
+#include <map>
 
 namespace veritane::platform {
 

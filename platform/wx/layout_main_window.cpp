@@ -1,10 +1,10 @@
 // The main window: its three panels in one place, the operator's panel, and the spectrum panel.
-#include <wx/stattext.h>
-
 #include "platform/texts.h"
 #include "platform/wx/layout_parts.h"
 #include "platform/wx/layouts.h"
 #include "platform/wx/wx_text.h"
+
+#include <wx/stattext.h>
 
 namespace veritane::platform {
 

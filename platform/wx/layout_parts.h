@@ -1,11 +1,11 @@
 // The few patterns that the layouts are made of.
 #pragma once
 
+#include "platform/wx/form_builder.h"
+
 #include <wx/sizer.h>
 
 #include <initializer_list>
-
-#include "platform/wx/form_builder.h"
 
 namespace veritane::platform {
 

@@ -1,8 +1,8 @@
 // The supervisor panel: one function a tab.
-#include <wx/notebook.h>
-
 #include "platform/wx/layout_parts.h"
 #include "platform/wx/layouts.h"
+
+#include <wx/notebook.h>
 
 namespace veritane::platform {
 

@@ -2,9 +2,9 @@
 // well.
 #pragma once
 
-#include <wx/sizer.h>
-
 #include "platform/wx/form_builder.h"
+
+#include <wx/sizer.h>
 
 namespace veritane::platform {
 

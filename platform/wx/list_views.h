@@ -1,11 +1,11 @@
 // Lists to choose from: list boxes, and combo boxes that take only their entries.
 #pragma once
 
-#include <wx/choice.h>
-#include <wx/listbox.h>
-
 #include "platform/controls.h"
 #include "platform/wx/control_view.h"
+
+#include <wx/choice.h>
+#include <wx/listbox.h>
 
 namespace veritane::platform {
 

@@ -1,6 +1,11 @@
 // Message boxes.
 #include "platform/wx/message_dialog.h"
 
+#include "platform/texts.h"
+#include "platform/wx/layout_parts.h"
+#include "platform/wx/wrapping_text.h"
+#include "platform/wx/wx_text.h"
+
 #include <wx/artprov.h>
 #include <wx/button.h>
 #include <wx/gdicmn.h>
@@ -8,11 +13,6 @@
 #include <wx/statbmp.h>
 
 #include <algorithm>
-
-#include "platform/texts.h"
-#include "platform/wx/layout_parts.h"
-#include "platform/wx/wrapping_text.h"
-#include "platform/wx/wx_text.h"
 
 namespace veritane::platform {
 

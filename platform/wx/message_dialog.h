@@ -1,9 +1,9 @@
 // A message box: the text as it is, an icon, and buttons that answer it.
 #pragma once
 
-#include <wx/dialog.h>
-
 #include "platform/desktop.h"
+
+#include <wx/dialog.h>
 
 namespace veritane::platform {
 

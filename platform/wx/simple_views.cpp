@@ -1,10 +1,10 @@
 // Labels, buttons, options, check boxes, frames and tabs.
 #include "platform/wx/simple_views.h"
 
-#include <wx/panel.h>
-
 #include "platform/form.h"
 #include "platform/wx/wx_text.h"
+
+#include <wx/panel.h>
 
 namespace veritane::platform {
 

@@ -1,15 +1,15 @@
 // Labels, buttons, options, check boxes, frames and tabs as they are drawn.
 #pragma once
 
+#include "platform/controls.h"
+#include "platform/wx/control_view.h"
+#include "platform/wx/wrapping_text.h"
+
 #include <wx/button.h>
 #include <wx/checkbox.h>
 #include <wx/notebook.h>
 #include <wx/radiobut.h>
 #include <wx/stattext.h>
-
-#include "platform/controls.h"
-#include "platform/wx/control_view.h"
-#include "platform/wx/wrapping_text.h"
 
 namespace veritane::platform {
 

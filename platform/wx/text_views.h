@@ -1,11 +1,11 @@
 // Text boxes and the combo boxes that can be typed into.
 #pragma once
 
-#include <wx/combobox.h>
-#include <wx/textctrl.h>
-
 #include "platform/controls.h"
 #include "platform/wx/control_view.h"
+
+#include <wx/combobox.h>
+#include <wx/textctrl.h>
 
 namespace veritane::platform {
 

@@ -1,13 +1,13 @@
 // The wxWidgets application around the program.
+#include "platform/wx/wx_text.h"
+#include "platform/wx/wx_user_interface.h"
+
 #include <wx/app.h>
 #include <wx/log.h>
 #include <wx/utils.h>
 
 #include <cstdio>
 #include <memory>
-
-#include "platform/wx/wx_text.h"
-#include "platform/wx/wx_user_interface.h"
 
 namespace veritane::platform {
 

@@ -1,10 +1,10 @@
 // Texts between UTF-8 and wxString.
 #include "platform/wx/wx_text.h"
 
+#include "platform/utf8.h"
+
 #include <wx/strconv.h>
 #include <wx/wxcrt.h>
-
-#include "platform/utf8.h"
 
 namespace veritane::platform {
 

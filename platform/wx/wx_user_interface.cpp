@@ -1,15 +1,6 @@
 // The window's side of the program: forms, boxes, pointer, end.
 #include "platform/wx/wx_user_interface.h"
 
-#include <wx/app.h>
-#include <wx/cursor.h>
-#include <wx/evtloop.h>
-#include <wx/filedlg.h>
-#include <wx/utils.h>
-
-#include <algorithm>
-#include <cstdio>
-
 #include "platform/control.h"
 #include "platform/form.h"
 #include "platform/run_time_error.h"
@@ -19,6 +10,15 @@
 #include "platform/wx/form_window.h"
 #include "platform/wx/message_dialog.h"
 #include "platform/wx/wx_text.h"
+
+#include <wx/app.h>
+#include <wx/cursor.h>
+#include <wx/evtloop.h>
+#include <wx/filedlg.h>
+#include <wx/utils.h>
+
+#include <algorithm>
+#include <cstdio>
 
 namespace veritane::platform {
 

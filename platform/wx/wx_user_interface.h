@@ -1,13 +1,13 @@
 // The window: draws the program's forms with wxWidgets and passes on what the user does.
 #pragma once
 
+#include "platform/desktop.h"
+#include "platform/wx/action_gate.h"
+
 #include <functional>
 #include <memory>
 #include <string>
 #include <vector>
-
-#include "platform/desktop.h"
-#include "platform/wx/action_gate.h"
 
 class wxDialog;
 class wxWindow;

@@ -2,6 +2,12 @@
 // handle.
 #include "pls/pls_library.h"
 
+#include "plslibrary/items.h"
+#include "plslibrary/pls_error.h"
+#include "plslibrary/prediction_session.h"
+#include "plslibrary/spc_reader.h"
+#include "plslibrary/spectrum_text_reader.h"
+
 #include <algorithm>
 #include <array>
 #include <cstring>
@@ -13,12 +19,6 @@
 #include <new>
 #include <string>
 #include <utility>
-
-#include "plslibrary/items.h"
-#include "plslibrary/pls_error.h"
-#include "plslibrary/prediction_session.h"
-#include "plslibrary/spc_reader.h"
-#include "plslibrary/spectrum_text_reader.h"
 
 namespace {
 

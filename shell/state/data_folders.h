@@ -1,10 +1,10 @@
 // Where the program's data lie, and the set-up of those folders at start-up.
 #pragma once
 
+#include "platform/machine.h"
+
 #include <string>
 #include <string_view>
-
-#include "platform/machine.h"
 
 namespace veritane::state {
 

@@ -1,10 +1,10 @@
 // Message boxes from the string table, in one short call each.
 #pragma once
 
-#include <string>
-
 #include "platform/desktop.h"
 #include "shell/state/string_table.h"
+
+#include <string>
 
 namespace veritane::state {
 

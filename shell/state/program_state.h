@@ -1,14 +1,14 @@
 // The program's working state: one object, owned by the main form and handed down by reference.
 #pragma once
 
+#include "shell/state/data_folders.h"
+#include "shell/state/null_region.h"
+#include "shell/state/spectrum_buffer.h"
+
 #include <cstdint>
 #include <limits>
 #include <string>
 #include <vector>
-
-#include "shell/state/data_folders.h"
-#include "shell/state/null_region.h"
-#include "shell/state/spectrum_buffer.h"
 
 namespace veritane::state {
 

@@ -1,10 +1,10 @@
 // settings.ini: the ten lines and what they mean.
 #pragma once
 
+#include "shell/state/program_state.h"
+
 #include <string>
 #include <string_view>
-
-#include "shell/state/program_state.h"
 
 namespace veritane::state {
 

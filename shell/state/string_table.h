@@ -3,11 +3,11 @@
 // in.
 #pragma once
 
+#include "platform/text_table.h"
+
 #include <initializer_list>
 #include <string>
 #include <string_view>
-
-#include "platform/text_table.h"
 
 namespace veritane::state {
 

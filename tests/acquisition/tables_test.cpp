@@ -1,7 +1,4 @@
 // Product table, methods list, null regions, prompts and the Product ID parser, whole and damaged.
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include "acquisition/background.h"
 #include "acquisition/method_list.h"
 #include "acquisition/null_regions.h"
@@ -12,6 +9,9 @@
 #include "platform/text_file.h"
 #include "tests/support/errors.h"
 #include "tests/support/temporary_folder.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 
 namespace veritane::acquisition {
 namespace {

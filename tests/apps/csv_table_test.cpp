@@ -1,9 +1,9 @@
 // Tables in comma-separated text, as other programs write them.
 #include "apps/veritane_calibrate/csv_table.h"
 
-#include <gtest/gtest.h>
-
 #include "apps/command_line.h"
+
+#include <gtest/gtest.h>
 
 namespace veritane::calibrate {
 namespace {

@@ -1,11 +1,11 @@
 // Setting the mode in a data folder that is there.
 #include "apps/veritane_setup/data_layout.h"
 
-#include <gtest/gtest.h>
-
 #include "platform/system/system_machine.h"
 #include "shell/state/data_folders.h"
 #include "tests/support/temporary_folder.h"
+
+#include <gtest/gtest.h>
 
 namespace veritane::setup {
 namespace {

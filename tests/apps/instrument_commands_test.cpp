@@ -1,11 +1,11 @@
 // The `app` lines of a script, on a compartment of their own.
 #include "apps/veritane_console/instrument_commands.h"
 
-#include <gtest/gtest.h>
-
 #include "apps/compartment_path.h"
 #include "platform/scripted/script_line.h"
 #include "tests/support/temporary_folder.h"
+
+#include <gtest/gtest.h>
 
 namespace veritane::console {
 namespace {

@@ -9,6 +9,8 @@
 //                     unplugged
 // FILE_FAULTS_WHILE   a file: as long as it is there, every later operation that the fault fits
 //                     fails, too
+#include "tests/faults/fault_plan.h"
+
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -18,8 +20,6 @@
 #include <cstdarg>
 #include <string>
 #include <unordered_map>
-
-#include "tests/faults/fault_plan.h"
 
 namespace {
 

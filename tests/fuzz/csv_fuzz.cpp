@@ -1,12 +1,12 @@
 // Feeds arbitrary bytes to the reader of tables of samples; a first line that begins with "#" is the list of
 // rows that is asked for. What the tables give is finite and no larger than the file, and a sample's name
 // that is written as a cell reads back; what is refused is refused with a SampleError or a UsageError.
-#include <cmath>
-#include <set>
-
 #include "apps/command_line.h"
 #include "apps/veritane_calibrate/csv_table.h"
 #include "tests/fuzz/require.h"
+
+#include <cmath>
+#include <set>
 
 namespace {
 

@@ -1,14 +1,14 @@
 // Feeds arbitrary bytes to the readers of the instrument's files: collect methods (first byte 'm') and the
 // sample compartment ('c', or 's' for a state that a program sets). What is taken lies inside the
 // instrument's limits and reads back when it is written; what is refused is refused with a RunTimeError.
-#include <cmath>
-#include <cstring>
-
 #include "platform/run_time_error.h"
 #include "simulator/collect_method.h"
 #include "simulator/compartment.h"
 #include "tests/fuzz/require.h"
 #include "tests/support/memory_file_system.h"
+
+#include <cmath>
+#include <cstring>
 
 namespace {
 

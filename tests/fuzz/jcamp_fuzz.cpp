@@ -1,11 +1,11 @@
 // Feeds arbitrary bytes to the reader of spectrum files. What it opens must be whole and must survive saving
 // and reading again to the last bit; what it refuses must be refused with a RunTimeError.
-#include <vector>
-
 #include "platform/run_time_error.h"
 #include "simulator/jcamp_writer.h"
 #include "simulator/spectrum_file.h"
 #include "tests/fuzz/require.h"
+
+#include <vector>
 
 namespace {
 

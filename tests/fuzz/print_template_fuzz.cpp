@@ -1,12 +1,12 @@
 // Feeds arbitrary bytes to the reader of print templates and draws what it takes. Everything drawn has a
 // place and a size, texts are no more lines than the template gives them, and clips are closed; what is
 // refused is refused with a RunTimeError.
-#include <cmath>
-
 #include "platform/run_time_error.h"
 #include "platform/utf8.h"
 #include "simulator/print_page.h"
 #include "tests/fuzz/require.h"
+
+#include <cmath>
 
 namespace {
 

@@ -1,12 +1,12 @@
 // What the fuzz targets share: how they take their bytes, and how they report a finding.
 #pragma once
 
+#include "platform/run_time_error.h"
+
 #include <cstdint>
 #include <cstdlib>
 #include <map>
 #include <string_view>
-
-#include "platform/run_time_error.h"
 
 namespace veritane::fuzz {
 

@@ -1,10 +1,10 @@
 // Plays arbitrary bytes as a script on a few forms. Every line is carried out or refused with its reason, no
 // error is one that nobody foresaw, the events are JSON and end with the exit status that fits them; a word
 // that is written in quotes reads back.
-#include <sstream>
-
 #include "tests/fuzz/require.h"
 #include "tests/scripted/sample_forms.h"
+
+#include <sstream>
 
 namespace {
 

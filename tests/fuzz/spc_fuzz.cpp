@@ -1,10 +1,10 @@
 // Feeds arbitrary bytes to the reader of SPC files. What it reads must be spectra that keep the reader's
 // promises and are no larger than the file can hold; what it refuses must be refused with a
 // SpectrumReadError.
-#include <cmath>
-
 #include "plslibrary/spc_reader.h"
 #include "tests/fuzz/require.h"
+
+#include <cmath>
 
 using veritane::fuzz::Require;
 using veritane::plslibrary::MeasuredSpectrum;

@@ -1,13 +1,13 @@
 // Feeds arbitrary bytes to the readers of spectra in text and in bare numbers. What they read must keep their
 // promises and be no larger than the file can hold, and the text of it must read back to the last bit; what
 // they refuse must be refused with a SpectrumReadError.
+#include "plslibrary/spectrum_text_reader.h"
+#include "tests/fuzz/require.h"
+
 #include <array>
 #include <charconv>
 #include <cmath>
 #include <string>
-
-#include "plslibrary/spectrum_text_reader.h"
-#include "tests/fuzz/require.h"
 
 namespace {
 

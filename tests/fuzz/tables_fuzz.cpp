@@ -1,8 +1,6 @@
 // Feeds arbitrary bytes to the readers of lists: the product table, the methods list, null regions and peak
 // files. The first byte says which. A list holds no more entries than its file has bytes, and what is written
 // of it reads back; what is refused is refused with a RunTimeError.
-#include <cmath>
-
 #include "acquisition/method_list.h"
 #include "acquisition/null_regions.h"
 #include "acquisition/product_table.h"
@@ -11,6 +9,8 @@
 #include "platform/windows_path.h"
 #include "tests/fuzz/require.h"
 #include "tests/support/memory_file_system.h"
+
+#include <cmath>
 
 namespace {
 

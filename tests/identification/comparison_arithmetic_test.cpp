@@ -1,17 +1,17 @@
 // The steps of a comparison: small cases worked out by hand, measured spectra against a second computation,
 // and null regions.
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
-#include <cmath>
-#include <vector>
-
 #include "identification/baseline.h"
 #include "identification/correlation.h"
 #include "identification/normalisation.h"
 #include "identification/null_regions_applied.h"
 #include "tests/identification/reference.h"
 #include "tests/support/errors.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <vector>
 
 namespace veritane::identification {
 namespace {

@@ -1,4 +1,8 @@
 // What every comparison must do with every kind of spectrum that can reach it.
+#include "identification/correlation.h"
+#include "tests/identification/reference.h"
+#include "tests/support/errors.h"
+
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -6,10 +10,6 @@
 #include <optional>
 #include <ostream>
 #include <utility>
-
-#include "identification/correlation.h"
-#include "tests/identification/reference.h"
-#include "tests/support/errors.h"
 
 namespace veritane::identification {
 namespace {

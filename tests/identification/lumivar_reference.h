@@ -2,9 +2,9 @@
 // program's own arithmetic.
 #pragma once
 
-#include <vector>
-
 #include "shell/state/spectrum_buffer.h"
+
+#include <vector>
 
 namespace veritane::identification::reference {
 

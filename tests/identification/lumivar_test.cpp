@@ -1,15 +1,15 @@
 // Lumivar's numbers against its definition, what must hold for every pair of spectra, and what it refuses.
 #include "identification/lumivar.h"
 
+#include "tests/identification/lumivar_reference.h"
+#include "tests/identification/reference.h"
+#include "tests/support/errors.h"
+
 #include <gmock/gmock.h>
 
 #include <cmath>
 #include <limits>
 #include <stdexcept>
-
-#include "tests/identification/lumivar_reference.h"
-#include "tests/identification/reference.h"
-#include "tests/support/errors.h"
 
 namespace veritane::identification {
 namespace {

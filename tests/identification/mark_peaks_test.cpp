@@ -1,9 +1,9 @@
 // Peak files as laboratories write them, and damaged ones.
 #include "identification/mark_peaks.h"
 
-#include <gmock/gmock.h>
-
 #include "tests/support/errors.h"
+
+#include <gmock/gmock.h>
 
 namespace veritane::identification {
 namespace {

@@ -2,11 +2,11 @@
 // program's own arithmetic; and spectra to try both on.
 #pragma once
 
-#include <string>
-#include <vector>
-
 #include "shell/state/null_region.h"
 #include "shell/state/spectrum_buffer.h"
+
+#include <string>
+#include <vector>
 
 namespace veritane::identification::reference {
 

@@ -1,11 +1,11 @@
 // Looking for the newest spectrum in folders that come and go.
 #include "apps/simulator_panel/newest_spectrum.h"
 
-#include <gtest/gtest.h>
-
 #include "platform/run_time_error.h"
 #include "platform/system/system_machine.h"
 #include "tests/support/temporary_folder.h"
+
+#include <gtest/gtest.h>
 
 namespace veritane::simulator_panel {
 namespace {

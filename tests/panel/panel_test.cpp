@@ -1,13 +1,13 @@
 // The simulator panel, played without a window on a folder of its own.
-#include <gmock/gmock.h>
-
-#include <fstream>
-#include <memory>
-
 #include "apps/simulator_panel/frm_simulator.h"
 #include "platform/system/system_machine.h"
 #include "tests/support/script_run.h"
 #include "tests/support/temporary_folder.h"
+
+#include <gmock/gmock.h>
+
+#include <fstream>
+#include <memory>
 
 namespace veritane::simulator_panel {
 namespace {

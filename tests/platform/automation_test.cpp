@@ -1,10 +1,10 @@
 // Values of automation in other types, and how long a busy server is asked.
 #include "platform/automation.h"
 
-#include <gtest/gtest.h>
-
 #include "platform/automation_waiting.h"
 #include "tests/support/errors.h"
+
+#include <gtest/gtest.h>
 
 namespace veritane::platform {
 namespace {

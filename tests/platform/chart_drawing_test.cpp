@@ -1,17 +1,17 @@
 // What a drawn chart shows, seen by a surface that remembers what was drawn on it.
 #include "platform/chart_drawing.h"
 
-#include <gmock/gmock.h>
-
-#include <algorithm>
-#include <cmath>
-#include <limits>
-
 #include "platform/chart_shading.h"
 #include "platform/chart_trace.h"
 #include "platform/form.h"
 #include "tests/support/noting_screen.h"
 #include "tests/support/recording_surface.h"
+
+#include <gmock/gmock.h>
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
 
 namespace veritane::platform {
 namespace {

@@ -1,16 +1,16 @@
 // Files on disk by Windows path: case, atomic replacement, errors by their numbers.
 #include "platform/system/disk_file_system.h"
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
-#include <fstream>
-
 #include "platform/system/native_file.h"
 #include "platform/system/registry_file.h"
 #include "platform/system/system_machine.h"
 #include "tests/support/errors.h"
 #include "tests/support/temporary_folder.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <fstream>
 
 namespace veritane::platform {
 namespace {

@@ -2,6 +2,8 @@
 // has a text for each.
 #pragma once
 
+#include "platform/text_table.h"
+
 #include <gmock/gmock.h>
 
 #include <array>
@@ -9,8 +11,6 @@
 #include <set>
 #include <string_view>
 #include <utility>
-
-#include "platform/text_table.h"
 
 namespace veritane {
 

@@ -1,17 +1,17 @@
 // PDF documents as other programs read them.
 #include "platform/pdf/pdf_document.h"
 
+#include "platform/part_of_surface.h"
+#include "tests/support/errors.h"
+#include "tests/support/pdf_text.h"
+#include "tests/support/temporary_folder.h"
+
 #include <gmock/gmock.h>
 
 #include <cmath>
 #include <cstring>
 #include <fstream>
 #include <limits>
-
-#include "platform/part_of_surface.h"
-#include "tests/support/errors.h"
-#include "tests/support/pdf_text.h"
-#include "tests/support/temporary_folder.h"
 
 namespace veritane::platform {
 namespace {

@@ -1,16 +1,16 @@
 // Printing by way of PDF: the file's place and name, and the queue before it.
 #include "platform/pdf/pdf_printer.h"
 
-#include <gmock/gmock.h>
-
-#include <filesystem>
-
 #include "platform/run_time_error.h"
 #include "platform/system/system_machine.h"
 #include "platform/text_printout.h"
 #include "tests/support/errors.h"
 #include "tests/support/pdf_text.h"
 #include "tests/support/temporary_folder.h"
+
+#include <gmock/gmock.h>
+
+#include <filesystem>
 
 namespace veritane::platform {
 namespace {

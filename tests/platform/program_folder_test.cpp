@@ -1,10 +1,10 @@
 // Where a program that is installed keeps what belongs into its own folder.
+#include "platform/system/system_machine.h"
+#include "tests/support/temporary_folder.h"
+
 #include <gtest/gtest.h>
 
 #include <fstream>
-
-#include "platform/system/system_machine.h"
-#include "tests/support/temporary_folder.h"
 
 namespace veritane::tests {
 namespace {

@@ -1,11 +1,11 @@
 // The range of the clock.
 #include "platform/system/system_clock.h"
 
+#include "tests/support/errors.h"
+
 #include <gtest/gtest.h>
 
 #include <limits>
-
-#include "tests/support/errors.h"
 
 namespace veritane::platform {
 namespace {

@@ -1,9 +1,9 @@
 // Fields and lines of small text files, also damaged ones.
 #include "platform/text_file.h"
 
-#include <gtest/gtest.h>
-
 #include "tests/support/errors.h"
+
+#include <gtest/gtest.h>
 
 namespace veritane::platform {
 namespace {

@@ -1,9 +1,9 @@
 // A text on pages, seen by a surface that remembers what was drawn on it.
 #include "platform/text_printout.h"
 
-#include <gmock/gmock.h>
-
 #include "tests/support/recording_surface.h"
+
+#include <gmock/gmock.h>
 
 namespace veritane::platform {
 namespace {

@@ -1,11 +1,11 @@
 // Filling in places, and the platform's own texts.
 #include "platform/text_table.h"
 
-#include <gmock/gmock.h>
-
 #include "platform/run_time_error.h"
 #include "platform/texts.h"
 #include "tests/platform/named_values.h"
+
+#include <gmock/gmock.h>
 
 namespace veritane::platform {
 namespace {

@@ -1,9 +1,9 @@
 // Windows names and UTF-8 text by characters.
 #include "platform/windows_path.h"
 
-#include <gtest/gtest.h>
-
 #include "platform/utf8.h"
+
+#include <gtest/gtest.h>
 
 namespace veritane::platform {
 namespace {

@@ -1,13 +1,13 @@
 // The binding to a library on disk: found, incomplete, missing, and failing inside.
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
-#include <array>
-
 #include "platform/system/system_machine.h"
 #include "pls/loaded_prediction_library.h"
 #include "tests/support/errors.h"
 #include "tests/support/temporary_folder.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <array>
 
 namespace veritane::pls {
 namespace {

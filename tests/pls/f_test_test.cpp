@@ -1,10 +1,10 @@
 // The F-test of PLSPred against the formula in long double, the F distribution's tables, and what cannot be
 // computed.
-#include <cmath>
-#include <limits>
-
 #include "tests/pls/f_test_reference.h"
 #include "tests/pls/pls_pred_fixture.h"
+
+#include <cmath>
+#include <limits>
 
 namespace veritane::pls {
 namespace {

@@ -1,15 +1,15 @@
 // The prediction form: its steps in their order, its results, and what it does when a step fails.
 #include "pls/main_form.h"
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
-#include <cmath>
-
 #include "platform/system/system_machine.h"
 #include "tests/pls/scripted_library.h"
 #include "tests/support/script_run.h"
 #include "tests/support/temporary_folder.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <cmath>
 
 namespace veritane::pls {
 namespace {

@@ -1,15 +1,15 @@
 // A PLSPred on a scripted library.
 #pragma once
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
-#include <memory>
-
 #include "pls/pls_pred.h"
 #include "tests/pls/scripted_library.h"
 #include "tests/support/errors.h"
 #include "tests/support/noting_screen.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <memory>
 
 namespace veritane::pls {
 

@@ -1,8 +1,8 @@
 // The items that PLSPred delivers: names, preconditions, sizes and what a library can get wrong about them.
+#include "tests/pls/pls_pred_fixture.h"
+
 #include <cmath>
 #include <limits>
-
-#include "tests/pls/pls_pred_fixture.h"
 
 namespace veritane::pls {
 namespace {

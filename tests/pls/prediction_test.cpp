@@ -1,9 +1,4 @@
 // Form, wrapper, binding and the library that ships, together: octane of gasoline from its spectrum.
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
-#include <filesystem>
-
 #include "platform/number_text.h"
 #include "platform/system/system_machine.h"
 #include "pls/loaded_prediction_library.h"
@@ -14,6 +9,11 @@
 #include "tests/plslibrary/gasoline.h"
 #include "tests/support/noting_screen.h"
 #include "tests/support/temporary_folder.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <filesystem>
 
 namespace veritane::pls {
 namespace {

@@ -1,13 +1,13 @@
 // A prediction library that answers whatever a test tells it to and notes each call.
 #pragma once
 
+#include "platform/run_time_error.h"
+#include "pls/prediction_library.h"
+
 #include <algorithm>
 #include <map>
 #include <string>
 #include <vector>
-
-#include "platform/run_time_error.h"
-#include "pls/prediction_library.h"
 
 namespace veritane::pls {
 

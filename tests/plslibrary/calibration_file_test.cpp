@@ -1,11 +1,11 @@
 // ".cal" files: what is written reads back exactly, what is damaged is refused by its code.
 #include "plslibrary/calibration_file.h"
 
-#include <gtest/gtest.h>
-
 #include "plslibrary/crc32.h"
 #include "plslibrary/pls_error.h"
 #include "tests/plslibrary/gasoline.h"
+
+#include <gtest/gtest.h>
 
 namespace veritane::plslibrary {
 namespace {

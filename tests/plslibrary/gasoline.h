@@ -1,13 +1,14 @@
 // The gasoline spectra of tests/data/pls with their octane numbers, and calibrations made of them.
 #pragma once
 
+#include "plslibrary/calibration_builder.h"
+
 #include <Eigen/Core>
+
 #include <fstream>
 #include <sstream>
 #include <string>
 #include <vector>
-
-#include "plslibrary/calibration_builder.h"
 
 namespace veritane::plslibrary {
 

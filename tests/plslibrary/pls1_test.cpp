@@ -1,17 +1,17 @@
 // The regression against a reference implementation, against one written differently, and on awkward data.
 #include "plslibrary/pls1.h"
 
-#include <gtest/gtest.h>
-
-#include <cmath>
-#include <random>
-#include <vector>
-
 #include "plslibrary/cross_validation.h"
 #include "plslibrary/f_distribution.h"
 #include "plslibrary/pls_error.h"
 #include "plslibrary/prediction.h"
 #include "tests/plslibrary/gasoline.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <random>
+#include <vector>
 
 namespace veritane::plslibrary {
 namespace {

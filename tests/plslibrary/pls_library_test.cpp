@@ -1,6 +1,12 @@
 // The functions of the library as a program calls them: items, codes, and calls that make no sense.
 #include "pls/pls_library.h"
 
+#include "plslibrary/calibration_file.h"
+#include "plslibrary/prediction.h"
+#include "tests/pls/f_test_reference.h"
+#include "tests/plslibrary/gasoline.h"
+#include "tests/support/temporary_folder.h"
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -9,12 +15,6 @@
 #include <cstring>
 #include <fstream>
 #include <map>
-
-#include "plslibrary/calibration_file.h"
-#include "plslibrary/prediction.h"
-#include "tests/pls/f_test_reference.h"
-#include "tests/plslibrary/gasoline.h"
-#include "tests/support/temporary_folder.h"
 
 namespace veritane::plslibrary {
 namespace {

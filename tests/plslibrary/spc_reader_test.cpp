@@ -1,12 +1,12 @@
 // SPC files in every form, put together byte by byte, and what damage does to them.
 #include "plslibrary/spc_reader.h"
 
+#include "tests/plslibrary/spc_image.h"
+
 #include <gmock/gmock.h>
 
 #include <cmath>
 #include <limits>
-
-#include "tests/plslibrary/spc_image.h"
 
 namespace veritane::plslibrary {
 namespace {

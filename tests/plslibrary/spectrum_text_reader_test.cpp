@@ -1,12 +1,12 @@
 // Spectra from text in its two forms and from bare IEEE numbers.
 #include "plslibrary/spectrum_text_reader.h"
 
+#include "tests/plslibrary/spc_image.h"
+
 #include <gmock/gmock.h>
 
 #include <cmath>
 #include <limits>
-
-#include "tests/plslibrary/spc_image.h"
 
 namespace veritane::plslibrary {
 namespace {

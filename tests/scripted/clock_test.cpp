@@ -1,8 +1,8 @@
 // Lines that set the clock.
+#include "tests/scripted/sample_forms.h"
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-
-#include "tests/scripted/sample_forms.h"
 
 namespace veritane::platform {
 namespace {

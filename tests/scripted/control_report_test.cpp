@@ -1,9 +1,9 @@
 // What `get` and `list` tell of each kind of control.
+#include "tests/scripted/sample_forms.h"
+
 #include <gmock/gmock.h>
 
 #include <limits>
-
-#include "tests/scripted/sample_forms.h"
 
 namespace veritane::platform {
 namespace {

@@ -1,7 +1,7 @@
 // Message boxes, file choosers and modal forms: the program waits in them, and the next lines answer.
-#include <gmock/gmock.h>
-
 #include "tests/scripted/sample_forms.h"
+
+#include <gmock/gmock.h>
 
 namespace veritane::platform {
 namespace {

@@ -1,10 +1,10 @@
 // A whole run: start-up, clock and instrument, errors, the end and its exit status, streams in and out.
+#include "platform/text_printout.h"
+#include "tests/scripted/sample_forms.h"
+
 #include <gmock/gmock.h>
 
 #include <sstream>
-
-#include "platform/text_printout.h"
-#include "tests/scripted/sample_forms.h"
 
 namespace veritane::platform {
 namespace {

@@ -1,9 +1,6 @@
 // A small program for scripts to play: a main form with every kind of control, a dialog, the status window.
 #pragma once
 
-#include <string>
-#include <vector>
-
 #include "platform/chart.h"
 #include "platform/controls.h"
 #include "platform/desktop.h"
@@ -11,6 +8,9 @@
 #include "platform/grid.h"
 #include "platform/run_time_error.h"
 #include "tests/support/script_run.h"
+
+#include <string>
+#include <vector>
 
 namespace veritane::platform {
 

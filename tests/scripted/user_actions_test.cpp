@@ -1,7 +1,7 @@
 // What each command does to a control, and what it refuses to do.
-#include <gmock/gmock.h>
-
 #include "tests/scripted/sample_forms.h"
+
+#include <gmock/gmock.h>
 
 namespace veritane::platform {
 namespace {

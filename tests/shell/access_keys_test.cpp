@@ -1,10 +1,10 @@
 // Access keys on the screens as they are: each letter leads to one place.
+#include "tests/shell/program_fixture.h"
+#include "tests/support/errors.h"
+
 #include <cctype>
 #include <map>
 #include <set>
-
-#include "tests/shell/program_fixture.h"
-#include "tests/support/errors.h"
 
 namespace veritane::tests {
 namespace {

@@ -1,10 +1,10 @@
 // The program where the whole process follows another language's customs: files, fields and names stay what
 // they are. Only dates and times follow, and those are the machine's to write.
+#include "tests/shell/program_fixture.h"
+
 #include <clocale>
 #include <locale>
 #include <regex>
-
-#include "tests/shell/program_fixture.h"
 
 namespace veritane::tests {
 namespace {

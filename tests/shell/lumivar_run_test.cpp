@@ -1,9 +1,9 @@
 // A product that is judged by Lumivar, through the whole program.
-#include <cmath>
-
 #include "tests/identification/lumivar_reference.h"
 #include "tests/identification/reference.h"
 #include "tests/shell/program_fixture.h"
+
+#include <cmath>
 
 namespace veritane::tests {
 namespace {

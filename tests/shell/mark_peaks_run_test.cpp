@@ -1,7 +1,7 @@
 // A product whose peaks are marked, through the whole program.
-#include <cmath>
-
 #include "tests/shell/program_fixture.h"
+
+#include <cmath>
 
 namespace veritane::tests {
 namespace {

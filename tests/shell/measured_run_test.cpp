@@ -1,9 +1,9 @@
 // The measuring branch: call by call, the instrument's errors, and sample files that fill up.
-#include <algorithm>
-#include <fstream>
-
 #include "platform/number_text.h"
 #include "tests/shell/program_fixture.h"
+
+#include <algorithm>
+#include <fstream>
 
 namespace veritane::tests {
 namespace {

@@ -1,9 +1,9 @@
 // "PLS" in a sample run, for a new Standard and in reprocessing, on the data that ship.
-#include <algorithm>
-
 #include "plslibrary/calibration_file.h"
 #include "simulator/collect_method.h"
 #include "tests/shell/program_fixture.h"
+
+#include <algorithm>
 
 namespace veritane::tests {
 namespace {

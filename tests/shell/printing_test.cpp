@@ -1,10 +1,10 @@
 // Default printing, the texts of the two windows, and the screen copy.
-#include <algorithm>
-#include <filesystem>
-
 #include "platform/run_time_error.h"
 #include "tests/shell/reprocessing_fixture.h"
 #include "tests/support/pdf_text.h"
+
+#include <algorithm>
+#include <filesystem>
 
 namespace veritane::tests {
 namespace {

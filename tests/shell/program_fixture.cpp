@@ -1,13 +1,13 @@
 // Setting up the program for the tests.
 #include "tests/shell/program_fixture.h"
 
-#include <algorithm>
-#include <cmath>
-
 #include "apps/veritane_setup/data_layout.h"
 #include "simulator/jcamp_writer.h"
 #include "simulator/stored_spectrum.h"
 #include "tests/support/test_data.h"
+
+#include <algorithm>
+#include <cmath>
 
 namespace veritane::tests {
 

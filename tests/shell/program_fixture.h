@@ -2,13 +2,6 @@
 // a window.
 #pragma once
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
-#include <memory>
-#include <string>
-#include <vector>
-
 #include "apps/simulated_bench.h"
 #include "platform/pdf/pdf_printer.h"
 #include "platform/system/system_machine.h"
@@ -18,6 +11,13 @@
 #include "tests/support/script_run.h"
 #include "tests/support/temporary_folder.h"
 #include "tests/support/test_folders.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+#include <vector>
 
 namespace veritane::tests {
 

@@ -2,14 +2,14 @@
 // samples.
 #pragma once
 
+#include "simulator/jcamp_writer.h"
+#include "simulator/stored_spectrum.h"
+#include "tests/shell/program_fixture.h"
+
 #include <cmath>
 #include <map>
 #include <string>
 #include <vector>
-
-#include "simulator/jcamp_writer.h"
-#include "simulator/stored_spectrum.h"
-#include "tests/shell/program_fixture.h"
 
 namespace veritane::tests {
 

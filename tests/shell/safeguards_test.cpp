@@ -1,8 +1,8 @@
 // What must not cost a laboratory its settings, its records or a verdict: the ways there that a user goes by
 // mistake.
-#include <algorithm>
-
 #include "tests/shell/program_fixture.h"
+
+#include <algorithm>
 
 namespace veritane::tests {
 namespace {

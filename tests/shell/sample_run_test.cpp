@@ -1,7 +1,7 @@
 // The sample run through its forms: what is shown, what is filed, what is recorded, and every early end.
-#include <cmath>
-
 #include "tests/shell/program_fixture.h"
+
+#include <cmath>
 
 namespace veritane::tests {
 namespace {

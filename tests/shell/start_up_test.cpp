@@ -1,7 +1,7 @@
 // Start-up step by step, and the two ways to end.
-#include <fstream>
-
 #include "tests/shell/program_fixture.h"
+
+#include <fstream>
 
 namespace veritane::tests {
 namespace {

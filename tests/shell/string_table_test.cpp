@@ -1,10 +1,10 @@
 // The program's texts by number.
 #include "shell/state/string_table.h"
 
-#include <gmock/gmock.h>
-
 #include "platform/run_time_error.h"
 #include "tests/platform/named_values.h"
+
+#include <gmock/gmock.h>
 
 namespace veritane::state {
 namespace {

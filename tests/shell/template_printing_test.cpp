@@ -1,9 +1,9 @@
 // Printing through the Spectrometer application and a print template: call by call for each algorithm, and
 // what is left when it fails. On the data that ship.
-#include <algorithm>
-
 #include "tests/shell/program_fixture.h"
 #include "tests/support/pdf_text.h"
+
+#include <algorithm>
 
 namespace veritane::tests {
 namespace {

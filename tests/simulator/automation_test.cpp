@@ -1,14 +1,14 @@
 // The contract through automation: what travels, under which names, and what becomes of damage and misuse.
 // The contract's own tests run through automation too (tests/support/automation_connection.h).
-#include <gmock/gmock.h>
-
-#include <map>
-
 #include "platform/number_text.h"
 #include "simulator/simulated_spectrometer.h"
 #include "tests/support/automation_connection.h"
 #include "tests/support/errors.h"
 #include "tests/support/memory_file_system.h"
+
+#include <gmock/gmock.h>
+
+#include <map>
 
 namespace veritane::simulator {
 namespace {

@@ -1,9 +1,10 @@
 // Collect method files: what is read, what is refused and how it is said.
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
+#include "simulator/collect_method.h"
 
 #include "platform/run_time_error.h"
-#include "simulator/collect_method.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 
 namespace veritane::simulator {
 namespace {

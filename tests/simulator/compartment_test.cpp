@@ -1,9 +1,9 @@
 // The compartment's file.
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include "tests/simulator/instrument_rig.h"
 #include "tests/support/errors.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 
 namespace veritane::simulator::instrument_tests {
 namespace {

@@ -1,8 +1,4 @@
 // Documents of the simulated Spectrometer application as the program uses them.
-#include <gmock/gmock.h>
-
-#include <cmath>
-
 #include "simulator/simulated_spectrometer.h"
 #include "simulator/spectrum_file.h"
 #include "simulator/transform.h"
@@ -11,6 +7,10 @@
 #include "tests/support/errors.h"
 #include "tests/support/memory_file_system.h"
 #include "tests/support/standing_clock.h"
+
+#include <gmock/gmock.h>
+
+#include <cmath>
 
 namespace veritane::simulator {
 namespace {

@@ -1,13 +1,13 @@
 // Collections and alignments: what is measured, which error number comes when.
+#include "acquisition/spectrometer_app.h"
+#include "tests/simulator/instrument_rig.h"
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <cmath>
 #include <limits>
-
-#include "acquisition/spectrometer_app.h"
-#include "tests/simulator/instrument_rig.h"
 
 namespace veritane::simulator::instrument_tests {
 namespace {

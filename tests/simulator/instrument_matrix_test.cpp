@@ -1,10 +1,10 @@
 // The spectra make sense to the comparison that they are meant for: a material passes as itself and as
 // nothing else.
+#include "tests/simulator/instrument_rig.h"
+
 #include <gtest/gtest.h>
 
 #include <string>
-
-#include "tests/simulator/instrument_rig.h"
 
 namespace veritane::simulator::instrument_tests {
 namespace {

@@ -1,14 +1,14 @@
 // The spectrometer's physics against laws and published figures.
+#include "simulator/instrument_model.h"
+#include "simulator/instrument_noise.h"
+#include "tests/support/errors.h"
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <cmath>
 #include <numbers>
 #include <numeric>
-
-#include "simulator/instrument_model.h"
-#include "simulator/instrument_noise.h"
-#include "tests/support/errors.h"
 
 namespace veritane::simulator {
 namespace {

@@ -1,7 +1,7 @@
 // What the simulated instrument tells besides its error numbers.
-#include <gmock/gmock.h>
-
 #include "tests/simulator/instrument_rig.h"
+
+#include <gmock/gmock.h>
 
 namespace veritane::simulator {
 namespace {

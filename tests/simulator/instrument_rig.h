@@ -2,15 +2,15 @@
 // collections as the program makes them.
 #pragma once
 
-#include <map>
-#include <memory>
-#include <string>
-#include <vector>
-
 #include "platform/run_time_error.h"
 #include "simulator/instrument.h"
 #include "tests/identification/reference.h"
 #include "tests/support/memory_file_system.h"
+
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
 
 namespace veritane::simulator::instrument_tests {
 

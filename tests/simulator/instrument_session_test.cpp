@@ -1,13 +1,13 @@
 // The instrument behind the Spectrometer application: a background, a Standard and a sample through files, as
 // the program collects them.
-#include <gtest/gtest.h>
-
-#include <chrono>
-
 #include "simulator/simulated_spectrometer.h"
 #include "simulator/spectrum_file.h"
 #include "tests/simulator/instrument_rig.h"
 #include "tests/support/standing_clock.h"
+
+#include <gtest/gtest.h>
+
+#include <chrono>
 
 namespace veritane::simulator::instrument_tests {
 namespace {

@@ -1,10 +1,10 @@
 // Damaged JCAMP-DX texts: a clear fault, or a whole spectrum, or a warning; never a silent half spectrum.
-#include <gmock/gmock.h>
-
 #include "platform/run_time_error.h"
 #include "simulator/jcamp_writer.h"
 #include "simulator/spectrum_file.h"
 #include "tests/simulator/jcamp_text_samples.h"
+
+#include <gmock/gmock.h>
 
 namespace veritane::simulator {
 namespace {

@@ -1,15 +1,15 @@
 // Real files of other programs. The expected values were decoded independently of this reader: a script split
 // the tables with a regular expression and added whole numbers, scaled in decimal arithmetic.
+#include "simulator/jcamp_reader.h"
+#include "simulator/spectrum_file.h"
+#include "tests/simulator/jcamp_text_samples.h"
+#include "tests/support/test_data.h"
+
 #include <gmock/gmock.h>
 
 #include <algorithm>
 #include <cmath>
 #include <numeric>
-
-#include "simulator/jcamp_reader.h"
-#include "simulator/spectrum_file.h"
-#include "tests/simulator/jcamp_text_samples.h"
-#include "tests/support/test_data.h"
 
 namespace veritane::simulator {
 namespace {

@@ -1,7 +1,7 @@
 // The forms that ordinates and labels take in JCAMP-DX files.
-#include <gmock/gmock.h>
-
 #include "tests/simulator/jcamp_text_samples.h"
+
+#include <gmock/gmock.h>
 
 namespace veritane::simulator {
 namespace {

@@ -1,12 +1,12 @@
 // Small JCAMP-DX texts for the tests of the reader.
 #pragma once
 
+#include "simulator/jcamp_reader.h"
+
 #include <gtest/gtest.h>
 
 #include <string>
 #include <vector>
-
-#include "simulator/jcamp_reader.h"
 
 namespace veritane::simulator {
 

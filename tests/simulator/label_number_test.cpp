@@ -1,7 +1,7 @@
 // Numbers in the labels of JCAMP-DX files.
-#include <gmock/gmock.h>
-
 #include "simulator/jcamp_text.h"
+
+#include <gmock/gmock.h>
 
 namespace veritane::simulator {
 namespace {

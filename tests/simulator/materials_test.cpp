@@ -1,13 +1,14 @@
 // The band tables against published positions, and how names become samples.
+#include "simulator/materials.h"
+
+#include "simulator/instrument_model.h"
+#include "tests/support/errors.h"
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <cmath>
 #include <set>
-
-#include "simulator/instrument_model.h"
-#include "simulator/materials.h"
-#include "tests/support/errors.h"
 
 namespace veritane::simulator {
 namespace {

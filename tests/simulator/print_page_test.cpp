@@ -1,12 +1,13 @@
 // Where the parts of a printed page lie, on a surface that remembers what was drawn on it.
+#include "simulator/print_page.h"
+
+#include "simulator/print_plot.h"
+#include "tests/support/recording_surface.h"
+
 #include <gmock/gmock.h>
 
 #include <algorithm>
 #include <cmath>
-
-#include "simulator/print_page.h"
-#include "simulator/print_plot.h"
-#include "tests/support/recording_surface.h"
 
 namespace veritane::simulator {
 namespace {

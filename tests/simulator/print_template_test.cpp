@@ -1,13 +1,14 @@
 // Reading print templates, whole and damaged, and filling in their fields.
-#include <gmock/gmock.h>
-
-#include <limits>
+#include "simulator/print_template.h"
 
 #include "simulator/print_fields.h"
-#include "simulator/print_template.h"
 #include "simulator/spectrum_file.h"
 #include "tests/support/errors.h"
 #include "tests/support/test_data.h"
+
+#include <gmock/gmock.h>
+
+#include <limits>
 
 namespace veritane::simulator {
 namespace {

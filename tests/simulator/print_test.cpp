@@ -1,6 +1,4 @@
 // Printing through templates, in the order in which the program asks for it.
-#include <gmock/gmock.h>
-
 #include "platform/pdf/pdf_document.h"
 #include "platform/system/system_machine.h"
 #include "simulator/simulated_spectrometer.h"
@@ -11,6 +9,8 @@
 #include "tests/support/pdf_text.h"
 #include "tests/support/temporary_folder.h"
 #include "tests/support/test_data.h"
+
+#include <gmock/gmock.h>
 
 namespace veritane::simulator {
 namespace {

@@ -1,11 +1,11 @@
 // A measuring device that delivers what a test has put into its queue, and keeps what it was asked.
 #pragma once
 
+#include "simulator/measuring.h"
+
 #include <deque>
 #include <utility>
 #include <vector>
-
-#include "simulator/measuring.h"
 
 namespace veritane::simulator {
 

@@ -1,12 +1,12 @@
 // The sample that a print shows.
-#include <gmock/gmock.h>
-
 #include "platform/system/system_clock.h"
 #include "simulator/simulated_spectrometer.h"
 #include "tests/simulator/queued_device.h"
 #include "tests/support/automation_connection.h"
 #include "tests/support/errors.h"
 #include "tests/support/memory_file_system.h"
+
+#include <gmock/gmock.h>
 
 namespace veritane::simulator {
 namespace {

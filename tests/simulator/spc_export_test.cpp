@@ -1,12 +1,5 @@
 // The "Export" operation: what stands in the SPC file, read by a reader of this test's own, and what happens
 // to the file and the document when it fails.
-#include <gmock/gmock.h>
-
-#include <cmath>
-#include <cstring>
-#include <filesystem>
-#include <fstream>
-
 #include "platform/system/disk_file_system.h"
 #include "plslibrary/spc_reader.h"
 #include "simulator/simulated_spectrometer.h"
@@ -17,6 +10,13 @@
 #include "tests/support/memory_file_system.h"
 #include "tests/support/standing_clock.h"
 #include "tests/support/temporary_folder.h"
+
+#include <gmock/gmock.h>
+
+#include <cmath>
+#include <cstring>
+#include <filesystem>
+#include <fstream>
 
 namespace veritane::simulator {
 namespace {

@@ -1,4 +1,9 @@
 // What is written as a spectrum file reads back to the last bit, and other programs could read it too.
+#include "simulator/spectrum_file.h"
+
+#include "simulator/jcamp_writer.h"
+#include "tests/support/errors.h"
+
 #include <gmock/gmock.h>
 
 #include <bit>
@@ -6,10 +11,6 @@
 #include <cstdint>
 #include <limits>
 #include <random>
-
-#include "simulator/jcamp_writer.h"
-#include "simulator/spectrum_file.h"
-#include "tests/support/errors.h"
 
 namespace veritane::simulator {
 namespace {

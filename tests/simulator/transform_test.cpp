@@ -1,11 +1,11 @@
 // The transform against its definition.
 #include "simulator/transform.h"
 
+#include "tests/identification/reference.h"
+
 #include <gtest/gtest.h>
 
 #include <cmath>
-
-#include "tests/identification/reference.h"
 
 namespace veritane::simulator {
 namespace {

@@ -3,14 +3,14 @@
 // set.
 #pragma once
 
+#include "acquisition/automation_client.h"
+#include "simulator/automation_server.h"
+
 #include <cstdlib>
 #include <memory>
 #include <optional>
 #include <string>
 #include <utility>
-
-#include "acquisition/automation_client.h"
-#include "simulator/automation_server.h"
 
 namespace veritane::tests {
 

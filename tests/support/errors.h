@@ -1,12 +1,12 @@
 // Expecting a run-time error by its number or its text.
 #pragma once
 
+#include "platform/run_time_error.h"
+
 #include <gtest/gtest.h>
 
 #include <optional>
 #include <string>
-
-#include "platform/run_time_error.h"
 
 namespace veritane::tests {
 

@@ -1,15 +1,15 @@
 // Files in memory, with faults on demand. Every folder is there; folders cannot be listed or made.
 #pragma once
 
+#include "platform/file_system.h"
+#include "platform/run_time_error.h"
+#include "platform/windows_path.h"
+
 #include <map>
 #include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
-
-#include "platform/file_system.h"
-#include "platform/run_time_error.h"
-#include "platform/windows_path.h"
 
 namespace veritane::tests {
 

@@ -1,11 +1,11 @@
 // A screen that notes what it is shown and answers every message box with OK.
 #pragma once
 
+#include "platform/desktop.h"
+
 #include <optional>
 #include <string>
 #include <vector>
-
-#include "platform/desktop.h"
 
 namespace veritane::tests {
 

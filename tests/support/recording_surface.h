@@ -1,13 +1,13 @@
 // A surface that remembers what was drawn on it.
 #pragma once
 
+#include "platform/drawing_context.h"
+#include "platform/utf8.h"
+
 #include <algorithm>
 #include <span>
 #include <string>
 #include <vector>
-
-#include "platform/drawing_context.h"
-#include "platform/utf8.h"
 
 namespace veritane::tests {
 

@@ -13,15 +13,16 @@
 //   EXPECT_EQ(run.Finish(), 0);
 #pragma once
 
+#include "platform/desktop.h"
+#include "platform/scripted/scripted_interface.h"
+
+#include <nlohmann/json.hpp>
+
 #include <deque>
 #include <functional>
-#include <nlohmann/json.hpp>
 #include <string>
 #include <variant>
 #include <vector>
-
-#include "platform/desktop.h"
-#include "platform/scripted/scripted_interface.h"
 
 namespace veritane::platform {
 

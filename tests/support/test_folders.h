@@ -1,9 +1,9 @@
 // The system's folders, all below a test's own data root.
 #pragma once
 
-#include <string>
-
 #include "platform/machine.h"
+
+#include <string>
 
 namespace veritane::tests {
 

@@ -1,4 +1,7 @@
 // Printing and the screen copy in the real window.
+#include "tests/support/pdf_text.h"
+#include "tests/window/program_window_test.h"
+
 #include <gmock/gmock.h>
 #include <wx/bitmap.h>
 #include <wx/clipbrd.h>
@@ -6,9 +9,6 @@
 #include <wx/image.h>
 
 #include <set>
-
-#include "tests/support/pdf_text.h"
-#include "tests/window/program_window_test.h"
 
 namespace veritane::platform {
 namespace {

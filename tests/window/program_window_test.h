@@ -1,10 +1,6 @@
 // The whole program in its real window, on a data folder of its own, played by a real mouse and real keys.
 #pragma once
 
-#include <cstdlib>
-#include <filesystem>
-#include <string>
-
 #include "apps/simulated_bench.h"
 #include "apps/veritane_setup/data_layout.h"
 #include "platform/pdf/pdf_printer.h"
@@ -12,6 +8,10 @@
 #include "tests/support/temporary_folder.h"
 #include "tests/support/test_folders.h"
 #include "tests/window/window_test.h"
+
+#include <cstdlib>
+#include <filesystem>
+#include <string>
 
 namespace veritane::platform {
 

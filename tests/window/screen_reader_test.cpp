@@ -1,9 +1,8 @@
 // What a screen reader finds: the toolkit's accessibility tree of every screen.
-#include <gtk/gtk.h>
+#include "tests/window/program_window_test.h"
 
 #include <gmock/gmock.h>
-
-#include "tests/window/program_window_test.h"
+#include <gtk/gtk.h>
 
 namespace veritane::platform {
 namespace {

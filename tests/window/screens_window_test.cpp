@@ -1,7 +1,7 @@
 // The screens of the program in the smallest window that it allows.
-#include <wx/toplevel.h>
-
 #include "tests/window/program_window_test.h"
+
+#include <wx/toplevel.h>
 
 namespace veritane::platform {
 namespace {

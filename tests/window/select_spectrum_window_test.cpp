@@ -1,8 +1,8 @@
 // Choosing a spectrum of a file with real keys and a real mouse.
-#include <wx/listbox.h>
-
 #include "review/frm_select_spectrum.h"
 #include "tests/window/window_test.h"
+
+#include <wx/listbox.h>
 
 namespace veritane::platform {
 namespace {

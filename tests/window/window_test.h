@@ -2,6 +2,11 @@
 // arrive.
 #pragma once
 
+#include "platform/desktop.h"
+#include "platform/form.h"
+#include "platform/wx/wx_user_interface.h"
+
+#include <gtest/gtest.h>
 #include <wx/app.h>
 #include <wx/dialog.h>
 #include <wx/evtloop.h>
@@ -13,12 +18,6 @@
 #include <functional>
 #include <string>
 #include <utility>
-
-#include <gtest/gtest.h>
-
-#include "platform/desktop.h"
-#include "platform/form.h"
-#include "platform/wx/wx_user_interface.h"
 
 namespace veritane::platform {
 

@@ -1,4 +1,10 @@
 // Real keys and a real mouse on drawn controls: typing, options, lists, boxes, dialogs.
+#include "platform/controls.h"
+#include "platform/run_time_error.h"
+#include "platform/wx/file_filter.h"
+#include "tests/window/window_test.h"
+
+#include <gmock/gmock.h>
 #include <wx/choice.h>
 #include <wx/clipbrd.h>
 #include <wx/combobox.h>
@@ -6,13 +12,6 @@
 #include <wx/radiobut.h>
 #include <wx/textctrl.h>
 #include <wx/toplevel.h>
-
-#include <gmock/gmock.h>
-
-#include "platform/controls.h"
-#include "platform/run_time_error.h"
-#include "platform/wx/file_filter.h"
-#include "tests/window/window_test.h"
 
 namespace veritane::platform {
 namespace {

@@ -1,9 +1,9 @@
 // Real keys and a real mouse on the main window's tabs, grid, panels and chart.
-#include <wx/grid.h>
-#include <wx/notebook.h>
-
 #include "shell/main_controls.h"
 #include "tests/window/window_test.h"
+
+#include <wx/grid.h>
+#include <wx/notebook.h>
 
 namespace veritane::platform {
 namespace {

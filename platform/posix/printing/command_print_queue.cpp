@@ -1,6 +1,9 @@
 // Running lpstat and lp.
 #include "platform/posix/printing/command_print_queue.h"
 
+#include "platform/run_time_error.h"
+#include "platform/texts.h"
+
 #include <spawn.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -11,9 +14,6 @@
 #include <optional>
 #include <string_view>
 #include <vector>
-
-#include "platform/run_time_error.h"
-#include "platform/texts.h"
 
 namespace veritane::platform {
 

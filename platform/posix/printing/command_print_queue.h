@@ -1,9 +1,9 @@
 // The system's print queue, through the commands that every UNIX print system has: lpstat and lp.
 #pragma once
 
-#include <string>
-
 #include "platform/printer.h"
+
+#include <string>
 
 namespace veritane::platform {
 

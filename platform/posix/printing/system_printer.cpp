@@ -1,10 +1,10 @@
 // Printing on a POSIX system: PDF for the print queue.
 #include "platform/pdf/system_printer.h"
 
-#include <utility>
-
 #include "platform/pdf/pdf_printer.h"
 #include "platform/posix/printing/command_print_queue.h"
+
+#include <utility>
 
 namespace veritane::platform {
 

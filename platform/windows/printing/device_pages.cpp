@@ -1,13 +1,13 @@
 // Drawing pages through cairo's surface for printers.
 #include "platform/windows/printing/device_pages.h"
 
-#include <cairo-win32.h>
-
-#include <memory>
-
 #include "platform/part_of_surface.h"
 #include "platform/pdf/cairo_drawing.h"
 #include "platform/run_time_error.h"
+
+#include <cairo-win32.h>
+
+#include <memory>
 
 namespace veritane::platform {
 

@@ -1,11 +1,11 @@
 // Pages drawn on a device of Windows: a printer, or a metafile.
 #pragma once
 
+#include "platform/printer.h"
+
 #include <windows.h>
 
 #include <functional>
-
-#include "platform/printer.h"
 
 namespace veritane::platform {
 

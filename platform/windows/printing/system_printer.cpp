@@ -1,10 +1,10 @@
 // Printing on Windows: its default printer, or PDF files where there is none.
 #include "platform/pdf/system_printer.h"
 
-#include <utility>
-
 #include "platform/pdf/pdf_printer.h"
 #include "platform/windows/printing/windows_printer.h"
+
+#include <utility>
 
 namespace veritane::platform {
 

@@ -3,15 +3,15 @@
 
 #include <windows.h>
 // After windows.h, which it needs.
-#include <winspool.h>
-
-#include <cstddef>
-#include <vector>
-
 #include "platform/run_time_error.h"
 #include "platform/texts.h"
 #include "platform/windows/printing/device_pages.h"
 #include "platform/windows/system_text.h"
+
+#include <winspool.h>
+
+#include <cstddef>
+#include <vector>
 
 namespace veritane::platform {
 

@@ -1,10 +1,10 @@
 // The default printer of Windows.
 #pragma once
 
+#include "platform/printer.h"
+
 #include <optional>
 #include <string>
-
-#include "platform/printer.h"
 
 namespace veritane::platform {
 

@@ -1,14 +1,14 @@
 // The print queue's commands, played by small scripts.
 #include "platform/posix/printing/command_print_queue.h"
 
+#include "tests/support/errors.h"
+#include "tests/support/temporary_folder.h"
+#include "tests/support/test_data.h"
+
 #include <gmock/gmock.h>
 
 #include <filesystem>
 #include <fstream>
-
-#include "tests/support/errors.h"
-#include "tests/support/temporary_folder.h"
-#include "tests/support/test_data.h"
 
 namespace veritane::platform {
 namespace {

@@ -1,5 +1,9 @@
 // What a POSIX system's files are asked for beyond the rules that hold everywhere: mapped paths, a full disk,
 // death.
+#include "platform/system/system_machine.h"
+#include "tests/support/errors.h"
+#include "tests/support/temporary_folder.h"
+
 #include <gtest/gtest.h>
 #include <sys/resource.h>
 #include <sys/wait.h>
@@ -7,10 +11,6 @@
 
 #include <csignal>
 #include <cstdlib>
-
-#include "platform/system/system_machine.h"
-#include "tests/support/errors.h"
-#include "tests/support/temporary_folder.h"
 
 namespace veritane::platform {
 namespace {

@@ -1,4 +1,8 @@
 // Folders and files of a POSIX system that are not as they should be, and two programs at work in one folder.
+#include "platform/system/system_machine.h"
+#include "tests/support/errors.h"
+#include "tests/support/temporary_folder.h"
+
 #include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
@@ -7,10 +11,6 @@
 
 #include <csignal>
 #include <fstream>
-
-#include "platform/system/system_machine.h"
-#include "tests/support/errors.h"
-#include "tests/support/temporary_folder.h"
 
 namespace veritane::platform {
 namespace {

@@ -1,14 +1,14 @@
 // Pages on a device of Windows: drawn on a metafile, as a printer would be.
 #include "platform/windows/printing/device_pages.h"
 
+#include "platform/pdf_page.h"
+#include "platform/run_time_error.h"
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <string>
 #include <vector>
-
-#include "platform/pdf_page.h"
-#include "platform/run_time_error.h"
 
 namespace veritane::platform {
 namespace {

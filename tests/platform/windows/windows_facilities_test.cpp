@@ -1,15 +1,15 @@
 // The registry, the names and the regional formats of Windows itself.
+#include "platform/system/system_machine.h"
+#include "tests/support/errors.h"
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <string>
-
-#include "platform/system/system_machine.h"
-#include "tests/support/errors.h"
 // Behind the program's own headers, whose names its macros would change.
-#include <windows.h>
-
 #include "platform/windows/windows_time.h"
+
+#include <windows.h>
 
 namespace veritane::platform {
 namespace {

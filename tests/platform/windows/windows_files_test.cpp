@@ -1,15 +1,15 @@
 // What files on Windows are asked for beyond the rules that hold everywhere: death in mid-rewrite, files that
 // others hold open, paths of the system's own.
-#include <gtest/gtest.h>
-
-#include <cstdlib>
-#include <string>
-
 #include "platform/system/native_file.h"
 #include "platform/system/native_path.h"
 #include "platform/system/system_machine.h"
 #include "tests/support/errors.h"
 #include "tests/support/temporary_folder.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <string>
 // Behind the program's own headers, whose names its macros would change.
 #include <windows.h>
 

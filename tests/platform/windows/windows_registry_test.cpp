@@ -1,11 +1,11 @@
 // The registry's two views, and what registering a server leaves in it.
+#include "platform/automation_server.h"
+#include "platform/system/system_machine.h"
+
 #include <gtest/gtest.h>
 
 #include <array>
 #include <string>
-
-#include "platform/automation_server.h"
-#include "platform/system/system_machine.h"
 // Behind the program's own headers, whose names its macros would change.
 #include <windows.h>
 

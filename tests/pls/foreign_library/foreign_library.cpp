@@ -1,12 +1,12 @@
 // A prediction library of the tests' own. It has nothing to predict with; it tells what it was called with,
 // and misbehaves when asked to.
+#include "pls/pls_library.h"
+
 #include <cstring>
 #include <fstream>
 #include <new>
 #include <stdexcept>
 #include <string>
-
-#include "pls/pls_library.h"
 
 namespace {
 
