@@ -11,7 +11,6 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <utility>
 
 namespace veritane::platform {
 
@@ -182,15 +181,9 @@ void NativeFile::Flush() {
   if (::fsync(static_cast<int>(handle_)) != 0) RaiseSystemError(errno, path_);
 }
 
-void NativeFile::Close() {
-  const int descriptor = static_cast<int>(std::exchange(handle_, -1));
-  if (::close(descriptor) != 0) RaiseSystemError(errno, path_);
-}
-
 // Moved while it is open and locked: nobody can take it for what a dead writer left.
-void NativeFile::MoveOverAndClose(const fs::path& target) {
+void NativeFile::TakePlaceOf(const fs::path& target) {
   MoveOver(native_, target, path_);
-  Close();
 }
 
 FileKind KindOf(const fs::path& native, const std::string& path) {

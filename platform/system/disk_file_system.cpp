@@ -31,7 +31,7 @@ public:
   NativeFile& File() { return file_; }
 
   void TakeItsPlace() {
-    file_.MoveOverAndClose(target_);
+    file_.TakePlaceOf(target_);
     is_in_place_ = true;
   }
 

@@ -44,13 +44,10 @@ public:
   void Stamp(std::chrono::system_clock::time_point moment);
   // Returns when the bytes are on the disk.
   void Flush();
-  // Gives the file, which has been flushed, the place of `target` and closes it.
-  void MoveOverAndClose(const std::filesystem::path& target);
+  // Gives the file, which has been flushed, the place of `target`. It is of no use afterwards.
+  void TakePlaceOf(const std::filesystem::path& target);
 
 private:
-  // Closes now, so that a failure is seen.
-  void Close();
-
   // A descriptor of a POSIX system, a handle of Windows.
   using Handle = std::intptr_t;
   NativeFile(Handle handle, std::filesystem::path native, std::string path);

@@ -214,14 +214,9 @@ void NativeFile::Flush() {
   if (!::FlushFileBuffers(HandleOf(handle_))) RaiseSystemError(::GetLastError(), path_);
 }
 
-void NativeFile::Close() {
-  const HANDLE handle = HandleOf(std::exchange(handle_, -1));
-  if (!::CloseHandle(handle)) RaiseSystemError(::GetLastError(), path_);
-}
-
-// Not every file system lets an open file be moved.
-void NativeFile::MoveOverAndClose(const fs::path& target) {
-  Close();
+// Closed first: not every file system lets an open file be moved.
+void NativeFile::TakePlaceOf(const fs::path& target) {
+  if (!::CloseHandle(HandleOf(std::exchange(handle_, -1)))) RaiseSystemError(::GetLastError(), path_);
   MoveOver(native_, target, path_);
 }
 

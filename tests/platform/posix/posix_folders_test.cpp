@@ -65,7 +65,7 @@ TEST_F(PosixFoldersTest, ClearingUpTakesNothingFromAProgramThatWrites) {
     for (;;) files_.ClearUnfinished("C:\\Data");
   }
   int failures = 0;
-  for (int i = 0; i < 400; ++i)
+  for (int i = 0; i < 200; ++i)
     failures += ErrorOf([&] { files_.WriteBytes("C:\\Data\\table", "x"); }) == 0 ? 0 : 1;
   ::kill(clearer, SIGKILL);
   ::waitpid(clearer, nullptr, 0);
