@@ -26,9 +26,8 @@ std::string ProductKey(const platform::FileSystem& files, const state::DataFolde
   const int start = reader.ReadInt16();
   const int length = reader.ReadInt16();
   if (start < 1 || length < 0) throw platform::RunTimeError(platform::ErrorNumber::kInvalidCall, path);
-  std::string key =
-      platform::Characters(product_id, static_cast<std::size_t>(start - 1), static_cast<std::size_t>(length));
-  return key.empty() ? product_id : key;
+  return platform::Characters(product_id, static_cast<std::size_t>(start - 1),
+                              static_cast<std::size_t>(length));
 }
 
 void DefineProductKey(const platform::Machine& machine, const state::FolderSet& set,

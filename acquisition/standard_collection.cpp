@@ -21,6 +21,13 @@ using state::TextId;
 
 namespace {
 
+// A Product ID that holds no key by the parser is its own key.
+std::string KeyOf(const platform::FileSystem& files, const state::DataFolders& folders,
+                  const std::string& product_id) {
+  const std::string key = ProductKey(files, folders, product_id);
+  return key.empty() ? product_id : key;
+}
+
 // The numbered file of another product: deleting a product of that name would delete its spectra.
 bool IsNumberedFile(const platform::FileSystem& files, const state::ProgramState& state,
                     const std::string& key) {
@@ -37,7 +44,7 @@ bool IsNumberedFile(const platform::FileSystem& files, const state::ProgramState
 
 std::string WhyNotAProduct(const platform::FileSystem& files, const state::ProgramState& state,
                            const std::string& product_id) {
-  const std::string key = ProductKey(files, state.folders, product_id);
+  const std::string key = KeyOf(files, state.folders, product_id);
   if (const std::string why = platform::WhyNotAFileName(key); !why.empty()) {
     return Text(TextId::kCannotNameAProduct, {key, why});
   }
@@ -84,7 +91,7 @@ std::string StandardCollection::StandardPath() const {
 }
 
 void StandardCollection::NoteProduct() {
-  state_.prod = ProductKey(bench_.machine.files, state_.folders, frm_collect_std_.txtProductID.Text());
+  state_.prod = KeyOf(bench_.machine.files, state_.folders, frm_collect_std_.txtProductID.Text());
   state_.algorithm = frm_collect_std_.cmbAlg.Text();
   state_.calfilename =
       NeedsAdditionalFile(state_.algorithm) ? frm_collect_std_.txtCalFileName.Text() : std::string();

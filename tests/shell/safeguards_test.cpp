@@ -170,17 +170,6 @@ TEST_F(SafeguardsTest, AFileWhoseNameWouldBreakTheTableIsNotTaken) {
   EXPECT_EQ(run_.Get("frmVeritane.grid")["rows"][2][3], "");
 }
 
-TEST_F(SafeguardsTest, AProductWhoseIdHoldsNoPartIsMeasuredUnderItsWholeId) {
-  WriteProducts({"LOT,Disc,Euclidean,"});
-  Write(Standard("ProductID.par"), " 5 \r\n 2 \r\n");
-  WriteSpectrum(Standard("LOT.bsp"), 100, 4, Bands(301));
-  WriteSpectrum(Standard("aspirin.bsp"), 100, 4, Bands(301));
-  WriteSpectrum(Standard("back.bsp"), 100, 4, Bands(301));
-  Play({"start"});
-  RunDemonstration("LOT");
-  EXPECT_EQ(Verdict(), "PASS");
-}
-
 TEST_F(SafeguardsTest, WhatWasNotComparedIsNoPassEvenAtAThresholdOfZeroAndBehindAPass) {
   WriteSettings(true, "0");
   WriteProducts({"EU,Disc,Euclidean,", "PS,Disc,Mark Peaks," + Data("peaks.txt")});
