@@ -24,7 +24,7 @@ std::optional<std::string> ChooseAdditionalFile(platform::Desktop& desktop, cons
                                                 const std::string& algorithm) {
   if (!NeedsAdditionalFile(algorithm)) return std::nullopt;
   const bool is_calibration = algorithm == state::kPls;
-  const auto path = desktop.ChooseFile(
+  auto path = desktop.ChooseFile(
       {.title = Text(is_calibration ? TextId::kSelectCalibrationFile : TextId::kSelectPeakFile),
        .filter = is_calibration ? kCalibrationFilter : kPeakFilter,
        .folder = folders.stdsDir});

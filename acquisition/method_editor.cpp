@@ -46,7 +46,7 @@ void MethodEditor::AddMethod() {
 }
 
 std::string MethodEditor::WhyNotAMethod(const std::string& short_name) const {
-  if (const std::string why = platform::WhyNotAFileName(short_name); !why.empty()) return why;
+  if (std::string why = platform::WhyNotAFileName(short_name); !why.empty()) return why;
   // Its background would be written over the Standard of that product.
   const std::string table = ProductTablePath(state_);
   const std::string background = platform::LeafWithoutExtension(BackgroundPath(state_.folders, short_name));

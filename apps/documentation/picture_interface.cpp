@@ -16,7 +16,6 @@
 namespace veritane::documentation {
 
 using platform::MessageAnswer;
-using platform::WxUserInterface;
 
 namespace {
 
