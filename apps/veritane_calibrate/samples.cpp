@@ -10,7 +10,6 @@
 #include "simulator/spectrum_file.h"
 
 #include <algorithm>
-#include <cctype>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -29,8 +28,8 @@ std::string Extension(const std::string& path) {
 // Letters alone, in upper case: units are written "1/CM", "cm-1", "Nanometers".
 std::string Letters(const std::string& text) {
   std::string letters;
-  for (const unsigned char character : text) {
-    if (std::isalpha(character) != 0) letters.push_back(static_cast<char>(std::toupper(character)));
+  for (const char character : platform::UpperCase(text)) {
+    if (character >= 'A' && character <= 'Z') letters.push_back(character);
   }
   return letters;
 }
