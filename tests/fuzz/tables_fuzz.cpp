@@ -41,7 +41,7 @@ void MethodList(std::string_view bytes) {
     Require(short_name.find('\\') == std::string::npos);
   }
   state.methodPaths = paths;
-  acquisition::SaveMethodList(files, state);
+  acquisition::SaveMethodList(files, state, state.methodPaths);
   Require(platform::ReadCountedLines(files.ReadBytes(acquisition::MethodListPath(state)), "") == paths);
 }
 
