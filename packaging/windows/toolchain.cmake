@@ -7,10 +7,10 @@ set(veritane_host ${veritane_architecture}-w64-mingw32)
 set(CMAKE_C_COMPILER ${veritane_host}-gcc-posix)
 set(CMAKE_CXX_COMPILER ${veritane_host}-g++-posix)
 set(CMAKE_RC_COMPILER ${veritane_host}-windres)
-# A program needs the system's DLLs and none of the compiler's.
-set(CMAKE_EXE_LINKER_FLAGS_INIT "-static")
-set(CMAKE_SHARED_LINKER_FLAGS_INIT "-static")
-set(CMAKE_MODULE_LINKER_FLAGS_INIT "-static")
+# A program needs the system's DLLs, none of the compiler's, and no symbols.
+set(CMAKE_EXE_LINKER_FLAGS_INIT "-static -s")
+set(CMAKE_SHARED_LINKER_FLAGS_INIT "-static -s")
+set(CMAKE_MODULE_LINKER_FLAGS_INIT "-static -s")
 
 # What packaging/windows/build_libraries has made. This system's own headers and libraries are never looked at.
 file(GLOB veritane_links ${CMAKE_CURRENT_LIST_DIR}/../../build/windows/libraries-${veritane_architecture}/*)
