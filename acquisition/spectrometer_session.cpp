@@ -34,7 +34,10 @@ state::Ordinates SpectrometerSession::ReadTransform() {
   const auto operation = CurrentDocument->CreateOperation(kUnaryOperation);
   operation->SetOperation(kTransformOperation);
   CurrentDocument->ApplyOperation(*operation);
-  return ReadSpectrum().Data;
+  // A transform has no wavenumbers, so its spacing may be anything.
+  spect = CurrentDocument->GetSpectrum();
+  Data = spect->SpectrumData();
+  return Data->Values();
 }
 
 void SpectrometerSession::Release() {

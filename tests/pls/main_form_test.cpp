@@ -1,6 +1,7 @@
 // The prediction form: its steps in their order, its results, and what it does when a step fails.
 #include "pls/main_form.h"
 
+#include "platform/run_time_error.h"
 #include "platform/system/system_machine.h"
 #include "tests/pls/scripted_library.h"
 #include "tests/support/script_run.h"
@@ -54,6 +55,7 @@ protected:
                 [this](const std::string& path) {
                   EXPECT_FALSE(machine_.files.FileExists(path)) << "the old export is gone first";
                   library_.calls.push_back("export " + path);
+                  if (export_fails_) throw platform::RunTimeError(platform::ErrorNumber::kInvalidCall);
                 },
             .driveApplication = [this] { library_.calls.emplace_back("drive"); },
             .endProgram = [this] { run_.Screen().End(0); }};
@@ -73,6 +75,7 @@ protected:
   platform::SystemMachine machine_{folder_.Path(), "C"};
   state::ProgramState state_;
   ScriptedLibrary library_;
+  bool export_fails_ = false;
   platform::ScriptRun run_;
   BenchForm bench_{run_.Screen()};
   MainForm form_{run_.Screen(), Surroundings()};
@@ -188,6 +191,17 @@ TEST_F(MainFormTest, AFailedPredictionLeavesNoResultOfTheOneBefore) {
   Predict();
   EXPECT_EQ(state_.PLSConstituentCount, 0) << "the prediction before found none";
   EXPECT_TRUE(form_.Succeeded());
+}
+
+TEST_F(MainFormTest, AnExportThatFailsPredictsNoSpectrumOfBefore) {
+  Predict();
+  library_.Calls();
+  machine_.files.WriteBytes("C:\\temp.spc", "of the sample before");
+  export_fails_ = true;
+  EXPECT_THAT(Predict(Okays(1)), ElementsAre("Run-time error 5: Invalid procedure call or argument"));
+  EXPECT_FALSE(form_.Succeeded());
+  EXPECT_THAT(library_.calls, ElementsAre("export c:\\temp.spc"));
+  EXPECT_FALSE(machine_.files.FileExists("C:\\temp.spc"));
 }
 
 TEST_F(MainFormTest, AConcentrationThatIsNoNumberIsNoResult) {

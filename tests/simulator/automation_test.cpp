@@ -1,5 +1,6 @@
 // The contract through automation: what travels, under which names, and what becomes of damage and misuse.
 // The contract's own tests run through automation too (tests/support/automation_connection.h).
+#include "acquisition/spectrometer_session.h"
 #include "platform/number_text.h"
 #include "simulator/simulated_spectrometer.h"
 #include "tests/support/automation_connection.h"
@@ -8,6 +9,7 @@
 
 #include <gmock/gmock.h>
 
+#include <cmath>
 #include <map>
 
 namespace veritane::simulator {
@@ -110,10 +112,12 @@ TEST_F(AutomationClient, AnswersAreTakenInWhateverTypeTheyComeButNothingIsInvent
     server->answers["CollectInto"] = answer;
     EXPECT_EQ(document->CollectInto(*method), 11079);
   }
+  // None of these may pass for 0, which is success.
   for (const AutomationValue& answer :
-       {AutomationValue("11079"), AutomationValue(platform::AutomationArray())}) {
-    server->answers["CollectInto"] = answer;
+       {AutomationValue(), AutomationValue("11079"), AutomationValue(platform::AutomationArray())}) {
+    server->answers["CollectInto"] = server->answers["AutoAlign"] = answer;
     EXPECT_EQ(ErrorOf([&] { document->CollectInto(*method); }), 13);
+    EXPECT_EQ(ErrorOf([&] { document->AutoAlign(*method); }), 13);
   }
   server->answers["CollectInto"] = 3e9;
   EXPECT_EQ(ErrorOf([&] { document->CollectInto(*method); }), 6);
@@ -124,6 +128,21 @@ TEST_F(AutomationClient, AnswersAreTakenInWhateverTypeTheyComeButNothingIsInvent
   server->answers["Values"] = 1.0;
   const auto data = document->GetSpectrumAt(1)->SpectrumData();
   EXPECT_EQ(ErrorOf([&] { data->Values(); }), 13);
+}
+
+TEST_F(AutomationClient, ASpectrumWithoutASpacingIsRefusedAndATransformNeedsNone) {
+  acquisition::SpectrometerSession session;
+  session.SpectrometerApp = std::move(app);
+  session.Open("a.bsp");
+  server->answers["Values"] = platform::AutomationArray{.values = {3.0, 4.0}};
+  server->answers["NumberOfPoints"] = 2.0;
+  for (const double spacing : {0.0, -2.0, std::nan("")}) {
+    server->answers["Spacing"] = spacing;
+    EXPECT_EQ(ErrorOf([&] { session.ReadSpectrum(); }), 5) << spacing;
+    EXPECT_THAT(session.ReadTransform().values, ElementsAre(3, 4));
+  }
+  server->answers["Spacing"] = 2.0;
+  EXPECT_EQ(session.ReadSpectrum().Res, 2);
 }
 
 TEST_F(AutomationClient, TheWaitingBehaviourReachesTheSystem) {

@@ -104,7 +104,7 @@ protected:
     print->CloseDoc();
   }
 
-  std::filesystem::path LastPrint() { return machine.paths.ToNative(printed.back()); }
+  std::filesystem::path LastPrint() { return machine.paths.ToNative(printed.at(printed.size() - 1)); }
 
   static constexpr const char* kSample = "C:\\sample.bsp";
   static constexpr const char* kStandard = "C:\\standard.bsp";
