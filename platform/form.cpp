@@ -69,7 +69,8 @@ void Form::Watch(std::function<void(Change)> watcher) {
 }
 
 void Form::Notify(Change change) {
-  for (const auto& watcher : watchers_) watcher(change);
+  const std::size_t count = watchers_.size();
+  for (std::size_t number = 0; number < count; ++number) watchers_[number](change);
 }
 
 }  // namespace veritane::platform

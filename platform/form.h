@@ -1,6 +1,7 @@
 // A screen: its controls by name, shown or hidden, modal or not.
 #pragma once
 
+#include <deque>
 #include <functional>
 #include <string>
 #include <string_view>
@@ -68,7 +69,8 @@ private:
   bool modal_ = false;
   std::vector<Control*> controls_;
   Control* focused_ = nullptr;
-  std::vector<std::function<void(Change)>> watchers_;
+  // One may add another while it is called; that one is not called for the same change.
+  std::deque<std::function<void(Change)>> watchers_;
 };
 
 }  // namespace veritane::platform

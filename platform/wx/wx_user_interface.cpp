@@ -25,11 +25,24 @@ namespace veritane::platform {
 WxUserInterface::WxUserInterface(PathMapping paths) : paths_(std::move(paths)) {}
 
 WxUserInterface::~WxUserInterface() {
+  alive_.reset();
   // Dialogs go before the window that they lie over.
   while (!windows_.empty()) windows_.pop_back();
 }
 
 void WxUserInterface::Attach(Form& form) {
+  if (windows_.empty() || form.Shown()) {
+    MakeWindow(form);
+    return;
+  }
+  form.Watch([weak = std::weak_ptr(alive_), &form](Form::Change change) {
+    const auto alive = weak.lock();
+    if (alive && change == Form::Change::kShown && (*alive)->WindowOf(form) == nullptr)
+      (*alive)->MakeWindow(form);
+  });
+}
+
+void WxUserInterface::MakeWindow(Form& form) {
   windows_.push_back(std::make_unique<FormWindow>(form, gate_, MainWindow()));
 }
 

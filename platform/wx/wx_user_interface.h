@@ -29,6 +29,7 @@ public:
   explicit WxUserInterface(PathMapping paths);
   ~WxUserInterface() override;
 
+  // Dialogs become windows when they are shown first, so that the program starts without them.
   void Attach(Form& form) override;
   void RunModal(Form& form) override;
   MessageAnswer ShowMessage(const Message& message) override;
@@ -56,6 +57,8 @@ private:
   wxWindow* FrontWindow() const;
   FormWindow* WindowOf(const Form& form) const;
 
+  void MakeWindow(Form& form);
+
   PathMapping paths_;
   ActionGate gate_;
   std::vector<std::unique_ptr<FormWindow>> windows_;
@@ -63,6 +66,8 @@ private:
   bool is_hourglass_ = false;
   bool ended_ = false;
   int exit_status_ = 0;
+  // The forms may outlive this; their watchers ask this whether it is still there.
+  std::shared_ptr<WxUserInterface*> alive_ = std::make_shared<WxUserInterface*>(this);
 };
 
 // Starts wxWidgets, calls `start`, serves the user until the program ends, and returns the exit status.
