@@ -28,12 +28,15 @@ Ordinates BackgroundUnder(const WavenumberGrid& grid, const StoredSpectrum& back
   return {grid.lower, std::vector<double>(begin, begin + grid.points)};
 }
 
-// True for energies that something can be measured against.
-bool HoldsEnergy(const Ordinates& background) {
+// Why nothing can be measured against these energies; empty when it can.
+std::string UnfitnessOf(const Ordinates& background) {
+  if (background.Empty()) return "has another spacing or range than";
   const bool finite = std::all_of(background.values.begin(), background.values.end(),
                                   [](double energy) { return std::isfinite(energy); });
-  return finite && std::any_of(background.values.begin(), background.values.end(),
-                               [](double energy) { return energy > 0; });
+  if (!finite) return "holds what is no number at the points of";
+  const bool has_energy = std::any_of(background.values.begin(), background.values.end(),
+                                      [](double energy) { return energy > 0; });
+  return has_energy ? "" : "holds no energy at the points of";
 }
 
 std::vector<NamedValue> ParametersOf(const CollectMethodSettings& method) {
@@ -99,9 +102,9 @@ Measurement SimulatedInstrument::Measure(const CollectRequest& request) {
   if (!request.backgroundName.empty()) {
     if (request.background == nullptr) throw Fault{kBackgroundMissing, request.backgroundFault};
     background = BackgroundUnder(grid, *request.background);
-    if (!HoldsEnergy(background)) {
-      throw Fault{kBackgroundUnfit,
-                  request.backgroundName + " holds no energy at the points of " + request.methodPath};
+    const std::string unfitness = UnfitnessOf(background);
+    if (!unfitness.empty()) {
+      throw Fault{kBackgroundUnfit, request.backgroundName + " " + unfitness + " " + request.methodPath};
     }
   }
   const std::vector<SamplePart> sample = CheckedSample(compartment);

@@ -14,8 +14,6 @@
 #include "simulator/jcamp_writer.h"
 #include "simulator/stored_spectrum.h"
 
-#include <cstdio>
-
 namespace veritane::setup {
 
 namespace {
@@ -148,6 +146,13 @@ void CreateFolders(platform::FileSystem& files, const std::string& folder) {
   files.CreateFolder(folder);
 }
 
+// Empty where there is no such file.
+std::string FirstLineOf(const platform::FileSystem& files, const std::string& path) {
+  if (!files.FileExists(path)) return "";
+  const std::string bytes = files.ReadBytes(path);
+  return bytes.substr(0, bytes.find_first_of("\r\n"));
+}
+
 }  // namespace
 
 std::vector<std::string> LayOutData(const platform::Machine& machine) {
@@ -160,13 +165,14 @@ std::vector<std::string> LayOutData(const platform::Machine& machine) {
 
 void SetDemonstrationMode(const platform::Machine& machine, bool demonstration) {
   const std::string data_folder = state::DataFolderBelow(machine.folders.CommonApplicationData(true));
+  const std::string path = data_folder + "settings.ini";
+  const std::string first_line = demonstration ? "1" : "0";
+  if (FirstLineOf(machine.files, path) == first_line) return;
   const auto lock = machine.files.TakeFile(data_folder + state::kDataFolderLock);
   if (lock == nullptr) {
     throw ProgramIsRunning("Veritane is running on " + data_folder +
                            " and would undo the change when it ends; end it first");
   }
-  const std::string path = data_folder + "settings.ini";
-  const std::string first_line = demonstration ? "1" : "0";
   if (!machine.files.FileExists(path)) {
     state::Options options;
     options.demoMode = demonstration ? 1 : 0;
@@ -176,7 +182,7 @@ void SetDemonstrationMode(const platform::Machine& machine, bool demonstration) 
   const std::string bytes = machine.files.ReadBytes(path);
   const std::size_t end = bytes.find_first_of("\r\n");
   const std::string rest = end == std::string::npos ? std::string(platform::kLineEnd) : bytes.substr(end);
-  if (bytes.substr(0, end) != first_line) machine.files.WriteBytes(path, first_line + rest);
+  machine.files.WriteBytes(path, first_line + rest);
 }
 
 }  // namespace veritane::setup

@@ -19,8 +19,9 @@ struct ProgramIsRunning : std::runtime_error {
 };
 
 // Makes the first line of settings.ini say whether the program demonstrates (true) or measures. A missing
-// file is made with the usual settings; every other line stays. ProgramIsRunning, with nothing changed, while
-// Veritane is at work on the data folder: it would write its own settings when it ends.
+// file is made with the usual settings; every other line stays. Where there is something to change,
+// ProgramIsRunning with nothing changed while Veritane is at work on the data folder: it would write its own
+// settings when it ends.
 void SetDemonstrationMode(const platform::Machine& machine, bool demonstration);
 
 }  // namespace veritane::setup

@@ -38,6 +38,7 @@ TEST_F(DemonstrationModeTest, BesideTheRunningProgramNothingChanges) {
   ASSERT_NE(program, nullptr);
   EXPECT_THROW(SetDemonstrationMode(machine_.Facilities(), false), ProgramIsRunning);
   EXPECT_EQ(Settings(), before);
+  EXPECT_NO_THROW(SetDemonstrationMode(machine_.Facilities(), true)) << "it is so already";
   program.reset();
   SetDemonstrationMode(machine_.Facilities(), false);
   EXPECT_NE(Settings(), before);
