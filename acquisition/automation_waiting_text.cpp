@@ -21,7 +21,7 @@ struct Former {
 
 platform::ShowWaiting ShowInStatusWindow(platform::Desktop& desktop) {
   return [&desktop, former = std::make_shared<Former>()](const std::string& text) {
-    auto* const status = dynamic_cast<FrmStatus*>(desktop.Find("frmStatus"));
+    auto* const status = dynamic_cast<FrmStatus*>(desktop.Find(std::string(platform::kStatusForm)));
     // During start-up the forms may not be there yet.
     if (status == nullptr) return;
     if (!text.empty()) {

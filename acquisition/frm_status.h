@@ -8,7 +8,7 @@ namespace veritane::acquisition {
 
 class FrmStatus : public platform::Form {
 public:
-  explicit FrmStatus(platform::Desktop& desktop) : Form(desktop, "frmStatus") {}
+  explicit FrmStatus(platform::Desktop& desktop) : Form(desktop, std::string(platform::kStatusForm)) {}
 
   platform::Label lblStatus{*this, "lblStatus"};
 

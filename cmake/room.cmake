@@ -15,7 +15,7 @@ function(veritane_room)
   add_library(${ROOM_NAME} STATIC ${sources} ${headers})
   # Some presets compile several sources as one, to save time. windows.h would bring its names to the others.
   set(sources_by_themselves ${sources})
-  list(FILTER sources_by_themselves INCLUDE REGEX "/platform/windows/[^/]*(/printing/[^/]*)?$")
+  list(FILTER sources_by_themselves INCLUDE REGEX "/platform/windows/(printing/)?[^/]*$")
   set_source_files_properties(${sources_by_themselves} PROPERTIES SKIP_UNITY_BUILD_INCLUSION ON)
   target_include_directories(${ROOM_NAME} PUBLIC ${CMAKE_SOURCE_DIR})
 

@@ -49,7 +49,8 @@ std::optional<std::string> Desktop::ChooseFile(const FileChoice& choice) {
 
 void Desktop::Print(Printout& printout) {
   if (printer_ == nullptr) throw RunTimeError(ErrorNumber::kDeviceError, Text(TextId::kNoPrinter));
-  user_interface_.NotePrint(printout.Kind(), printer_->Print(printout));
+  const auto file = printer_->Print(printout);
+  if (file) user_interface_.NotePrint(printout.Kind(), *file);
 }
 
 void Desktop::SetMousePointer(Pointer pointer) {

@@ -3,6 +3,7 @@
 
 #include "platform/drawing_context.h"
 
+#include <optional>
 #include <string>
 
 namespace veritane::platform {
@@ -35,8 +36,9 @@ public:
   virtual ~Printer() = default;
 
   // Prints the document, and returns the Windows path of the file that it went into, or "" when it went to a
-  // printer. Errors 57 for a printer that does not take it, and the file system's.
-  virtual std::string Print(Printout& printout) = 0;
+  // printer; nothing when the user gave the print up in a box of the printer's. Errors 57 for a printer that
+  // does not take it, and the file system's.
+  virtual std::optional<std::string> Print(Printout& printout) = 0;
 };
 
 // The printers of the system.

@@ -117,10 +117,7 @@ void FrmVeritane::ShowVersionTitle() {
 
 void FrmVeritane::CreateSpectrometerObject() {
   session_.SpectrometerApp = create_spectrometer_app_(acquisition::kSpectrometerProgId);
-  session_.SpectrometerApp->SetWaiting({.busyServerRaisesError = true,
-                                        .pendingText = platform::Text(platform::TextId::kWaitingForServer),
-                                        .pendingMilliseconds = 999999999,
-                                        .busyMilliseconds = 10000});
+  session_.SpectrometerApp->SetWaiting({.pendingText = platform::Text(platform::TextId::kWaitingForServer)});
 }
 
 platform::AppendingFile& FrmVeritane::Log() {

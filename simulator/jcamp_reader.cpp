@@ -1,6 +1,7 @@
 // The blocks of a JCAMP-DX file, one inside or behind the other.
 #include "simulator/jcamp_reader.h"
 
+#include "platform/utf8.h"
 #include "simulator/jcamp_value.h"
 
 #include <algorithm>
@@ -148,8 +149,7 @@ private:
 }  // namespace
 
 JcampFile ReadJcamp(std::string_view text) {
-  constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
-  if (text.starts_with(kByteOrderMark)) text.remove_prefix(kByteOrderMark.size());
+  if (text.starts_with(platform::kByteOrderMark)) text.remove_prefix(platform::kByteOrderMark.size());
   return FileReader(text).Read();
 }
 

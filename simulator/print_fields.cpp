@@ -1,6 +1,7 @@
 // Filling in the fields of a template's texts.
 #include "simulator/print_fields.h"
 
+#include "platform/date_time.h"
 #include "platform/number_text.h"
 #include "platform/windows_path.h"
 
@@ -8,7 +9,6 @@
 #include <array>
 #include <charconv>
 #include <cmath>
-#include <cstdio>
 #include <functional>
 
 namespace veritane::simulator {
@@ -103,7 +103,7 @@ std::string MarkersText(const PrintSubject& subject) {
 }
 
 std::string FieldText(const Field& field, const PrintSubject& subject) {
-  if (field.name == "PRINTED") return MomentText(subject.printed);
+  if (field.name == "PRINTED") return platform::MomentText(subject.printed, '-', ' ', ':');
   if (field.name == "MARKERS") return MarkersText(subject);
   if (field.name.starts_with(kStandardPrefix)) {
     return ParameterText(subject.standard, field.name.substr(kStandardPrefix.size()), field.pattern);
@@ -157,13 +157,6 @@ std::string WavenumberText(double wavenumber) {
 std::string ValueText(const acquisition::ParameterValue& value) {
   if (const auto* const text = std::get_if<std::string>(&value)) return *text;
   return WithoutLastPoint(NumberAs(std::get<double>(value), ""));
-}
-
-std::string MomentText(const platform::DateTime& moment) {
-  char text[80];
-  std::snprintf(text, sizeof text, "%04d-%02d-%02d %02d:%02d:%02d", moment.year, moment.month, moment.day,
-                moment.hour, moment.minute, moment.second);
-  return text;
 }
 
 }  // namespace veritane::simulator

@@ -48,7 +48,4 @@ std::string WavenumberText(double wavenumber);
 // A parameter's value as text: numbers to six significant digits.
 std::string ValueText(const acquisition::ParameterValue& value);
 
-// "2026-11-21 10:59:07"
-std::string MomentText(const platform::DateTime& moment);
-
 }  // namespace veritane::simulator

@@ -30,7 +30,7 @@ PdfPrinter::PdfPrinter(FileSystem& files, const Clock& clock, std::function<std:
                        PrintQueue* queue)
     : files_(files), clock_(clock), folder_(std::move(folder)), queue_(queue) {}
 
-std::string PdfPrinter::Print(Printout& printout) {
+std::optional<std::string> PdfPrinter::Print(Printout& printout) {
   const DateTime now = clock_.LocalNow();
   const std::string pdf = PdfOf(printout, now);
   if (queue_ != nullptr && queue_->HasPrinter()) {

@@ -18,7 +18,7 @@ public:
              PrintQueue* queue = nullptr);
 
   // A file is named by title and time, and never replaces another.
-  std::string Print(Printout& printout) override;
+  std::optional<std::string> Print(Printout& printout) override;
 
 private:
   FileSystem& files_;

@@ -1,11 +1,11 @@
 // Folders and names of Windows.
-#include <windows.h>
-// After windows.h, which it needs.
 #include "platform/system/native_path.h"
 #include "platform/system/registry_file.h"
 #include "platform/system/system_machine.h"
 #include "platform/windows/system_registry.h"
 #include "platform/windows/system_text.h"
+
+#include <windows.h>
 
 #include <shlobj.h>
 

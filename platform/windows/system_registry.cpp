@@ -21,37 +21,40 @@ public:
   OpenKey(const OpenKey&) = delete;
   OpenKey& operator=(const OpenKey&) = delete;
 
-  HKEY Handle() const { return handle_; }
+  // REG_NONE for a value that is not there.
+  DWORD TypeOf(const std::string& value) const {
+    DWORD type = REG_NONE;
+    if (handle_ == nullptr ||
+        ::RegQueryValueExA(handle_, value.c_str(), nullptr, &type, nullptr, nullptr) != ERROR_SUCCESS) {
+      return REG_NONE;
+    }
+    return type;
+  }
+
+  std::optional<std::uint32_t> Dword(const std::string& value) const {
+    if (TypeOf(value) != REG_DWORD) return std::nullopt;
+    DWORD number = 0;
+    DWORD size = sizeof number;
+    if (::RegQueryValueExA(handle_, value.c_str(), nullptr, nullptr, reinterpret_cast<BYTE*>(&number),
+                           &size) != ERROR_SUCCESS) {
+      return std::nullopt;
+    }
+    return number;
+  }
 
 private:
   HKEY handle_ = nullptr;
 };
 
-std::optional<std::uint32_t> DwordIn(const std::string& key, const std::string& value, REGSAM view) {
-  const OpenKey open(key, view);
-  if (open.Handle() == nullptr) return std::nullopt;
-  DWORD type = REG_NONE;
-  if (::RegQueryValueExA(open.Handle(), value.c_str(), nullptr, &type, nullptr, nullptr) != ERROR_SUCCESS ||
-      type != REG_DWORD) {
-    return std::nullopt;
-  }
-  DWORD number = 0;
-  DWORD size = sizeof number;
-  if (::RegQueryValueExA(open.Handle(), value.c_str(), nullptr, nullptr, reinterpret_cast<BYTE*>(&number),
-                         &size) != ERROR_SUCCESS) {
-    return std::nullopt;
-  }
-  return number;
-}
-
 }  // namespace
 
 std::optional<std::uint32_t> WindowsRegistry::ReadDword(const std::string& key,
                                                         const std::string& value) const {
-  if (const auto own = DwordIn(key, value, 0)) return own;
+  const OpenKey own(key, 0);
+  if (own.TypeOf(value) != REG_NONE) return own.Dword(value);
   // Programs of 32 bits, as the spectrometer's are, have keys of their own, which one of 64 bits has to ask
   // for.
-  return DwordIn(key, value, KEY_WOW64_32KEY);
+  return OpenKey(key, KEY_WOW64_32KEY).Dword(value);
 }
 
 }  // namespace veritane::platform

@@ -151,7 +151,7 @@ wxSizer* LayOutInOrder(FormBuilder&, wxWindow*) {
 }  // namespace
 
 LayoutFunction LayoutOf(const std::string& form_name) {
-  static const std::map<std::string, LayoutFunction> kLayouts = {
+  static const std::map<std::string_view, LayoutFunction> kLayouts = {
       {"frmVeritane", LayOutMainWindow},
       {"frmSamp", LayOutSample},
       {"frmPassword", LayOutPassword},
@@ -160,7 +160,7 @@ LayoutFunction LayoutOf(const std::string& form_name) {
       {"frmParse", LayOutParse},
       {"frmPrompts", LayOutPrompts},
       {"frmSelectMethod", LayOutSelectMethod},
-      {"frmStatus", LayOutStatus},
+      {kStatusForm, LayOutStatus},
       {"frmSelectSpectrum", LayOutSelectSpectrum},
       {"frmResults", LayOutResults},
       {"MainForm", LayOutPrediction},

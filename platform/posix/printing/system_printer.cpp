@@ -15,7 +15,7 @@ public:
   QueuePrinter(FileSystem& files, const Clock& clock, std::function<std::string()> folder)
       : printer_(files, clock, std::move(folder), &queue_) {}
 
-  std::string Print(Printout& printout) override { return printer_.Print(printout); }
+  std::optional<std::string> Print(Printout& printout) override { return printer_.Print(printout); }
 
 private:
   CommandPrintQueue queue_;

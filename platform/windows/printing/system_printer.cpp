@@ -15,10 +15,10 @@ public:
   DefaultPrinter(FileSystem& files, const Clock& clock, std::function<std::string()> folder)
       : into_files_(files, clock, std::move(folder)) {}
 
-  std::string Print(Printout& printout) override {
+  std::optional<std::string> Print(Printout& printout) override {
     const auto printer = WindowsPrinter::Default();
     if (!printer) return into_files_.Print(printout);
-    printer->Print(printout);
+    if (!printer->Print(printout)) return std::nullopt;
     return "";
   }
 

@@ -1,12 +1,12 @@
 // Documents for the default printer.
 #include "platform/windows/printing/windows_printer.h"
 
-#include <windows.h>
-// After windows.h, which it needs.
 #include "platform/run_time_error.h"
 #include "platform/texts.h"
 #include "platform/windows/printing/device_pages.h"
 #include "platform/windows/system_text.h"
+
+#include <windows.h>
 
 #include <winspool.h>
 
@@ -73,7 +73,7 @@ std::optional<WindowsPrinter> WindowsPrinter::Default() {
   return WindowsPrinter(name);
 }
 
-void WindowsPrinter::Print(Printout& printout) const {
+bool WindowsPrinter::Print(Printout& printout) const {
   const PrinterDevice device(name_, printout.IsLandscape());
   const std::wstring title = WideText(printout.Title());
   DOCINFOW document{};
@@ -82,7 +82,7 @@ void WindowsPrinter::Print(Printout& printout) const {
   if (::StartDocW(device.Handle(), &document) <= 0) {
     // Whoever closes the driver's own box, as for a file's name, has changed his mind.
     const DWORD code = ::GetLastError();
-    if (code == ERROR_CANCELLED || code == ERROR_PRINT_CANCELLED) return;
+    if (code == ERROR_CANCELLED || code == ERROR_PRINT_CANCELLED) return false;
     RaisePrinterError(name_);
   }
   const auto require = [this](int answer) {
@@ -98,6 +98,7 @@ void WindowsPrinter::Print(Printout& printout) const {
     ::AbortDoc(device.Handle());
     throw;
   }
+  return true;
 }
 
 }  // namespace veritane::platform

@@ -13,9 +13,9 @@ public:
   // Nothing where no default printer is installed.
   static std::optional<WindowsPrinter> Default();
 
-  // Error 57, with the printer's name, when it does not take the document. A print that the user gives up in
-  // a box of the driver is none.
-  void Print(Printout& printout) const;
+  // False when the user gave the print up in a box of the driver. Error 57, with the printer's name, when it
+  // does not take the document.
+  bool Print(Printout& printout) const;
 
 private:
   explicit WindowsPrinter(std::wstring name) : name_(std::move(name)) {}
