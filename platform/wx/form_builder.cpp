@@ -38,7 +38,8 @@ wxWindow* FormBuilder::Keep(std::shared_ptr<ControlView> view, wxWindow* widget)
 wxRadioButton* FormBuilder::NoneOf(wxWindow* parent) {
   wxRadioButton*& none = none_options_[parent];
   if (none == nullptr) {
-    none = new wxRadioButton(parent, wxID_ANY, "", wxDefaultPosition, wxDefaultSize, wxRB_GROUP);
+    // It is never seen, so it need not be measured.
+    none = new wxRadioButton(parent, wxID_ANY, "", wxDefaultPosition, wxSize(1, 1), wxRB_GROUP);
     none->Hide();
     none->SetValue(true);
   }
