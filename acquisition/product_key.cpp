@@ -12,8 +12,8 @@ namespace {
 
 const std::string kDefinition = "ProductID.par";
 
-std::string DefinitionFolder(const platform::Machine& machine, const state::FolderSet& set) {
-  return machine.folders.ProgramFolder() + "\\" + set.stdsFolder;
+std::string DefinitionFolder(const platform::ShellFolders& system, const state::FolderSet& set) {
+  return system.ProgramFolder() + "\\" + set.stdsFolder;
 }
 
 }  // namespace
@@ -30,22 +30,23 @@ std::string ProductKey(const platform::FileSystem& files, const state::DataFolde
                               static_cast<std::size_t>(length));
 }
 
-void DefineProductKey(const platform::Machine& machine, const state::FolderSet& set,
-                      const std::string& example, const std::string& part) {
+void DefineProductKey(platform::FileSystem& files, const platform::ShellFolders& system,
+                      const state::FolderSet& set, const std::string& example, const std::string& part) {
   const std::size_t place = example.find(part);
   if (place == std::string::npos) throw platform::RunTimeError(platform::ErrorNumber::kInvalidCall, part);
-  const std::string folder = DefinitionFolder(machine, set);
-  if (!machine.files.FolderExists(folder)) machine.files.CreateFolder(folder);
+  const std::string folder = DefinitionFolder(system, set);
+  if (!files.FolderExists(folder)) files.CreateFolder(folder);
   const auto number = [](std::size_t count) { return platform::CountText(static_cast<long long>(count)); };
   const std::size_t start = platform::CharacterCount(std::string_view(example).substr(0, place)) + 1;
   std::string text = number(start);
   text.append(platform::kLineEnd).append(number(platform::CharacterCount(part))).append(platform::kLineEnd);
-  machine.files.WriteBytes(folder + "\\" + kDefinition, text);
+  files.WriteBytes(folder + "\\" + kDefinition, text);
 }
 
-void DeleteProductKeyDefinition(const platform::Machine& machine, const state::FolderSet& set) {
-  const std::string path = DefinitionFolder(machine, set) + "\\" + kDefinition;
-  if (machine.files.FileExists(path)) machine.files.DeleteFile(path);
+void DeleteProductKeyDefinition(platform::FileSystem& files, const platform::ShellFolders& system,
+                                const state::FolderSet& set) {
+  const std::string path = DefinitionFolder(system, set) + "\\" + kDefinition;
+  if (files.FileExists(path)) files.DeleteFile(path);
 }
 
 }  // namespace veritane::acquisition

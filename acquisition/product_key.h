@@ -15,13 +15,14 @@ std::string ProductKey(const platform::FileSystem& files, const state::DataFolde
                        const std::string& product_id);
 
 // Defines the part by example: `part` at its first occurrence in `example` (which must hold it). The
-// definition lies below what the machine gives for the program's own folder, in a Standards folder that is
+// definition lies below what `system` gives for the program's own folder, in a Standards folder that is
 // made when it is missing; ProductKey reads the data folder. In an installation the one stands for the other
 // and the definition is in force at once; a site that keeps the two apart copies the file.
-void DefineProductKey(const platform::Machine& machine, const state::FolderSet& set,
-                      const std::string& example, const std::string& part);
+void DefineProductKey(platform::FileSystem& files, const platform::ShellFolders& system,
+                      const state::FolderSet& set, const std::string& example, const std::string& part);
 
 // Takes the definition back; nothing happens when there is none.
-void DeleteProductKeyDefinition(const platform::Machine& machine, const state::FolderSet& set);
+void DeleteProductKeyDefinition(platform::FileSystem& files, const platform::ShellFolders& system,
+                                const state::FolderSet& set);
 
 }  // namespace veritane::acquisition

@@ -20,7 +20,7 @@ void FrmVeritane::ConnectSetUpHandlers() {
   cmdCollectStdNow.OnClick = [this] { cmdCollectStdNow_Click(); };
   cmdParse.OnClick = [this] { cmdParse_Click(); };
   dialogs_.frmParse.Define = [this](const std::string& example, const std::string& part) {
-    acquisition::DefineProductKey(machine_, state_.folderSet, example, part);
+    acquisition::DefineProductKey(machine_.files, machine_.folders, state_.folderSet, example, part);
   };
   dialogs_.frmCollectStd.WhyNotAProduct = [this](const std::string& product_id) {
     return acquisition::WhyNotAProduct(machine_.files, state_, product_id);
@@ -28,7 +28,9 @@ void FrmVeritane::ConnectSetUpHandlers() {
   dialogs_.frmCollectStd.ChooseFile = [this](const std::string& algorithm) {
     return acquisition::ChooseAdditionalFile(Screen(), state_.folders, algorithm);
   };
-  dialogs_.frmParse.Reset = [this] { acquisition::DeleteProductKeyDefinition(machine_, state_.folderSet); };
+  dialogs_.frmParse.Reset = [this] {
+    acquisition::DeleteProductKeyDefinition(machine_.files, machine_.folders, state_.folderSet);
+  };
 }
 
 void FrmVeritane::lstMeths_Click() {

@@ -25,45 +25,33 @@ inline std::string Variable(const char* name) {
 }
 
 // What can befall an operation besides the end of the program, which fits each that changes something.
+inline constexpr unsigned kChanges = 1;
+inline constexpr unsigned kTakesSpace = 2;
+inline constexpr unsigned kNeedsPermission = 4;
+
 struct Operation {
   const char* name;
-  bool changes;
-  bool takesSpace;
-  bool needsPermission;
+  unsigned traits;
+
+  bool Has(unsigned trait) const { return (traits & trait) != 0; }
 };
 
-inline constexpr Operation kCreate{
-    .name = "create", .changes = true, .takesSpace = true, .needsPermission = true};
-inline constexpr Operation kOpenToWrite{
-    .name = "open", .changes = true, .takesSpace = false, .needsPermission = true};
-inline constexpr Operation kWrite{
-    .name = "write", .changes = true, .takesSpace = true, .needsPermission = false};
-inline constexpr Operation kFlush{
-    .name = "flush", .changes = true, .takesSpace = true, .needsPermission = false};
-inline constexpr Operation kFlushFolder{
-    .name = "flush-folder", .changes = true, .takesSpace = false, .needsPermission = false};
-inline constexpr Operation kClose{
-    .name = "close", .changes = true, .takesSpace = true, .needsPermission = false};
-inline constexpr Operation kShorten{
-    .name = "shorten", .changes = true, .takesSpace = false, .needsPermission = false};
-inline constexpr Operation kSetMode{
-    .name = "set-mode", .changes = true, .takesSpace = false, .needsPermission = true};
-inline constexpr Operation kSetTime{
-    .name = "set-time", .changes = true, .takesSpace = false, .needsPermission = true};
-inline constexpr Operation kRename{
-    .name = "rename", .changes = true, .takesSpace = true, .needsPermission = true};
-inline constexpr Operation kDelete{
-    .name = "delete", .changes = true, .takesSpace = false, .needsPermission = true};
-inline constexpr Operation kMakeFolder{
-    .name = "make-folder", .changes = true, .takesSpace = true, .needsPermission = true};
-inline constexpr Operation kOpenToRead{
-    .name = "open-to-read", .changes = false, .takesSpace = false, .needsPermission = true};
-inline constexpr Operation kRead{
-    .name = "read", .changes = false, .takesSpace = false, .needsPermission = false};
-inline constexpr Operation kLook{
-    .name = "look", .changes = false, .takesSpace = false, .needsPermission = true};
-inline constexpr Operation kList{
-    .name = "list", .changes = false, .takesSpace = false, .needsPermission = true};
+inline constexpr Operation kCreate{"create", kChanges | kTakesSpace | kNeedsPermission};
+inline constexpr Operation kOpenToWrite{"open", kChanges | kNeedsPermission};
+inline constexpr Operation kWrite{"write", kChanges | kTakesSpace};
+inline constexpr Operation kFlush{"flush", kChanges | kTakesSpace};
+inline constexpr Operation kFlushFolder{"flush-folder", kChanges};
+inline constexpr Operation kClose{"close", kChanges | kTakesSpace};
+inline constexpr Operation kShorten{"shorten", kChanges};
+inline constexpr Operation kSetMode{"set-mode", kChanges | kNeedsPermission};
+inline constexpr Operation kSetTime{"set-time", kChanges | kNeedsPermission};
+inline constexpr Operation kRename{"rename", kChanges | kTakesSpace | kNeedsPermission};
+inline constexpr Operation kDelete{"delete", kChanges | kNeedsPermission};
+inline constexpr Operation kMakeFolder{"make-folder", kChanges | kTakesSpace | kNeedsPermission};
+inline constexpr Operation kOpenToRead{"open-to-read", kNeedsPermission};
+inline constexpr Operation kRead{"read", 0};
+inline constexpr Operation kLook{"look", kNeedsPermission};
+inline constexpr Operation kList{"list", kNeedsPermission};
 
 enum class Fault {
   kNone,
@@ -78,16 +66,25 @@ enum class Fault {
   kUnplugged
 };
 
+struct NamedFault {
+  const char* name;
+  Fault fault;
+};
+
+inline constexpr NamedFault kFaults[] = {{"kill-before", Fault::kKillBefore},
+                                         {"kill-after", Fault::kKillAfter},
+                                         {"kill-halfway", Fault::kKillHalfway},
+                                         {"full", Fault::kFull},
+                                         {"denied", Fault::kDenied},
+                                         {"broken", Fault::kBroken},
+                                         {"read-only", Fault::kReadOnly},
+                                         {"stale", Fault::kStale},
+                                         {"unplugged", Fault::kUnplugged}};
+
 inline Fault FaultOf(const std::string& kind) {
-  if (kind == "kill-before") return Fault::kKillBefore;
-  if (kind == "kill-after") return Fault::kKillAfter;
-  if (kind == "kill-halfway") return Fault::kKillHalfway;
-  if (kind == "full") return Fault::kFull;
-  if (kind == "denied") return Fault::kDenied;
-  if (kind == "broken") return Fault::kBroken;
-  if (kind == "read-only") return Fault::kReadOnly;
-  if (kind == "stale") return Fault::kStale;
-  if (kind == "unplugged") return Fault::kUnplugged;
+  for (const auto& [name, fault] : kFaults) {
+    if (kind == name) return fault;
+  }
   return Fault::kNone;
 }
 
@@ -96,13 +93,13 @@ inline bool Fits(Fault fault, const Operation& operation) {
     case Fault::kKillBefore:
     case Fault::kKillAfter:
     case Fault::kReadOnly:
-      return operation.changes;
+      return operation.Has(kChanges);
     case Fault::kKillHalfway:
       return operation.name == kWrite.name;
     case Fault::kFull:
-      return operation.takesSpace;
+      return operation.Has(kTakesSpace);
     case Fault::kDenied:
-      return operation.needsPermission;
+      return operation.Has(kNeedsPermission);
     case Fault::kBroken:
     case Fault::kStale:
     case Fault::kUnplugged:
@@ -172,9 +169,8 @@ private:
 
   static std::string FittingFaults(const Operation& operation) {
     std::string text;
-    for (const char* kind : {"kill-before", "kill-after", "kill-halfway", "full", "denied", "broken",
-                             "read-only", "stale", "unplugged"}) {
-      if (Fits(FaultOf(kind), operation)) text += (text.empty() ? "" : ",") + std::string(kind);
+    for (const auto& [name, fault] : kFaults) {
+      if (Fits(fault, operation)) text += (text.empty() ? "" : ",") + std::string(name);
     }
     return text;
   }

@@ -8,7 +8,8 @@
 #include "platform/utf8.h"
 #include "shell/state/settings_file.h"
 #include "tests/fuzz/require.h"
-#include "tests/support/memory_machine.h"
+#include "tests/support/memory_file_system.h"
+#include "tests/support/test_folders.h"
 
 namespace {
 
@@ -71,9 +72,9 @@ void DefineProductKey(std::string_view bytes) {
   const std::string example(bytes.substr(0, end));
   const std::string part(bytes.substr(std::min(end + 1, bytes.size())));
   if (!platform::IsUtf8(example) || !platform::IsUtf8(part) || example.size() > INT16_MAX) return;
-  tests::MemoryMachine machine;
-  acquisition::DefineProductKey(machine.Facilities(), {}, example, part);
-  Require(acquisition::ProductKey(machine.files, kFolders, example) == part);
+  tests::MemoryFileSystem files;
+  acquisition::DefineProductKey(files, tests::TestFolders(), {}, example, part);
+  Require(acquisition::ProductKey(files, kFolders, example) == part);
 }
 
 void Registry(std::string_view bytes) {

@@ -86,21 +86,12 @@ TEST_P(EveryComparison, SeesAnOffsetOnlyWhereNothingRemovesIt) {
 
 TEST_P(EveryComparison, AgreesWithItsDefinitionInLongDouble) {
   for (const std::size_t points : {200U, 3601U}) {
-    for (const double shift : {0.5, 3.0, 20.0, 80.0}) {
+    for (const double shift : {0.1, 0.5, 3.0, 20.0, 80.0}) {
       const SpectrumBuffer standard = TwoBands(400, points);
       const SpectrumBuffer sample = TwoBands(400, points, shift);
       EXPECT_NEAR(GetParam().compare(standard, sample), GetParam().reference(standard, sample), 0.005001)
           << points << " points shifted by " << shift;
     }
-  }
-}
-
-TEST_P(EveryComparison, FallsAsTheBandsMoveApart) {
-  double before = 100;
-  for (const double shift : {0.1, 1.0, 5.0, 20.0}) {
-    const double quality = GetParam().compare(TwoBands(400, 200), TwoBands(400, 200, shift));
-    EXPECT_LT(quality, before) << shift;
-    before = quality;
   }
 }
 

@@ -1,5 +1,6 @@
 // The simulator panel, played without a window on a folder of its own.
 #include "apps/simulator_panel/frm_simulator.h"
+#include "platform/run_time_error.h"
 #include "platform/system/system_machine.h"
 #include "tests/support/script_run.h"
 #include "tests/support/temporary_folder.h"
@@ -264,6 +265,26 @@ TEST_F(PanelTest, ASpectrumShowsAlsoWhenTheDataFolderCameAfterThePanel) {
   FileSpectrum("Samples\\lot.bsp", "lot", 10);
   Refresh();
   EXPECT_EQ(Caption("lblSpectrum"), "lot");
+}
+
+TEST_F(PanelTest, ADriveThatIsGoneForAWhileHasNoSpectra) {
+  FileSpectrum("Samples\\lot.bsp", "lot", 0);
+  bool is_gone = false;
+  NewestSpectrum newest(machine_.files, machine_.clock, [&]() -> std::vector<std::string> {
+    if (is_gone) throw platform::RunTimeError(platform::ErrorNumber::kDiskNotReady);
+    return {"C:\\ProgramData\\Kestrova\\Veritane\\Samples"};
+  });
+  newest.Look();
+  ASSERT_TRUE(newest.Found());
+  EXPECT_EQ(newest.Found()->spectrum.name, "lot");
+
+  is_gone = true;
+  EXPECT_TRUE(newest.Look());
+  EXPECT_FALSE(newest.Found());
+
+  is_gone = false;
+  EXPECT_TRUE(newest.Look());
+  EXPECT_TRUE(newest.Found());
 }
 
 TEST_F(PanelTest, ClosingTheWindowEndsThePanel) {

@@ -28,10 +28,7 @@ TEST(AutomationValues, NumbersBecomeEachOtherWithinTheirRangeAndNothingElseBecom
 }
 
 TEST(AutomationWaiting, ABusyServerIsAskedAgainUntilItsTimeIsOver) {
-  AutomationWaiting waiting{.busyServerRaisesError = true,
-                            .pendingText = "",
-                            .pendingMilliseconds = 999999999,
-                            .busyMilliseconds = 10000};
+  AutomationWaiting waiting;
   EXPECT_GT(RetryDelay(waiting, 0), 0);
   EXPECT_GT(RetryDelay(waiting, 9999), 0);
   EXPECT_FALSE(RetryDelay(waiting, 10000));

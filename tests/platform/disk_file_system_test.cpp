@@ -1,4 +1,5 @@
-// Files on disk by Windows path: case, atomic replacement, errors by their numbers.
+// Files on disk by Windows path: case, atomic replacement, errors by their numbers; and what else the system
+// is asked for everywhere: registry, program folder, clock and dates.
 #include "platform/system/disk_file_system.h"
 
 #include "platform/system/native_file.h"
@@ -11,6 +12,7 @@
 #include <gtest/gtest.h>
 
 #include <fstream>
+#include <limits>
 
 namespace veritane::platform {
 namespace {
@@ -117,6 +119,39 @@ TEST_F(DiskFileSystemTest, TheRegistryGivesOnlyDwordsOfTheKeyAskedFor) {
       << "a string is no number";
   EXPECT_EQ(registry.ReadDword("Software\\Tarnex", "Obe Type"), std::nullopt);
   EXPECT_EQ(RegistryFile(folder_.Path() / "none").ReadDword("x", "y"), std::nullopt);
+}
+
+TEST_F(DiskFileSystemTest, TheProgramFolderIsWhereTheProgramLiesUnlessAFileBesideItNamesAnother) {
+  const fs::path programs = folder_.Path() / "drive_c" / "Programs";
+  fs::create_directories(programs);
+  const SystemShellFolders folders(paths_, programs);
+  EXPECT_EQ(folders.ProgramFolder(), "C:\\Programs");
+  std::ofstream(programs / "program_folder") << "C:\\ProgramData\\Kestrova\\Veritane\n";
+  EXPECT_EQ(folders.ProgramFolder(), "C:\\ProgramData\\Kestrova\\Veritane");
+  std::ofstream(programs / "program_folder", std::ios::trunc);
+  EXPECT_EQ(folders.ProgramFolder(), "C:\\Programs") << "an empty file names none";
+}
+
+TEST_F(DiskFileSystemTest, MomentsBeyondTheClocksRangeAreAnOverflow) {
+  for (const int year : {1500, 1676, 2263, 2300, 9999}) {
+    EXPECT_EQ(ErrorOf([&] { clock_.Set({.year = year, .month = 1, .day = 1}); }), 6) << year;
+  }
+  for (const std::int64_t seconds :
+       {std::int64_t{9'223'372'036}, std::int64_t{-9'223'372'037}, std::numeric_limits<std::int64_t>::max(),
+        std::numeric_limits<std::int64_t>::min()}) {
+    EXPECT_EQ(ErrorOf([&] { MomentAt(seconds); }), 6) << seconds;
+  }
+}
+
+TEST_F(DiskFileSystemTest, TheClockTellsAllMomentsInItsRangeAlsoTheSecondBeforeItsEpoch) {
+  for (const DateTime& moment :
+       {DateTime{.year = 1678, .month = 1, .day = 1},
+        DateTime{.year = 1969, .month = 12, .day = 31, .hour = 23, .minute = 59, .second = 59},
+        DateTime{.year = 2261, .month = 12, .day = 31}}) {
+    clock_.Set(moment);
+    EXPECT_EQ(clock_.LocalNow(), moment) << moment.year;
+  }
+  EXPECT_EQ(MomentAt(-1).time_since_epoch(), std::chrono::seconds(-1));
 }
 
 TEST_F(DiskFileSystemTest, DatesFollowTheLocaleThatWasAskedFor) {

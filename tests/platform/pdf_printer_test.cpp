@@ -46,7 +46,7 @@ protected:
     PdfPrinter printer(
         machine_.files, machine_.clock, [] { return "C:\\Prints"; }, queue);
     TextPrintout printout(title, text);
-    return printer.Print(printout);
+    return printer.Print(printout).value();
   }
   std::filesystem::path Native(const std::string& path) const { return machine_.paths.ToNative(path); }
 

@@ -81,7 +81,7 @@ protected:
   MainForm form_{run_.Screen(), Surroundings()};
 };
 
-TEST_F(MainFormTest, ShowingItExportsAndPredictsInTheFixedOrder) {
+TEST_F(MainFormTest, ShowingItExportsAndPredictsInTheFixedOrderAndItsResultsCountFromOne) {
   machine_.files.WriteBytes("C:\\temp.spc", "of the sample before");
   EXPECT_THAT(Predict(), IsEmpty());
   EXPECT_THAT(library_.Calls(),
@@ -91,17 +91,13 @@ TEST_F(MainFormTest, ShowingItExportsAndPredictsInTheFixedOrder) {
                           "CopyItem(5,constituent_names,64)", "GetItemSize(5,concentration)",
                           "CopyItem(5,concentration,2)", "UnLoadCalFile(5)", "drive"));
   EXPECT_TRUE(form_.Succeeded());
+  EXPECT_THAT(state_.PLSConstituentNames, ElementsAre("", "Octane", "Ethanol"));
+  EXPECT_THAT(state_.PLSConcentrations, ElementsAre(0, 91.5, 0.123456789));
   EXPECT_EQ(form_.lblCalFileName.Caption(), "C:\\gas.cal");
   EXPECT_THAT(form_.iqoutput.Items(),
               ElementsAre("Sample Name = Lot 7", "Octane = 91.5", "Ethanol = .123457"));
   EXPECT_EQ(form_.Combo1.Count(), 0) << "the calibration is unloaded";
   EXPECT_TRUE(form_.cmdPrint.Enabled());
-}
-
-TEST_F(MainFormTest, NamesAndConcentrationsCountFromOne) {
-  Predict();
-  EXPECT_THAT(state_.PLSConstituentNames, ElementsAre("", "Octane", "Ethanol"));
-  EXPECT_THAT(state_.PLSConcentrations, ElementsAre(0, 91.5, 0.123456789));
 }
 
 TEST_F(MainFormTest, TheCountIsThatOfThePredictionBefore) {

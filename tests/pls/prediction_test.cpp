@@ -141,29 +141,5 @@ TEST_F(Prediction, TextOnTheClipboardIsASpectrumToo) {
   EXPECT_EQ(pls.LoadClipboardText(), 5);
 }
 
-TEST_F(Prediction, ASpectrumOfAnotherRangeIsRefusedAndGivesNoResult) {
-  simulator::StoredSpectrum infrared;
-  infrared.spacing = 4;
-  infrared.ordinates = {.lower = 100, .values = std::vector<double>(401, 0.5)};
-  exported_ = simulator::WriteSpc(infrared);
-  Predict();
-  EXPECT_FALSE(form_.Succeeded());
-  ASSERT_FALSE(screen_.messages.empty());
-  EXPECT_EQ(screen_.messages.front().text,
-            "Source data does not match data information stored in the calibration file");
-}
-
-TEST_F(Prediction, AMissingCalibrationFileIsToldAndTheNextPredictionWorks) {
-  exported_ = Exported(kFirstPredicted);
-  state_.calfilename = "C:\\none.cal";
-  Predict();
-  ASSERT_FALSE(screen_.messages.empty());
-  EXPECT_EQ(screen_.messages.front().text, "Calibration file did not load. It cannot be read only.");
-  EXPECT_FALSE(form_.Succeeded());
-  state_.calfilename = "C:\\gas.cal";
-  Predict();
-  EXPECT_TRUE(form_.Succeeded());
-}
-
 }  // namespace
 }  // namespace veritane::pls

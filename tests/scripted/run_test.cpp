@@ -160,6 +160,21 @@ TEST(ClockAndInstrument, TakeWordsAndGiveEventsAtAnyTime) {
                                              "The clock cannot be set here."));
 }
 
+TEST(ClockAndInstrument, AMomentThatTheClockCannotTellIsRefusedAndLeavesTheOpenBoxAlone) {
+  SampleRun sample;
+  bool was_answered = false;
+  sample.run.program.setClock = [](const DateTime&) {
+    throw RunTimeError(ErrorNumber::kOverflow, "the date");
+  };
+  sample.frmMain.cmdGo.OnClick = [&] {
+    sample.run.Screen().ShowMessage({.text = "Ready", .title = ""});
+    was_answered = true;
+  };
+  const Events events = sample.Lines({"click frmMain.cmdGo", "now 2300-01-01T00:00", "answer OK"});
+  EXPECT_THAT(events.Refusals(), ElementsAre(HasSubstr("Overflow: the date")));
+  EXPECT_TRUE(was_answered);
+}
+
 TEST(PanelsAndStatus, AreReportedWhenTheyChange) {
   SampleRun sample;
   sample.frmMain.cmdGo.OnClick = [&] {

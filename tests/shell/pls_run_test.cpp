@@ -12,6 +12,7 @@ using ::testing::AnyOf;
 using ::testing::Each;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
+using ::testing::IsEmpty;
 using ::testing::StartsWith;
 
 class PlsRunTest : public ProgramTest {
@@ -97,6 +98,15 @@ TEST_F(PlsRunTest, APredictionThatFailsIsToldAndLeavesNoValues) {
   EXPECT_TRUE(IsVisible("frmVeritane.fraSpectrum")) << "the sample is filed and shown all the same";
 }
 
+TEST_F(PlsRunTest, APredictionWithoutASpectrumIsAnErrorAndItsFormGoesAgain) {
+  const auto show = [this] { run_.Screen().Perform([this] { run_.Screen().Find("MainForm")->Show(); }); };
+  const platform::Events events = Play({show, "answer OK"});
+  EXPECT_THAT(events.Refusals(), IsEmpty());
+  EXPECT_THAT(events.Messages(), ElementsAre(HasSubstr("there is no spectrum to predict")));
+  EXPECT_FALSE(run_.Screen().Find("MainForm")->Shown());
+  EXPECT_TRUE(IsVisible("frmVeritane.fraMainMenu"));
+}
+
 TEST_F(PlsRunTest, ANewStandardShowsWhatItsCalibrationPredicts) {
   std::vector<std::string> header;
   Play({"click frmVeritane.cmdSupervisor", "tab frmVeritane.SSTab1 3", "click frmVeritane.cmdCollectStdNow",
@@ -107,8 +117,7 @@ TEST_F(PlsRunTest, ANewStandardShowsWhatItsCalibrationPredicts) {
         [&] { header = program_->chart.Header(); }, "answer OK"});
   EXPECT_THAT(header, ElementsAre(StartsWith("Polystyrene = "), StartsWith("Polyethylene = ")));
   EXPECT_NEAR(program_->State().PLSConcentrations[1], 50, 4);
-  EXPECT_THAT(Read(Data("Meth.tbl")),
-              HasSubstr("BLEND-2,ATR crystal,PLS," + Standard("polymer blend.cal") + "\r\n"));
+  EXPECT_THAT(Table(), HasSubstr("BLEND-2,ATR crystal,PLS," + Standard("polymer blend.cal") + "\r\n"));
 }
 
 }  // namespace

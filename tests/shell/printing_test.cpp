@@ -19,7 +19,7 @@ using ::testing::Not;
 // A printer that does not answer.
 class GonePrinter : public platform::Printer {
 public:
-  std::string Print(platform::Printout&) override {
+  std::optional<std::string> Print(platform::Printout&) override {
     throw platform::RunTimeError(platform::ErrorNumber::kDeviceError, "the printer did not take the print");
   }
 };

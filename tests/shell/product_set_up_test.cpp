@@ -26,7 +26,6 @@ protected:
   acquisition::FrmNullRegion& Regions() {
     return dynamic_cast<acquisition::FrmNullRegion&>(*program_->Screen().Find("frmNullRegion"));
   }
-  std::string Table() { return Read(Data("Meth.tbl")); }
 };
 
 TEST_F(SetUpTest, AnAddedMethodIsKeptWithItsPromptsAndShowsInTheOtherListsWhenTheyAreLoadedNext) {

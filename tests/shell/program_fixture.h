@@ -35,6 +35,8 @@ protected:
 
   void Write(const std::string& path, const std::string& text) { machine_.files.WriteBytes(path, text); }
   std::string Read(const std::string& path) const { return machine_.files.ReadBytes(path); }
+  // The product table's text.
+  std::string Table() const { return Read(Data("Meth.tbl")); }
   // The spectra in a file.
   std::vector<simulator::StoredSpectrum> Spectra(const std::string& path) const {
     return simulator::ReadSpectrumFile(path, Read(path)).spectra;

@@ -57,16 +57,6 @@ TEST_F(RealSpectraTest, IdenticalSpectraGiveExactlyOneHundredAndOthersWhatTheirD
   }
 }
 
-TEST_F(RealSpectraTest, SpectraOfAnotherStartOrSpacingAreRefused) {
-  const Steps steps = WithOkays(EnterSample("PS"), 4);
-  CopyTestData("ftir/ldpe.jdx", Standard("aspirin.bsp"));
-  EXPECT_THAT(std::string(Play(steps).Last("message")["text"]), HasSubstr("have different starting points"));
-  CopyTestData("jcamp/pacdec1.jdx", Standard("aspirin.bsp"));
-  EXPECT_THAT(std::string(Play(steps).Last("message")["text"]),
-              HasSubstr("using different spectral resolutions"));
-  EXPECT_TRUE(machine_.files.ListFiles(Data("Samples")).empty());
-}
-
 TEST_F(RealSpectraTest, ADamagedStandardIsNamedAndEndsTheRun) {
   const std::string whole = Read(Standard("PS.bsp"));
   Write(Standard("PS.bsp"), whole.substr(0, 4000));

@@ -2,8 +2,6 @@
 // mistake.
 #include "tests/shell/program_fixture.h"
 
-#include <algorithm>
-
 namespace veritane::tests {
 namespace {
 
@@ -39,7 +37,6 @@ protected:
     EXPECT_EQ(program_->State().options.Password, "SECRET");
     EXPECT_EQ(program_->State().options.backOption, 2);
   }
-  std::string Table() { return Read(Data("Meth.tbl")); }
 };
 
 TEST_F(SafeguardsTest, APasswordOrTemplateThatTheSettingsCannotKeepIsRefusedAndCostsNoOther) {
@@ -128,9 +125,7 @@ TEST_F(SafeguardsTest, ADamagedNullRegionFileIsNeitherWrittenOverNorLeftOutOfACo
   WriteSpectrum(Standard("aspirin.bsp"), 100, 4, Bands(301));
   WriteSpectrum(Standard("back.bsp"), 100, 4, Bands(301));
   Play({"click frmVeritane.cmdMainMenu"});
-  Steps steps = EnterSample("A");
-  steps.emplace_back("answer OK");
-  EXPECT_EQ(Play(steps).Last("error")["number"], 62);
+  EXPECT_EQ(Play(WithOkays(EnterSample("A"))).Last("error")["number"], 62);
   EXPECT_EQ(Verdict(), "");
   EXPECT_FALSE(Exists(Sample("A.bsp")) || Exists(Sample("A.his")));
 }
@@ -195,8 +190,8 @@ TEST_F(SafeguardsTest, ANewStandardIsNotShownWithTheReportOfTheSampleBefore) {
   Play({"start"});
   RunDemonstration("A");
   ASSERT_TRUE(run_.Screen().Find("frmResults")->Shown());
-  Play({"click frmVeritane.cmdBacktoMainMenu", "click frmVeritane.cmdSupervisor", "tab frmVeritane.SSTab1 3",
-        "click frmVeritane.cmdCollectStdNow", "type frmCollectStd.txtProductID \"NEW\"",
+  Play(BackToTab(3));
+  Play({"click frmVeritane.cmdCollectStdNow", "type frmCollectStd.txtProductID \"NEW\"",
         "choose frmCollectStd.cmbmth \"Disc\"", "choose frmCollectStd.cmbAlg \"Euclidean\"",
         "click frmCollectStd.cmdScan", "answer OK", "answer OK", "answer OK",
         [this] {
@@ -218,19 +213,11 @@ TEST_F(SafeguardsTest, ARunThatEndsInAnErrorClosesEachDocumentOnce) {
   Write(Data("Film.nul"), "no regions");
   SetInstrument("polystyrene");
   Play({"start"});
+  Calls();
   const auto run = [&](const std::string& product, int boxes) {
-    Calls();
-    Steps steps = EnterSample(product);
-    steps.insert(steps.end(), static_cast<std::size_t>(boxes), "answer OK");
-    const auto error = Play(steps).Last("error");
-    EXPECT_TRUE(error.is_object()) << product;
-    const auto calls = Calls();
-    const auto begins = [&](const std::string& start) {
-      return std::ranges::count_if(calls, [&](const std::string& call) { return call.starts_with(start); });
-    };
-    EXPECT_EQ(begins("OpenDocument") + begins("NewDocument"), begins("CloseDocument"))
-        << product << ": " << ::testing::PrintToString(calls);
-    EXPECT_EQ(calls.empty() ? "" : calls.back(), "Interactive(true)") << product;
+    SCOPED_TRACE(product);
+    EXPECT_TRUE(Play(WithOkays(EnterSample(product), boxes)).Last("error").is_object());
+    ExpectHandedBack(Calls());
   };
   run("LONG", 1);
   run("NULL", 1);

@@ -37,7 +37,6 @@ protected:
   acquisition::FrmCollectStd& Dialog() {
     return dynamic_cast<acquisition::FrmCollectStd&>(*program_->Screen().Find("frmCollectStd"));
   }
-  std::string Table() { return Read(Data("Meth.tbl")); }
 };
 
 TEST_F(StandardTest, AMeasuredStandardBecomesAProductThatTheOperatorsSamplePasses) {
@@ -230,8 +229,7 @@ TEST_F(StandardTest, ChangesInTheGridAreNotLostWhenTheTableIsReadAnew) {
 
 TEST_F(StandardTest, AProductThatIsInTheTableAlreadyIsToldOf) {
   EnterStandardsTab();
-  Steps steps = Measured(Describe("aspirin-1", "Fourier"));
-  steps.emplace_back("answer OK");
+  const Steps steps = WithOkays(Measured(Describe("aspirin-1", "Fourier")));
   EXPECT_THAT(std::string(Play(steps).Last("message")["text"]),
               HasSubstr("earlier row for Product ID: aspirin-1"));
   EXPECT_EQ(Table(), " 2 \r\nASPIRIN-1,Disc,Euclidean,\r\naspirin-1,Disc,Fourier,\r\n");

@@ -14,17 +14,14 @@ protected:
   platform::Form& Status() { return *program_->Screen().Find("frmStatus"); }
 };
 
-TEST_F(WaitingTextTest, TheTextStandsInTheStatusWindowAsLongAsTheProgramWaits) {
+TEST_F(WaitingTextTest, TheTextStandsInTheStatusWindowWhileTheProgramWaitsAndWhatItSaidBeforeComesBack) {
   const auto show = acquisition::ShowInStatusWindow(program_->Screen());
   show("Wait until analyzer finishes process\u2026");
   EXPECT_TRUE(Status().Shown());
   EXPECT_EQ(Caption("frmStatus.lblStatus"), "Wait until analyzer finishes process\u2026");
   show("");
   EXPECT_FALSE(Status().Shown());
-}
 
-TEST_F(WaitingTextTest, WhatTheStatusWindowSaidBeforeComesBack) {
-  const auto show = acquisition::ShowInStatusWindow(program_->Screen());
   dynamic_cast<platform::Label&>(*Status().Find("lblStatus")).SetCaption(" Scanning...");
   Status().Show();
   show("Wait");

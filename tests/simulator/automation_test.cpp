@@ -146,10 +146,14 @@ TEST_F(AutomationClient, ASpectrumWithoutASpacingIsRefusedAndATransformNeedsNone
 }
 
 TEST_F(AutomationClient, TheWaitingBehaviourReachesTheSystem) {
-  app->SetWaiting({.pendingText = "Wait", .pendingMilliseconds = 999999999, .busyMilliseconds = 10000});
+  app->SetWaiting({.busyServerRaisesError = false,
+                   .pendingText = "Wait",
+                   .pendingMilliseconds = 1234,
+                   .busyMilliseconds = 567});
+  EXPECT_FALSE(automation.waiting.busyServerRaisesError);
   EXPECT_EQ(automation.waiting.pendingText, "Wait");
-  EXPECT_EQ(automation.waiting.pendingMilliseconds, 999999999);
-  EXPECT_EQ(automation.waiting.busyMilliseconds, 10000);
+  EXPECT_EQ(automation.waiting.pendingMilliseconds, 1234);
+  EXPECT_EQ(automation.waiting.busyMilliseconds, 567);
 }
 
 TEST_F(AutomationClient, AMethodOfAnotherApplicationIsRefused) {

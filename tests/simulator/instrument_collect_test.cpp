@@ -47,9 +47,7 @@ TEST(Collecting, EmptyAgainstEmptyIsZeroWithinTheNoise) {
 }
 
 TEST(Collecting, TheOrdinateIsTheMethods) {
-  CompartmentState quiet = InstrumentRig::Seeded(1);
-  quiet.noise = 0;
-  InstrumentRig rig(quiet);
+  InstrumentRig rig(InstrumentRig::Quiet());
   const Measurement background = rig.instrument.Collect(rig.Request());
   rig.PutSample("caffeine");
   const Measurement absorbance = rig.instrument.Collect(rig.RequestAgainst(background));
@@ -78,9 +76,7 @@ TEST(Collecting, ASeedRepeatsARunAndNotASingleCollection) {
 }
 
 TEST(Collecting, AgainstAWiderBackgroundUsesThePartUnderTheMethod) {
-  CompartmentState quiet = InstrumentRig::Seeded(1);
-  quiet.noise = 0;
-  InstrumentRig rig(quiet);
+  InstrumentRig rig(InstrumentRig::Quiet());
   const Measurement background = rig.instrument.Collect(rig.Request());
   rig.method.from = 1000;
   rig.method.to = 2000;
@@ -118,8 +114,10 @@ TEST(Collecting, ABackgroundThatDoesNotServeIsAnErrorNumber) {
   spoilt = background;
   spoilt.values.values[17] = std::numeric_limits<double>::quiet_NaN();
   EXPECT_EQ(error_against(spoilt), kBackgroundUnfit);
+  EXPECT_THAT(rig.reason, HasSubstr("no number"));
   spoilt.values.values.assign(background.values.Size(), 0.0);
   EXPECT_EQ(error_against(spoilt), kBackgroundUnfit);
+  EXPECT_THAT(rig.reason, HasSubstr("no energy at the points of C:\\Methods\\Initial.clm"));
 }
 
 TEST(Collecting, AnotherAccessoryThanTheMethodsIs11079UntilItIsChanged) {
@@ -129,6 +127,7 @@ TEST(Collecting, AnotherAccessoryThanTheMethodsIs11079UntilItIsChanged) {
   EXPECT_EQ(refused.error, acquisition::kWrongAccessory);
   EXPECT_TRUE(refused.values.Empty());
   EXPECT_EQ(rig.instrument.Align(rig.Request()), 11079);
+  EXPECT_EQ(rig.reason, "") << "the number tells all";
   CompartmentState state = InstrumentRig::Seeded(7);
   state.accessory = "atr";
   rig.Put(state);
@@ -145,6 +144,7 @@ TEST(Collecting, AFaultSetInTheCompartmentComesBackAsOftenAsItsCount) {
   EXPECT_EQ(rig.instrument.Align(rig.Request()), 5);
   EXPECT_EQ(rig.instrument.Collect(rig.Request()).error, 5);
   EXPECT_EQ(rig.instrument.Collect(rig.Request()).error, 0);
+  EXPECT_EQ(rig.reason, "") << "it was set in the compartment";
 }
 
 TEST(Collecting, UnreadableMethodsSamplesAndCompartmentsAreErrorNumbers) {
@@ -163,8 +163,9 @@ TEST(Collecting, UnreadableMethodsSamplesAndCompartmentsAreErrorNumbers) {
   // The alignment does not look at the sample.
   EXPECT_EQ(rig.instrument.Align(rig.Request()), 0);
 
-  rig.files.WriteBytes(InstrumentRig::kPath, "Noise = loud");
+  rig.files.WriteBytes(InstrumentRig::kPath, "Sample = empty\nNoise = loud");
   EXPECT_EQ(rig.instrument.Collect(rig.Request()).error, kCompartmentUnreadable);
+  EXPECT_THAT(rig.reason, ::testing::AllOf(HasSubstr(InstrumentRig::kPath), HasSubstr("line 2")));
   rig.files.readFault = 70;
   EXPECT_EQ(rig.instrument.Align(rig.Request()), kCompartmentUnreadable);
   CompartmentState faulty = InstrumentRig::Seeded(7);
@@ -188,10 +189,8 @@ TEST(Collecting, TakesTheTimeThatIsSet) {
   }
 }
 
-TEST(Collecting, ASpectrumFileInTheCompartmentIsMeasuredLikeAMaterial) {
-  CompartmentState quiet = InstrumentRig::Seeded(1);
-  quiet.noise = 0;
-  InstrumentRig rig(quiet);
+TEST(Collecting, ASpectrumFileInTheCompartmentIsMeasuredLikeAMaterialAndRefusedWithAGap) {
+  InstrumentRig rig(InstrumentRig::Quiet());
   StoredSpectrum film;
   film.spacing = 2;
   film.yUnits = "TRANSMITTANCE";
@@ -206,16 +205,7 @@ TEST(Collecting, ASpectrumFileInTheCompartmentIsMeasuredLikeAMaterial) {
   for (const auto& [path, spectrum] : rig.spectra) {
     for (double absorbance : rig.Absorbance(path)) ASSERT_NEAR(absorbance, -std::log10(0.25), 1e-9) << path;
   }
-}
-
-TEST(Collecting, ASpectrumFileWithAGapIsRefused) {
-  InstrumentRig rig;
-  StoredSpectrum film;
-  film.spacing = 2;
-  film.yUnits = "TRANSMITTANCE";
-  film.ordinates = {200, std::vector<double>(1801, 0.25)};
-  film.ordinates.values[44] = std::numeric_limits<double>::quiet_NaN();
-  rig.spectra["C:\\film.jdx"] = film;
+  rig.spectra["C:\\film.jdx"].ordinates.values[44] = std::numeric_limits<double>::quiet_NaN();
   rig.PutSample("C:\\film.jdx");
   EXPECT_EQ(rig.instrument.Collect(rig.Request()).error, kSampleUnreadable);
 }

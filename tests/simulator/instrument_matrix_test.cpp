@@ -9,7 +9,7 @@
 namespace veritane::simulator::instrument_tests {
 namespace {
 
-TEST(MaterialMatrix, EveryMaterialMatchesItselfAndNoOther) {
+TEST(MaterialMatrix, EveryMaterialMatchesItselfAndNoOtherNorAnEmptyCompartment) {
   InstrumentRig rig;
   std::vector<std::string> names;
   std::vector<std::vector<double>> standards;
@@ -19,7 +19,9 @@ TEST(MaterialMatrix, EveryMaterialMatchesItselfAndNoOther) {
     standards.push_back(rig.Absorbance(names.back()));
     samples.push_back(rig.Absorbance(names.back()));
   }
+  const std::vector<double> nothing = rig.Absorbance("empty");
   for (std::size_t i = 0; i < names.size(); ++i) {
+    EXPECT_LT(MatchQuality(standards[i], nothing), 70) << names[i];
     for (std::size_t k = 0; k < names.size(); ++k) {
       const double quality = MatchQuality(standards[i], samples[k]);
       if (i == k) {
@@ -29,14 +31,6 @@ TEST(MaterialMatrix, EveryMaterialMatchesItselfAndNoOther) {
         EXPECT_LT(quality, 70) << names[i] << " and " << names[k];
       }
     }
-  }
-}
-
-TEST(MaterialMatrix, AnEmptyCompartmentMatchesNothing) {
-  InstrumentRig rig;
-  const std::vector<double> nothing = rig.Absorbance("empty");
-  for (const Material& material : Materials().subspan(1)) {
-    EXPECT_LT(MatchQuality(rig.Absorbance(std::string(material.key)), nothing), 70) << material.key;
   }
 }
 

@@ -27,6 +27,13 @@ public:
     return state;
   }
 
+  // Without noise.
+  static CompartmentState Quiet() {
+    CompartmentState state = Seeded(1);
+    state.noise = 0;
+    return state;
+  }
+
   void Put(const CompartmentState& state) { Compartment(files, kPath).Write(state); }
   void PutSample(const std::string& sample) {
     CompartmentState state = Compartment(files, kPath).Read();

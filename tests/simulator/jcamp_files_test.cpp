@@ -2,6 +2,7 @@
 // the tables with a regular expression and added whole numbers, scaled in decimal arithmetic.
 #include "simulator/jcamp_reader.h"
 #include "simulator/spectrum_file.h"
+#include "tests/identification/reference.h"
 #include "tests/simulator/jcamp_text_samples.h"
 #include "tests/support/test_data.h"
 
@@ -126,25 +127,23 @@ TEST(RealFilesOnTheirGrid, APeakTableSaysThatItIsOne) {
 }
 
 TEST(RealFilesOnTheirGrid, ThePolymersLieOnTheirCommonGrid) {
-  struct Polymer {
-    const char* name;
+  struct Grid {
     std::int32_t lower;
     std::size_t points;
   };
-  for (const auto& [name, lower, points] :
-       {Polymer{"abs", 144, 656}, Polymer{"cellulose-acetate", 144, 656}, Polymer{"ldpe", 124, 676},
-        Polymer{"pa66", 144, 656}, Polymer{"pet", 80, 720}, Polymer{"phenoxy-resin", 80, 720},
-        Polymer{"pmma", 80, 720}, Polymer{"polyacetal", 124, 676}, Polymer{"polybutadiene", 80, 720},
-        Polymer{"polycarbonate", 80, 720}, Polymer{"polystyrene", 80, 720},
-        Polymer{"polyvinyl-acetate", 124, 676}, Polymer{"polyvinyl-alcohol", 124, 676},
-        Polymer{"pvc", 144, 656}, Polymer{"tpu", 124, 676}}) {
-    const StoredSpectrum spectrum = Opened(std::string("ftir/") + name + ".jdx");
-    EXPECT_EQ(spectrum.spacing, 5) << name;
-    EXPECT_EQ(spectrum.ordinates.lower, lower) << name;
-    EXPECT_EQ(spectrum.ordinates.Size(), points) << name;
-    EXPECT_EQ(TextParameter(spectrum, kWarningsParameter), "") << name;
-    EXPECT_EQ(TextParameter(spectrum, kInterpolatedParameter), "") << name;
-    EXPECT_THAT(spectrum.labels, ::testing::Contains(::testing::Field(&FileLabel::name, "ORIGIN"))) << name;
+  const std::vector<Grid> grids{{80, 720}, {124, 676}, {144, 656}};
+  const auto& groups = identification::reference::MaterialsByFirstWavenumber();
+  ASSERT_THAT(groups, SizeIs(grids.size()));
+  for (std::size_t i = 0; i < groups.size(); ++i) {
+    for (const std::string& name : groups[i]) {
+      const StoredSpectrum spectrum = Opened("ftir/" + name + ".jdx");
+      EXPECT_EQ(spectrum.spacing, 5) << name;
+      EXPECT_EQ(spectrum.ordinates.lower, grids[i].lower) << name;
+      EXPECT_EQ(spectrum.ordinates.Size(), grids[i].points) << name;
+      EXPECT_EQ(TextParameter(spectrum, kWarningsParameter), "") << name;
+      EXPECT_EQ(TextParameter(spectrum, kInterpolatedParameter), "") << name;
+      EXPECT_THAT(spectrum.labels, ::testing::Contains(::testing::Field(&FileLabel::name, "ORIGIN"))) << name;
+    }
   }
 }
 

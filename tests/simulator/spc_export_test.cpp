@@ -181,9 +181,11 @@ TEST_F(SpcExport, EachKindOfOperationHasItsOwnPropertyAlone) {
   EXPECT_EQ(ErrorOf([&] { exporting->SetOperation(6); }), 5);
   EXPECT_EQ(ErrorOf([&] { unary->SetFileName("C:\\temp.spc"); }), 5);
   exporting->SetFileName("c:\\temp.spc");
+  unary->SetOperation(6);
   document->ApplyOperation(*exporting);
+  document->ApplyOperation(*unary);
   EXPECT_THAT(simulated.TakeCalls(), ElementsAre("CreateOperation(Export)", "CreateOperation(Unary)",
-                                                 "ApplyOperation(c:\\temp.spc)"));
+                                                 "ApplyOperation(c:\\temp.spc)", "ApplyOperation(6)"));
 }
 
 TEST(SpcExportOnDisk, FoldersAndCaseOfTheDriveAreThoseOfSaving) {

@@ -89,12 +89,5 @@ TEST_F(OperatorWindowTest, AReportLiesBesideItsSpectrumUntilEscape) {
   EXPECT_TRUE(is_asked_for);
 }
 
-TEST_F(OperatorWindowTest, MarkedPeaksStandOnTheChart) {
-  MeasureSample("polystyrene-peaks");
-  ASSERT_TRUE(main_.fraSpectrum.IsShown());
-  EXPECT_FALSE(main_.chart.Markers().empty());
-  KeepScreenshot("marked-peaks.png");
-}
-
 }  // namespace
 }  // namespace veritane::platform

@@ -123,20 +123,5 @@ TEST_F(SupervisorWindowTest, ThePartOfAProductIdIsHighlightedWithMouseOrKeyboard
   std::filesystem::remove(machine_.paths.ToNative(definition));
 }
 
-TEST_F(SupervisorWindowTest, ATableOfTenThousandProductsOpensAtOnce) {
-  std::string table = " 10000 \r\n";
-  for (int i = 1; i <= 10000; ++i) table += "PRODUCT-" + std::to_string(i) + ",Pressed disc,Euclidean,\r\n";
-  machine_.files.WriteBytes("C:\\ProgramData\\Kestrova\\Veritane\\Meth.tbl", table);
-  main_.cmdSupervisor.Click();
-  main_.SSTab1.SetTab(shell::kStandardsTab);
-  Settle();
-  EXPECT_EQ(main_.grid.RowCount(), 10001);
-  EXPECT_LT(Widget("grid")->GetChildren().size(), 20U) << "the grid draws what is visible, no widget a row";
-  main_.grid.SetRow(9999);
-  Settle();
-  EXPECT_EQ(main_.lblCurrentProductID.Caption(), "PRODUCT-9999");
-  KeepScreenshot("ten-thousand-products.png");
-}
-
 }  // namespace
 }  // namespace veritane::platform

@@ -67,6 +67,12 @@ protected:
     control.SetFocus();
     Settle();
   }
+  void Paste(const char* text) {
+    ASSERT_TRUE(wxTheClipboard->Open());
+    wxTheClipboard->SetData(new wxTextDataObject(text));
+    wxTheClipboard->Close();
+    Press('V', wxMOD_CONTROL);
+  }
   std::string Shown(const std::string& name) {
     return dynamic_cast<wxTextEntry&>(*Widget(name)).GetValue().utf8_string();
   }
@@ -92,11 +98,8 @@ TEST_F(WxControlsTest, TypedKeysReachTheBoxOnlyWhenTheProgramAllowsThem) {
 TEST_F(WxControlsTest, PastedTextIsNotFiltered) {
   form_.box.OnKeyPress = [](int) { return false; };
   OpenEntry();
-  ASSERT_TRUE(wxTheClipboard->Open());
-  wxTheClipboard->SetData(new wxTextDataObject("seven"));
-  wxTheClipboard->Close();
   Focus(form_.box);
-  Press('V', wxMOD_CONTROL);
+  Paste("seven");
   EXPECT_EQ(form_.box.Text(), "seven");
 }
 
@@ -104,12 +107,9 @@ TEST_F(WxControlsTest, WhatTheBoxDropsOfAPastedTextIsNotOnScreenEither) {
   form_.box.SetText("seven");
   form_.changes.clear();
   OpenEntry();
-  ASSERT_TRUE(wxTheClipboard->Open());
-  wxTheClipboard->SetData(new wxTextDataObject("\t\t"));
-  wxTheClipboard->Close();
   Focus(form_.box);
   Press(WXK_END);
-  Press('V', wxMOD_CONTROL);
+  Paste("\t\t");
   EXPECT_EQ(Shown("box"), "seven");
   EXPECT_EQ(form_.box.Text(), "seven");
   EXPECT_THAT(form_.changes, ElementsAre());

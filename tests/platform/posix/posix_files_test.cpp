@@ -1,16 +1,19 @@
 // What a POSIX system's files are asked for beyond the rules that hold everywhere: mapped paths, a full disk,
-// death.
+// death, folders and files that are not as they should be, and two programs at work in one folder.
 #include "platform/system/system_machine.h"
 #include "tests/support/errors.h"
 #include "tests/support/temporary_folder.h"
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/resource.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <csignal>
 #include <cstdlib>
+#include <fstream>
 
 namespace veritane::platform {
 namespace {
@@ -20,16 +23,17 @@ using tests::ErrorOf;
 
 class PosixFilesTest : public ::testing::Test {
 protected:
-  PosixFilesTest() { fs::create_directories(folder_.Path() / "drive_c" / "Data"); }
+  PosixFilesTest() { fs::create_directories(data_); }
 
   tests::TemporaryFolder folder_;
+  const fs::path data_ = folder_.Path() / "drive_c" / "Data";
   PathMap paths_{folder_.Path()};
   SystemClock clock_;
   DiskFileSystem files_{paths_, clock_};
 };
 
 TEST_F(PosixFilesTest, WhatCannotBeLookedAtIsNotTakenForMissing) {
-  fs::create_symlink("loop", folder_.Path() / "drive_c" / "Data" / "loop");
+  fs::create_symlink("loop", data_ / "loop");
   EXPECT_EQ(ErrorOf([&] { files_.FileExists("C:\\Data\\loop"); }), 57);
   EXPECT_EQ(ErrorOf([&] { files_.FolderExists("C:\\Data\\loop"); }), 57);
   EXPECT_EQ(ErrorOf([&] { files_.MoveFile("C:\\Data\\loop", "C:\\Data\\other"); }), 57);
@@ -103,6 +107,55 @@ TEST_F(PosixFilesTest, AProgramThatDiesDuringARewriteLeavesTheOldTableOrTheNewOn
   EXPECT_GT(new_ones, 0) << "no rewrite was ever under way";
   files_.WriteBytes(path, "whole");
   EXPECT_EQ(files_.ReadBytes(path), "whole") << "what a dead writer left behind does not stand in the way";
+}
+
+TEST_F(PosixFilesTest, NamesThatLeadNowhereAreNotListedAndHideNoOthers) {
+  files_.WriteBytes("C:\\Data\\one", "1");
+  fs::create_symlink("loop", data_ / "loop");
+  fs::create_symlink("nothing", data_ / "dangling");
+  fs::create_directory(data_ / "folder");
+  files_.WriteBytes("C:\\Data\\two", "2");
+  EXPECT_EQ(files_.ListFiles("C:\\Data"), (std::vector<std::string>{"one", "two"}));
+}
+
+TEST_F(PosixFilesTest, WhyAFolderCannotBeListedShowsInTheError) {
+  files_.WriteBytes("C:\\Data\\file", "");
+  fs::create_symlink("loop", data_ / "loop");
+  EXPECT_EQ(ErrorOf([&] { files_.ListFiles("C:\\None"); }), 76);
+  EXPECT_EQ(ErrorOf([&] { files_.ListFiles("C:\\Data\\file"); }), 76);
+  EXPECT_EQ(ErrorOf([&] { files_.ListFiles("C:\\Data\\loop"); }), 57);
+}
+
+TEST_F(PosixFilesTest, ATimeThatTheClockCannotTellIsAnOverflow) {
+  files_.WriteBytes("C:\\Data\\back.bsp", "x");
+  const timespec late{.tv_sec = 10'413'792'000, .tv_nsec = 0};  // the year 2300
+  const timespec times[2] = {late, late};
+  const fs::path native = data_ / "back.bsp";
+  ASSERT_EQ(::utimensat(AT_FDCWD, native.c_str(), times, 0), 0);
+  struct stat status {};
+  ASSERT_EQ(::stat(native.c_str(), &status), 0);
+  if (status.st_mtim.tv_sec != late.tv_sec) GTEST_SKIP() << "this file system knows no such time";
+  EXPECT_EQ(ErrorOf([&] { files_.LastModified("C:\\Data\\back.bsp"); }), 6);
+}
+
+TEST_F(PosixFilesTest, ClearingUpTakesNothingFromAProgramThatWrites) {
+  const fs::path stale = data_ / "Meth.tbl.x7Gh2K.unfinished";
+  std::ofstream(stale) << "x";
+  const pid_t clearer = ::fork();
+  ASSERT_GE(clearer, 0);
+  if (clearer == 0) {
+    for (;;) files_.ClearUnfinished("C:\\Data");
+  }
+  // It is at work once it has taken what a dead writer left.
+  for (int waited = 0; waited < 50000 && fs::exists(stale); ++waited) ::usleep(100);
+  EXPECT_FALSE(fs::exists(stale));
+  int failures = 0;
+  for (int i = 0; i < 200; ++i)
+    failures += ErrorOf([&] { files_.WriteBytes("C:\\Data\\table", "x"); }) == 0 ? 0 : 1;
+  ::kill(clearer, SIGKILL);
+  ::waitpid(clearer, nullptr, 0);
+  EXPECT_EQ(failures, 0);
+  EXPECT_EQ(files_.ListFiles("C:\\Data"), std::vector<std::string>{"table"});
 }
 
 }  // namespace

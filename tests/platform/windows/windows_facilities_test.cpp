@@ -1,10 +1,13 @@
-// The registry, the names and the regional formats of Windows itself.
+// The registry with what registering a server leaves in it, the names and the regional formats of Windows
+// itself.
+#include "platform/automation_server.h"
 #include "platform/system/system_machine.h"
 #include "tests/support/errors.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <array>
 #include <string>
 // Behind the program's own headers, whose names its macros would change.
 #include "platform/windows/windows_time.h"
@@ -54,6 +57,48 @@ TEST_F(WindowsRegistryTest, OnlyADwordCounts) {
     EXPECT_EQ(registry_->ReadDword(kKey, other), std::nullopt) << other;
   }
   EXPECT_EQ(registry_->ReadDword(std::string(kKey) + "\\none", "Obe Type"), std::nullopt);
+}
+
+TEST_F(WindowsRegistryTest, OnlyAValueThatTheFirstViewLacksIsLookedForInTheOther) {
+  if (sizeof(void*) == 4) GTEST_SKIP() << "the two views are one for a 32-bit program";
+  HKEY other = nullptr;
+  ASSERT_EQ(::RegCreateKeyExA(HKEY_LOCAL_MACHINE, kKey, 0, nullptr, 0, KEY_WRITE | KEY_WOW64_32KEY, nullptr,
+                              &other, nullptr),
+            ERROR_SUCCESS);
+  const DWORD six = 6;
+  EXPECT_EQ(
+      ::RegSetValueExA(other, "Obe Type", 0, REG_DWORD, reinterpret_cast<const BYTE*>(&six), sizeof six),
+      ERROR_SUCCESS);
+  EXPECT_EQ(registry_->ReadDword(kKey, "Obe Type"), 6U);
+  Store("Obe Type", REG_SZ, "6", 2);
+  EXPECT_EQ(registry_->ReadDword(kKey, "Obe Type"), std::nullopt) << "the first view has it, as another type";
+  ::RegCloseKey(other);
+  ::RegDeleteKeyExA(HKEY_LOCAL_MACHINE, kKey, KEY_WOW64_32KEY, 0);
+}
+
+const ServedClass kServed{.progId = "Veritane.RegistrationTest.1",
+                          .classId = "{6D5B0B5C-5C43-4D0E-9A53-6E0F3B8E7A11}",
+                          .description = "Veritane registration test"};
+const std::string kServerKey = "Software\\Classes\\CLSID\\" + kServed.classId + "\\LocalServer32";
+
+std::string CommandLineIn(HKEY hive) {
+  std::array<char, 64> text{};
+  DWORD size = sizeof text;
+  const LSTATUS status =
+      ::RegGetValueA(hive, kServerKey.c_str(), nullptr, RRF_RT_REG_SZ, nullptr, text.data(), &size);
+  return status == ERROR_SUCCESS ? text.data() : "";
+}
+
+TEST(WindowsRegistration, AnOlderOneOfTheUsersOwnDoesNotStayInForce) {
+  ASSERT_EQ(::RegSetKeyValueA(HKEY_CURRENT_USER, kServerKey.c_str(), nullptr, REG_SZ, "old", 4),
+            ERROR_SUCCESS);
+  RegisterServer(kServed, "new");
+  const std::string users = CommandLineIn(HKEY_CURRENT_USER);
+  const std::string everybodys = CommandLineIn(HKEY_LOCAL_MACHINE);
+  // Where only an administrator may write for everybody, the user's own is the new one.
+  EXPECT_EQ(users.empty() ? everybodys : users, "new");
+  UnregisterServer(kServed);
+  EXPECT_EQ(CommandLineIn(HKEY_CURRENT_USER) + CommandLineIn(HKEY_LOCAL_MACHINE), "");
 }
 
 TEST(WindowsNames, UserAndComputerHaveNamesWithoutWhatLiesBehindThem) {
