@@ -4,6 +4,7 @@
 
 #include "platform/number_text.h"
 
+#include <deque>
 #include <string>
 #include <string_view>
 #include <type_traits>
@@ -14,6 +15,9 @@ namespace veritane::simulator {
 
 class CallLog {
 public:
+  // So many calls are kept, the last ones: a run may be as long as it likes.
+  static constexpr std::size_t kMostCalls = 10'000;
+
   // Notes one call. Truth values are written true and false, numbers in their shortest form, texts as they
   // are.
   template <typename... Arguments>
@@ -25,13 +29,17 @@ public:
       ((call.append(separator).append(Text(arguments)), separator = ", "), ...);
       call += ')';
     }
+    if (calls_.size() == kMostCalls) calls_.pop_front();
     calls_.push_back(std::move(call));
   }
 
   // The calls since the last taking.
-  std::vector<std::string> Take() { return std::exchange(calls_, {}); }
+  std::vector<std::string> Take() {
+    const auto calls = std::exchange(calls_, {});
+    return {calls.begin(), calls.end()};
+  }
 
-  // Lets go of the calls from now on: where nobody takes them, they would grow as long as the program runs.
+  // Lets go of the calls from now on, where nobody takes them.
   void KeepNothing() {
     keeps_ = false;
     calls_.clear();
@@ -51,7 +59,7 @@ private:
     }
   }
 
-  std::vector<std::string> calls_;
+  std::deque<std::string> calls_;
   bool keeps_ = true;
 };
 
