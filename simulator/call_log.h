@@ -4,6 +4,7 @@
 
 #include "platform/number_text.h"
 
+#include <cstddef>
 #include <deque>
 #include <string>
 #include <string_view>
@@ -15,14 +16,13 @@ namespace veritane::simulator {
 
 class CallLog {
 public:
-  // So many calls are kept, the last ones: a run may be as long as it likes.
+  // So many calls are kept, the last ones: where nobody takes them, a run may still be as long as it likes.
   static constexpr std::size_t kMostCalls = 10'000;
 
   // Notes one call. Truth values are written true and false, numbers in their shortest form, texts as they
   // are.
   template <typename... Arguments>
   void Note(std::string_view operation, const Arguments&... arguments) {
-    if (!keeps_) return;
     std::string call(operation);
     if constexpr (sizeof...(arguments) > 0) {
       std::string_view separator = "(";
@@ -37,12 +37,6 @@ public:
   std::vector<std::string> Take() {
     const auto calls = std::exchange(calls_, {});
     return {calls.begin(), calls.end()};
-  }
-
-  // Lets go of the calls from now on, where nobody takes them.
-  void KeepNothing() {
-    keeps_ = false;
-    calls_.clear();
   }
 
 private:
@@ -60,7 +54,6 @@ private:
   }
 
   std::deque<std::string> calls_;
-  bool keeps_ = true;
 };
 
 }  // namespace veritane::simulator

@@ -30,7 +30,6 @@ struct Program {
         printer(
             platform::SystemPrinter(machine.files, machine.clock, [this] { return main.PrintFolder(); })) {
     desktop.UsePrinter(*printer);
-    bench.Calls().KeepNothing();
     bench.OnPrint(
         [&screen](const std::string& file) { screen.NotePrint(platform::PrintKind::kTemplate, file); });
   }

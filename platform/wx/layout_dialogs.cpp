@@ -1,8 +1,10 @@
 // The dialogs, and which form has which layout.
+#include "platform/form.h"
 #include "platform/wx/layout_parts.h"
 #include "platform/wx/layouts.h"
 
 #include <map>
+#include <string_view>
 
 namespace veritane::platform {
 

@@ -56,7 +56,6 @@ private:
   // The window that a box belongs to: the one the user looks at.
   wxWindow* FrontWindow() const;
   FormWindow* WindowOf(const Form& form) const;
-
   void MakeWindow(Form& form);
 
   PathMapping paths_;

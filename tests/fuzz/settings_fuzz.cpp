@@ -16,8 +16,6 @@ namespace {
 using namespace veritane;
 using fuzz::Require;
 
-constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
-
 // Strings stand bare in the settings: a comma, a quote before or blanks around them do not survive, nor does
 // a line end.
 bool SurvivesBare(const std::string& text) {
@@ -46,7 +44,7 @@ const state::DataFolders kFolders{
 
 void Prompts(std::string_view bytes) {
   // A text that begins with a mark of its own behind the file's loses it when it is written.
-  if (bytes.starts_with(kByteOrderMark)) return;
+  if (bytes.starts_with(platform::kByteOrderMark)) return;
   tests::MemoryFileSystem files;
   files.WriteBytes(acquisition::PromptsPath(kFolders, "Disc"), bytes);
   const acquisition::Prompts prompts = acquisition::LoadPrompts(files, kFolders, "Disc");

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <optional>
 
 namespace veritane::tests {
 namespace {
@@ -22,6 +23,12 @@ public:
   std::optional<std::string> Print(platform::Printout&) override {
     throw platform::RunTimeError(platform::ErrorNumber::kDeviceError, "the printer did not take the print");
   }
+};
+
+// A printer whose box the user closes.
+class GivenUpPrinter : public platform::Printer {
+public:
+  std::optional<std::string> Print(platform::Printout&) override { return std::nullopt; }
 };
 
 class PrintingTest : public ProgramTest {
@@ -80,6 +87,16 @@ TEST_F(PrintingTest, APrinterThatIsGoneIsToldAndTheProgramGoesOn) {
   ExpectResultIsSafe();
   run_.Screen().UsePrinter(printer_);
   FileOf(Play({"click frmVeritane.cmdPrint"}), "chart");
+}
+
+TEST_F(PrintingTest, APrintThatTheUserGivesUpIsNotToldAsPrinted) {
+  RunDemonstration("ASPIRIN-1");
+  GivenUpPrinter given_up;
+  run_.Screen().UsePrinter(given_up);
+  const auto events = Play({"click frmVeritane.cmdPrint"});
+  EXPECT_THAT(events.Messages(), IsEmpty());
+  EXPECT_THAT(events.Named("print"), IsEmpty());
+  run_.Screen().UsePrinter(printer_);
 }
 
 TEST_F(PrintingTest, AFolderThatTakesNoFileIsToldAndTheProgramGoesOn) {
